@@ -1,0 +1,223 @@
+/*
+ * app_s2j.h - libapp_s2j: appliance records <-> JSON.
+ *
+ * Ownership, once for the whole library: the caller owns every record, record
+ * array, count, text and tree it passes in; the library never keeps a pointer
+ * to any of them past the call.  A text returned by s2j_<T> or s2j_array_<T>
+ * is allocated with malloc() and the caller frees it with free().  A tree
+ * returned by struct_to_json_<T> or by the cJSON integer functions belongs to
+ * the caller, who frees it with cJSON_Delete().  Every tree the library makes
+ * or parses for itself is freed before the call returns.
+ *
+ * Status codes returned by the c2s, j2s, f2s and s2f families:
+ *    0  success
+ *   -1  the record reader rejected a member (wrong JSON type); the record or
+ *       array is left partly filled, never rolled back
+ *   -2  a required argument is NULL or zero, the tree is of the wrong JSON
+ *       type, the text does not parse, or an update element lacks its key
+ *   -7  a file could not be opened for writing, or was written short
+ *  -15  a file could not be opened for reading, there was no memory for its
+ *       text, or there was no text to write
+ *
+ * Diagnostics: every failure a family detects itself is reported on stderr
+ * in three writes: "\033[1;31m<ERROR! file:line, function>: ", the message,
+ * and "\033[0m".  Nothing is printed on success.  The library has no other
+ * output, no options and no global state of its own.  Calls are safe from any
+ * thread as long as no two threads share a record, an array or a file; the
+ * parse-error position that diagnostics quote is cJSON's, and process-wide.
+ */
+#ifndef APP_S2J_H
+#define APP_S2J_H
+
+#include <stddef.h>
+#include <cjson/cJSON.h>
+#include "app_s2j_types.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* ======================================================================
+ * 64-bit integers on top of cJSON
+ *
+ * An integer item is a cJSON number item carrying the library's integer mark
+ * (a bit of `type` above cJSON's own flags; cJSON's type tests ignore it).
+ * Its value is exact over the whole int64_t range: below 10^15 in magnitude
+ * the item is a cJSON_Number whose double holds the value exactly; from 10^15
+ * on it is a cJSON_Raw item whose text is the decimal value, so that
+ * cJSON_Print() writes it digit for digit.  Every text the library parses is
+ * marked the same way: an integer literal (no fraction, no exponent) within
+ * the int64_t range becomes an integer item, any other number does not.  In a
+ * tree parsed by plain cJSON no item is marked, and an integral number within
+ * the int64_t range counts as an integer.
+ * ====================================================================== */
+
+/* A new integer item holding num exactly, or NULL when out of memory. */
+cJSON *cJSON_CreateInt(int64_t num);
+/* Adds cJSON_CreateInt(num) to object under name; the new item, or NULL
+ * (nothing added) when object or name is NULL or memory runs out. */
+cJSON *cJSON_AddIntToObject(cJSON *object, const char *name, int64_t num);
+/* True when item is an integer item (see above); false for NULL. */
+cJSON_bool cJSON_IsInt(const cJSON *item);
+
+/* ======================================================================
+ * The families.  T is a record type of app_s2j_types.h; each type has only
+ * the members listed for it below.
+ *
+ * Emitter and reader (every type):
+ *   cJSON *struct_to_json_T(const T *struct_ptr);
+ *     A new object holding every field in order, or NULL when the object
+ *     itself cannot be made.  struct_ptr must not be NULL.
+ *   int json_to_struct_T(T *struct_ptr, const cJSON *json);
+ *     1 on success, 0 at the first member of the wrong JSON type.  Absent
+ *     keys are skipped; keys match without regard to letter case.  Integers
+ *     are stored as their low 32 (16) bits; strings are cut to N-1 bytes.
+ *
+ * Single records:
+ *   char *s2j_T(const T *struct_ptr, int formatted);      text or NULL
+ *   int c2s_T(const cJSON *json, T *struct_ptr);          status
+ *   int j2s_T(const char *json_str, T *struct_ptr);       status
+ *   int j2s_T_with_len(const char *json_str, size_t json_str_len, T *struct_ptr);
+ *
+ * Record arrays (*struct_array_size: capacity in, elements filled out; the
+ * count is written only on success; a NULL struct_array asks for the number
+ * of elements of the JSON array):
+ *   char *s2j_array_T(const T *struct_array, uint32_t struct_array_size, int formatted);
+ *   int c2s_array_T(const cJSON *json, T *struct_array, uint32_t *struct_array_size);
+ *   int j2s_array_T(const char *json_str, T *struct_array, uint32_t *struct_array_size);
+ *   int j2s_array_T_with_len(const char *json_str, size_t json_str_len,
+ *                            T *struct_array, uint32_t *struct_array_size);
+ *
+ * Keyed update (each JSON element names an element of struct_array by its key
+ * fields and is applied to the first element with equal keys; on success the
+ * count becomes the number of JSON elements applied):
+ *   int c2s_array_update_T(const cJSON *json, T *struct_array, uint32_t *struct_array_size);
+ *   int j2s_array_update_T(const char *json_str, T *struct_array, uint32_t *struct_array_size);
+ *   int j2s_array_update_T_with_len(const char *json_str, size_t json_str_len,
+ *                                   T *struct_array, uint32_t *struct_array_size);
+ *   int json_to_struct_TKeyword(TKeyword *keyword, const cJSON *json);
+ *     1 when every key field was read, 0 at the first absent or mistyped one.
+ *   int json_to_struct_GetTKeyword(<first key> *key, const cJSON *json);
+ *     The same for the first key only (a string key is char[64]).
+ *
+ * Files (one record or one record array per file, indented JSON, written in
+ * place and synced; fine_name is the file's path):
+ *   int f2s_T(const char *fine_name, T *struct_ptr);
+ *   int s2f_T(const char *fine_name, const T *struct_ptr);
+ *   int f2s_array_T(const char *fine_name, T *struct_array, uint32_t *struct_array_size);
+ *   int s2f_array_T(const char *fine_name, const T *struct_array, uint32_t struct_array_size);
+ * ====================================================================== */
+
+#define APP_S2J_DECLARE_RECORD(T) \
+    cJSON *struct_to_json_##T(const T *struct_ptr); \
+    int json_to_struct_##T(T *struct_ptr, const cJSON *json);
+#define APP_S2J_DECLARE_S2J(T) char *s2j_##T(const T *struct_ptr, int formatted);
+#define APP_S2J_DECLARE_C2S(T) int c2s_##T(const cJSON *json, T *struct_ptr);
+#define APP_S2J_DECLARE_J2S(T) \
+    int j2s_##T(const char *json_str, T *struct_ptr); \
+    int j2s_##T##_with_len(const char *json_str, size_t json_str_len, T *struct_ptr);
+#define APP_S2J_DECLARE_TEXT(T) APP_S2J_DECLARE_S2J(T) APP_S2J_DECLARE_C2S(T) APP_S2J_DECLARE_J2S(T)
+#define APP_S2J_DECLARE_S2J_ARRAY(T) \
+    char *s2j_array_##T(const T *struct_array, uint32_t struct_array_size, int formatted);
+#define APP_S2J_DECLARE_C2S_ARRAY(T) \
+    int c2s_array_##T(const cJSON *json, T *struct_array, uint32_t *struct_array_size);
+#define APP_S2J_DECLARE_J2S_ARRAY(T) \
+    int j2s_array_##T(const char *json_str, T *struct_array, uint32_t *struct_array_size); \
+    int j2s_array_##T##_with_len(const char *json_str, size_t json_str_len, T *struct_array, \
+                                 uint32_t *struct_array_size);
+#define APP_S2J_DECLARE_ARRAY(T) \
+    APP_S2J_DECLARE_S2J_ARRAY(T) APP_S2J_DECLARE_C2S_ARRAY(T) APP_S2J_DECLARE_J2S_ARRAY(T)
+#define APP_S2J_DECLARE_UPDATE(T) \
+    int c2s_array_update_##T(const cJSON *json, T *struct_array, uint32_t *struct_array_size); \
+    int j2s_array_update_##T(const char *json_str, T *struct_array, uint32_t *struct_array_size); \
+    int j2s_array_update_##T##_with_len(const char *json_str, size_t json_str_len, T *struct_array, \
+                                        uint32_t *struct_array_size);
+#define APP_S2J_DECLARE_KEYWORD(T) int json_to_struct_##T##Keyword(T##Keyword *keyword, const cJSON *json);
+#define APP_S2J_DECLARE_GET_INT_KEYWORD(T, CType, Key) \
+    int json_to_struct_Get##T##Keyword(CType *Key, const cJSON *json);
+#define APP_S2J_DECLARE_GET_STR_KEYWORD(T, Key) \
+    int json_to_struct_Get##T##Keyword(char Key[64], const cJSON *json);
+#define APP_S2J_DECLARE_F2S(T) int f2s_##T(const char *fine_name, T *struct_ptr);
+#define APP_S2J_DECLARE_S2F(T) int s2f_##T(const char *fine_name, const T *struct_ptr);
+#define APP_S2J_DECLARE_F2S_ARRAY(T) \
+    int f2s_array_##T(const char *fine_name, T *struct_array, uint32_t *struct_array_size);
+#define APP_S2J_DECLARE_S2F_ARRAY(T) \
+    int s2f_array_##T(const char *fine_name, const T *struct_array, uint32_t struct_array_size);
+
+/* ======================================================================
+ * System, time and account records
+ * ====================================================================== */
+
+APP_S2J_DECLARE_RECORD(DeviceInfo)
+APP_S2J_DECLARE_TEXT(DeviceInfo)
+APP_S2J_DECLARE_F2S(DeviceInfo)
+APP_S2J_DECLARE_S2F(DeviceInfo)
+
+APP_S2J_DECLARE_RECORD(DeviceCapabilitySet)
+APP_S2J_DECLARE_TEXT(DeviceCapabilitySet)
+APP_S2J_DECLARE_F2S(DeviceCapabilitySet)
+
+APP_S2J_DECLARE_RECORD(DeviceTime)
+APP_S2J_DECLARE_TEXT(DeviceTime)
+APP_S2J_DECLARE_KEYWORD(DeviceTime)
+
+APP_S2J_DECLARE_RECORD(AdvancedParameter)
+APP_S2J_DECLARE_TEXT(AdvancedParameter)
+APP_S2J_DECLARE_F2S(AdvancedParameter)
+APP_S2J_DECLARE_S2F(AdvancedParameter)
+
+APP_S2J_DECLARE_RECORD(TimeZone)
+APP_S2J_DECLARE_ARRAY(TimeZone)
+APP_S2J_DECLARE_F2S_ARRAY(TimeZone)
+
+APP_S2J_DECLARE_RECORD(TimeZoneParameter)
+APP_S2J_DECLARE_TEXT(TimeZoneParameter)
+APP_S2J_DECLARE_F2S(TimeZoneParameter)
+APP_S2J_DECLARE_S2F(TimeZoneParameter)
+
+APP_S2J_DECLARE_RECORD(NTPServer)
+APP_S2J_DECLARE_ARRAY(NTPServer)
+APP_S2J_DECLARE_F2S_ARRAY(NTPServer)
+
+APP_S2J_DECLARE_RECORD(NTPParameter)
+APP_S2J_DECLARE_TEXT(NTPParameter)
+APP_S2J_DECLARE_F2S(NTPParameter)
+APP_S2J_DECLARE_S2F(NTPParameter)
+
+APP_S2J_DECLARE_RECORD(CrontabCapabilitySet)
+APP_S2J_DECLARE_TEXT(CrontabCapabilitySet)
+APP_S2J_DECLARE_F2S(CrontabCapabilitySet)
+
+APP_S2J_DECLARE_RECORD(CrontabParameter)
+APP_S2J_DECLARE_ARRAY(CrontabParameter)
+APP_S2J_DECLARE_UPDATE(CrontabParameter)
+APP_S2J_DECLARE_KEYWORD(CrontabParameter)
+APP_S2J_DECLARE_GET_INT_KEYWORD(CrontabParameter, uint32_t, Index)
+APP_S2J_DECLARE_F2S_ARRAY(CrontabParameter)
+APP_S2J_DECLARE_S2F_ARRAY(CrontabParameter)
+
+/* ======================================================================
+ * Media input and encoding records
+ * ====================================================================== */
+
+/* ======================================================================
+ * Streaming records
+ * ====================================================================== */
+
+/* ======================================================================
+ * Network and serial records
+ * ====================================================================== */
+
+/* ======================================================================
+ * Storage, recording and snapshot records
+ * ====================================================================== */
+
+/* ======================================================================
+ * Output and display records
+ * ====================================================================== */
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif /* APP_S2J_H */

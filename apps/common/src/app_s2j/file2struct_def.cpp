@@ -1,0 +1,136 @@
+// file2struct_def.cpp - the file families, and from line 115 their
+// instantiation list: per type one line for reading, the next for writing.
+// They move whole texts between files and the text families; the only
+// diagnostic of their own is a missing file name.
+#include "s2j_families.h"
+
+#ifndef S2J_REGISTRY_PASS
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <unistd.h>
+
+#include "s2j_messages.h"
+
+namespace s2j {
+namespace {
+
+using J2sFn = int (*)(const char *, void *);
+using J2sArrayFn = int (*)(const char *, void *, uint32_t *);
+
+// The whole file as a nul-terminated text, or null with *status -15 when the
+// file cannot be opened or its text cannot be held.  The size comes from
+// seeking to the end; the text ends where fread() stopped, so a file that
+// shrank meanwhile is read as what is left.
+char *read_text(const char *path, int *status) {
+    *status = -15;
+    FILE *f = std::fopen(path, "r");
+    if (f == nullptr) return nullptr;
+    std::fseek(f, 0, SEEK_END);
+    long size = std::ftell(f);
+    std::fseek(f, 0, SEEK_SET);
+    if (size < 0) size = 0;  // not seekable: read as empty
+    char *text = static_cast<char *>(std::malloc(static_cast<size_t>(size) + 1));
+    if (text == nullptr) {
+        std::fclose(f);
+        return nullptr;
+    }
+    size_t got = std::fread(text, 1, static_cast<size_t>(size), f);
+    text[got] = '\0';
+    std::fclose(f);
+    *status = 0;
+    return text;
+}
+
+// Writes text (owned, freed here) to path in place: -15 without text, -7
+// when the file cannot be opened or is written short.  The descriptor is
+// synced before the stream is closed, as the stream hands it over.
+int write_text(const char *path, char *text) {
+    if (text == nullptr) return -15;
+    FILE *f = std::fopen(path, "w");
+    if (f == nullptr) {
+        std::perror("fopen");
+        std::free(text);
+        return -7;
+    }
+    int fd = fileno(f);
+    size_t len = std::strlen(text);
+    int rc = 0;
+    if (std::fwrite(text, 1, len, f) < len) {
+        std::perror("fwrite");
+        rc = -7;
+    }
+    fsync(fd);
+    std::fclose(f);
+    std::free(text);
+    return rc;
+}
+
+}  // namespace
+
+int file_f2s(const Site *s, const char *fine_name, void *rec, J2sFn j2s) {
+    if (fine_name == nullptr) {
+        diag(s, S2J_MSG_FINE_NAME_EMPTY);
+        return -2;
+    }
+    int rc;
+    char *text = read_text(fine_name, &rc);
+    if (text == nullptr) return rc;
+    rc = j2s(text, rec);
+    std::free(text);
+    return rc;
+}
+
+int file_f2s_array(const Site *s, const char *fine_name, void *arr, uint32_t *count, J2sArrayFn j2s) {
+    if (fine_name == nullptr) {
+        diag(s, S2J_MSG_FINE_NAME_EMPTY);
+        return -2;
+    }
+    int rc;
+    char *text = read_text(fine_name, &rc);
+    if (text == nullptr) return rc;
+    rc = j2s(text, arr, count);
+    std::free(text);
+    return rc;
+}
+
+int file_s2f(const Site *s, const char *fine_name, char *(*make_text)(const void *, uint32_t),
+             const void *data, uint32_t count) {
+    if (fine_name == nullptr) {
+        diag(s, S2J_MSG_FINE_NAME_EMPTY);
+        return -2;
+    }
+    return write_text(fine_name, make_text(data, count));
+}
+
+}  // namespace s2j
+
+// Files always hold indented JSON: the writers ask for formatted text.
+#define S2J_DEF_F2S(T) S2J_API int f2s_##T(const char *fine_name, T *struct_ptr) { S2J_SITE("f2s_" #T); return ::s2j::file_f2s(&site, fine_name, struct_ptr, +[](const char *t, void *p) { return j2s_##T(t, static_cast<T *>(p)); }); }
+#define S2J_DEF_S2F(T) S2J_API int s2f_##T(const char *fine_name, const T *struct_ptr) { S2J_SITE("s2f_" #T); return ::s2j::file_s2f(&site, fine_name, +[](const void *p, uint32_t) { return s2j_##T(static_cast<const T *>(p), 1); }, struct_ptr, 1); }
+#define S2J_DEF_F2S_ARRAY(T) S2J_API int f2s_array_##T(const char *fine_name, T *struct_array, uint32_t *struct_array_size) { S2J_SITE("f2s_array_" #T); return ::s2j::file_f2s_array(&site, fine_name, struct_array, struct_array_size, +[](const char *t, void *p, uint32_t *n) { return j2s_array_##T(t, static_cast<T *>(p), n); }); }
+#define S2J_DEF_S2F_ARRAY(T) S2J_API int s2f_array_##T(const char *fine_name, const T *struct_array, uint32_t struct_array_size) { S2J_SITE("s2f_array_" #T); return ::s2j::file_s2f(&site, fine_name, +[](const void *p, uint32_t n) { return s2j_array_##T(static_cast<const T *>(p), n, 1); }, struct_array, struct_array_size); }
+#endif  // S2J_REGISTRY_PASS
+static_assert(__LINE__ == 114, "the instantiation list must begin on line 115");
+S2J_DEF_F2S(CrontabCapabilitySet)
+
+S2J_DEF_F2S_ARRAY(CrontabParameter)
+S2J_DEF_S2F_ARRAY(CrontabParameter)
+
+S2J_DEF_F2S(DeviceInfo)
+S2J_DEF_S2F(DeviceInfo)
+
+S2J_DEF_F2S(DeviceCapabilitySet)
+
+S2J_DEF_F2S(AdvancedParameter)
+S2J_DEF_S2F(AdvancedParameter)
+
+S2J_DEF_F2S_ARRAY(TimeZone)
+
+S2J_DEF_F2S(TimeZoneParameter)
+S2J_DEF_S2F(TimeZoneParameter)
+
+S2J_DEF_F2S_ARRAY(NTPServer)
+
+S2J_DEF_F2S(NTPParameter)
+S2J_DEF_S2F(NTPParameter)

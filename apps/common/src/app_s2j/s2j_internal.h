@@ -1,0 +1,247 @@
+// s2j_internal.h - field tables and the table-driven record engines.
+//
+// A record type is described once, by a table of Field rows derived from its
+// struct (key = member name, offset, size, kind from the member's C type), and
+// checked against the struct at compile time.  The emitter, the reader and the
+// keyword readers of every type are thin wrappers over the engines below.
+#ifndef APP_S2J_INTERNAL_H
+#define APP_S2J_INTERNAL_H
+
+#include <cstddef>
+#include <cstdint>
+#include <type_traits>
+
+#include "app_s2j.h"
+
+namespace s2j {
+
+enum class Kind : uint8_t {
+    I32,      // int32_t: emitted sign-extended
+    U32,      // uint32_t: emitted zero-extended
+    U16,      // uint16_t: emitted zero-extended, read as the low 16 bits
+    Str,      // char[N]: bounded string
+    U32List,  // uint32_t[N]: a JSON array of integers
+};
+
+struct Field {
+    const char *key;  // JSON key, the member's own name
+    uint32_t offset;
+    uint32_t size;  // bytes
+    Kind kind;
+};
+
+// A key field of a keyed record type: where the record holds it and where its
+// keyword record holds it (a string key is char[64] in the keyword record).
+struct Key {
+    Field field;
+    uint32_t keyword_offset;
+};
+
+inline constexpr uint32_t kKeyStringSize = 64;
+inline constexpr uint32_t kMaxKeywordSize = 256;  // bytes of the largest keyword record
+
+struct TypeDesc {
+    const char *name;
+    uint32_t size;
+    const Field *fields;
+    uint32_t field_count;
+    const Key *keys;  // in key order; null for types without keys
+    uint32_t key_count;
+};
+
+// ---- Kinds from C types ------------------------------------------------
+
+template <class M>
+struct KindOf;
+template <> struct KindOf<int32_t> { static constexpr Kind value = Kind::I32; };
+template <> struct KindOf<uint32_t> { static constexpr Kind value = Kind::U32; };
+template <> struct KindOf<uint16_t> { static constexpr Kind value = Kind::U16; };
+template <size_t N> struct KindOf<char[N]> { static constexpr Kind value = Kind::Str; };
+template <size_t N> struct KindOf<uint32_t[N]> { static constexpr Kind value = Kind::U32List; };
+
+constexpr uint32_t align_of(Kind k) {
+    return k == Kind::Str ? 1 : k == Kind::U16 ? 2 : 4;
+}
+
+// Replays the natural C layout of the table's kinds and sizes: true when each
+// row sits exactly where the previous one ends (after alignment) and the last
+// one ends where the struct does.  A member left out, repeated or out of order
+// breaks this.
+constexpr bool covers(const Field *f, size_t n, size_t struct_size) {
+    size_t end = 0, max_align = 1;
+    for (size_t i = 0; i < n; ++i) {
+        size_t a = align_of(f[i].kind);
+        end = (end + a - 1) / a * a;
+        if (f[i].offset != end) return false;
+        end += f[i].size;
+        if (a > max_align) max_align = a;
+    }
+    return (end + max_align - 1) / max_align * max_align == struct_size;
+}
+
+template <size_t N>
+constexpr bool keyword_record_covers(const Key (&k)[N], size_t struct_size) {
+    Field f[N] = {};
+    for (size_t i = 0; i < N; ++i) {
+        f[i] = k[i].field;
+        f[i].offset = k[i].keyword_offset;
+        if (f[i].kind == Kind::Str) f[i].size = kKeyStringSize;
+    }
+    return covers(f, N, struct_size);
+}
+
+// ---- Engines (s2j_codec.cpp) ------------------------------------------
+
+// Integer value of an item for which cJSON_IsInt() holds.
+int64_t int_value(const cJSON *item);
+
+// Parses text as cJSON_Parse (len == 0 with nul-terminated text) or
+// cJSON_ParseWithLength (with_len) does, then marks every number item as
+// integer or not from its literal in the text.
+cJSON *parse_marked(const char *text, size_t len, bool with_len);
+
+cJSON *emit_record(const TypeDesc *d, const void *rec);
+// strict: every field must be present (the whole-record keyword reader).
+int read_record(const TypeDesc *d, void *rec, const cJSON *json, bool strict);
+// Reads the key fields into a keyword record; all required.
+int read_keys(const TypeDesc *d, void *keyword, const cJSON *json);
+// Reads the first key field into *out (a 32-bit integer or char[64]).
+int read_first_key(const TypeDesc *d, void *out, const cJSON *json);
+// True when the record's key fields equal the keyword record's.
+bool keys_match(const TypeDesc *d, const void *rec, const void *keyword);
+
+}  // namespace s2j
+
+// Definition of an exported function of the C API.
+#define S2J_API extern "C" __attribute__((visibility("default")))
+
+// ---- Table rows --------------------------------------------------------
+
+#define S2J_FIELD(T, m)                                                                        \
+    ::s2j::Field {                                                                             \
+        #m, static_cast<uint32_t>(offsetof(T, m)), static_cast<uint32_t>(sizeof(T::m)),        \
+            ::s2j::KindOf<std::remove_cv_t<decltype(T::m)>>::value                              \
+    }
+// A key field of T that its keyword record T##Keyword holds too.
+#define S2J_KEY(T, m) \
+    ::s2j::Key { S2J_FIELD(T, m), static_cast<uint32_t>(offsetof(T##Keyword, m)) }
+// The key field of a type that has only the single-key reader.
+#define S2J_GET_KEY(T, m) \
+    ::s2j::Key { S2J_FIELD(T, m), 0 }
+
+// ---- Per-type definitions ----------------------------------------------
+//
+// Each record type is defined by its table T##_fields (and T##_keys) followed
+// by one of these, which checks the table against the struct and defines the
+// type's descriptor, its emitter and reader and the keyword readers it has.
+// Built with S2J_TABLES_ONLY (the internal library), the same lines define
+// the descriptors and registry hooks only; the functions then come from the
+// shared library.
+
+#define S2J_CHECK_TABLE(T)                                                                    \
+    static_assert(::s2j::covers(T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0]), sizeof(T)), \
+                  #T ": field table does not match the struct member for member")
+
+#define S2J_DESC(T, keys, nkeys)                                                               \
+    namespace s2j {                                                                            \
+    extern const TypeDesc desc_##T;                                                            \
+    constexpr TypeDesc desc_##T = {#T, sizeof(T), T##_fields,                                  \
+                                   sizeof(T##_fields) / sizeof(T##_fields[0]), keys, nkeys};   \
+    }
+
+#ifdef S2J_TABLES_ONLY
+#include "registry.h"
+#define S2J_HOOKS(T, keyword, get, kwsize)                                                     \
+    namespace s2j {                                                                            \
+    extern const TypeHooks hooks_##T;                                                          \
+    constexpr TypeHooks hooks_##T = {                                                          \
+        +[](const void *p) { return struct_to_json_##T(static_cast<const T *>(p)); },          \
+        +[](void *p, const cJSON *j) { return json_to_struct_##T(static_cast<T *>(p), j); },   \
+        keyword, get, kwsize};                                                                 \
+    }
+#define S2J_FUNCS(T)
+#define S2J_KW_FN(T) +[](void *k, const cJSON *j) { return json_to_struct_##T##Keyword(static_cast<T##Keyword *>(k), j); }
+#define S2J_STRICT_FN(T) +[](void *k, const cJSON *j) { return json_to_struct_##T##Keyword(static_cast<T *>(k), j); }
+#define S2J_GET_FN(T, m) +[](void *k, const cJSON *j) { return json_to_struct_Get##T##Keyword(static_cast<::s2j::GetArg<decltype(T::m)>>(k), j); }
+#define S2J_KW_FUNC(T)
+#define S2J_STRICT_FUNC(T)
+#define S2J_GET_FUNC(T, m)
+#else
+#define S2J_HOOKS(T, keyword, get, kwsize)
+#define S2J_FUNCS(T)                                                                           \
+    S2J_API cJSON *struct_to_json_##T(const T *struct_ptr) {                                \
+        return ::s2j::emit_record(&::s2j::desc_##T, struct_ptr);                               \
+    }                                                                                          \
+    S2J_API int json_to_struct_##T(T *struct_ptr, const cJSON *json) {                      \
+        return ::s2j::read_record(&::s2j::desc_##T, struct_ptr, json, false);                  \
+    }
+#define S2J_KW_FN(T) nullptr
+#define S2J_STRICT_FN(T) nullptr
+#define S2J_GET_FN(T, m) nullptr
+#define S2J_KW_FUNC(T)                                                                         \
+    static_assert(::s2j::keyword_record_covers(T##_keys, sizeof(T##Keyword)),                  \
+                  #T "Keyword: keyword record does not hold the keys in key order");           \
+    static_assert(sizeof(T##Keyword) <= ::s2j::kMaxKeywordSize, #T "Keyword: too large");      \
+    S2J_API int json_to_struct_##T##Keyword(T##Keyword *keyword, const cJSON *json) {       \
+        return ::s2j::read_keys(&::s2j::desc_##T, keyword, json);                              \
+    }
+#define S2J_STRICT_FUNC(T)                                                                     \
+    S2J_API int json_to_struct_##T##Keyword(T *struct_ptr, const cJSON *json) {             \
+        return ::s2j::read_record(&::s2j::desc_##T, struct_ptr, json, true);                   \
+    }
+#define S2J_GET_FUNC(T, m)                                                                     \
+    static_assert(T##_keys[0].field.offset == offsetof(T, m), #T ": " #m " is not its first key"); \
+    S2J_API int json_to_struct_Get##T##Keyword(::s2j::GetArg<decltype(T::m)> m, const cJSON *json) { \
+        return ::s2j::read_first_key(&::s2j::desc_##T, m, json);                               \
+    }
+#endif
+
+namespace s2j {
+// The argument of a single-key reader: a pointer to an integer key, or the
+// 64-byte buffer of a string key.
+template <class M> struct GetArgOf { using type = M *; };
+template <size_t N> struct GetArgOf<char[N]> { using type = char *; };
+template <class M> using GetArg = typename GetArgOf<std::remove_cv_t<M>>::type;
+}  // namespace s2j
+
+// A record with no keys.
+#define S2J_RECORD(T)                                                                          \
+    S2J_CHECK_TABLE(T);                                                                        \
+    S2J_DESC(T, nullptr, 0)                                                                    \
+    S2J_FUNCS(T)                                                                               \
+    S2J_HOOKS(T, nullptr, nullptr, 0)
+
+#define S2J_KEYED_DESC(T)                                                                      \
+    S2J_CHECK_TABLE(T);                                                                        \
+    S2J_DESC(T, T##_keys, sizeof(T##_keys) / sizeof(T##_keys[0]))                              \
+    S2J_FUNCS(T)
+
+// Keyed array element: json_to_struct_TKeyword and json_to_struct_GetTKeyword
+// (first key m).
+#define S2J_RECORD_KEYWORD_GET(T, m)                                                           \
+    S2J_KEYED_DESC(T)                                                                          \
+    S2J_KW_FUNC(T)                                                                             \
+    S2J_GET_FUNC(T, m)                                                                         \
+    S2J_HOOKS(T, S2J_KW_FN(T), S2J_GET_FN(T, m), sizeof(T##Keyword))
+
+// Keyword reader only (no single-key reader).
+#define S2J_RECORD_KEYWORD(T)                                                                  \
+    S2J_KEYED_DESC(T)                                                                          \
+    S2J_KW_FUNC(T)                                                                             \
+    S2J_HOOKS(T, S2J_KW_FN(T), nullptr, sizeof(T##Keyword))
+
+// Single-key reader only (status records); T##_keys holds S2J_GET_KEY(T, m).
+#define S2J_RECORD_GET(T, m)                                                                   \
+    S2J_KEYED_DESC(T)                                                                          \
+    S2J_GET_FUNC(T, m)                                                                         \
+    S2J_HOOKS(T, nullptr, S2J_GET_FN(T, m), 0)
+
+// A record whose "keyword" reader is its reader with every field required.
+#define S2J_RECORD_STRICT(T)                                                                   \
+    S2J_CHECK_TABLE(T);                                                                        \
+    S2J_DESC(T, nullptr, 0)                                                                    \
+    S2J_FUNCS(T)                                                                               \
+    S2J_STRICT_FUNC(T)                                                                         \
+    S2J_HOOKS(T, S2J_STRICT_FN(T), nullptr, sizeof(T))
+
+#endif  // APP_S2J_INTERNAL_H

@@ -1,0 +1,43 @@
+// s2j_typelist.h - every record type of the library, by subsystem.  The
+// registry has one entry per name here; each name needs its struct in
+// app_s2j_types.h and its table in its subsystem's source file.
+#ifndef APP_S2J_TYPELIST_H
+#define APP_S2J_TYPELIST_H
+
+#include "s2j_internal.h"
+
+#define S2J_TYPES_SYSTEM(X) \
+    X(DeviceInfo)           \
+    X(DeviceCapabilitySet)  \
+    X(DeviceTime)           \
+    X(AdvancedParameter)    \
+    X(TimeZone)             \
+    X(TimeZoneParameter)    \
+    X(NTPServer)            \
+    X(NTPParameter)         \
+    X(CrontabCapabilitySet) \
+    X(CrontabParameter)
+
+#define S2J_TYPES_ACCOUNT(X)
+#define S2J_TYPES_MEDIA(X)
+#define S2J_TYPES_STREAMING(X)
+#define S2J_TYPES_NETWORK(X)
+#define S2J_TYPES_STORAGE(X)
+#define S2J_TYPES_OUTPUT(X)
+
+#define S2J_TYPES(X)       \
+    S2J_TYPES_SYSTEM(X)    \
+    S2J_TYPES_ACCOUNT(X)   \
+    S2J_TYPES_MEDIA(X)     \
+    S2J_TYPES_STREAMING(X) \
+    S2J_TYPES_NETWORK(X)   \
+    S2J_TYPES_STORAGE(X)   \
+    S2J_TYPES_OUTPUT(X)
+
+namespace s2j {
+#define S2J_DECLARE_DESC(T) extern const TypeDesc desc_##T;
+S2J_TYPES(S2J_DECLARE_DESC)
+#undef S2J_DECLARE_DESC
+}  // namespace s2j
+
+#endif  // APP_S2J_TYPELIST_H
