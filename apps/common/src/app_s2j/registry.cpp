@@ -108,7 +108,7 @@ static_assert(Fam<CrontabParameter, kF2sArray>::line == 117 && Fam<CrontabParame
 
 #define S2J_ROW(T, sub) {#T, &desc_##T, &hooks_##T, families<T>(), sub},
 #define S2J_ROW_SYSTEM(T) S2J_ROW(T, "system")
-#define S2J_ROW_ACCOUNT(T) S2J_ROW(T, "account")
+#define S2J_ROW_ACCOUNT(T) S2J_ROW(T, "system")
 #define S2J_ROW_MEDIA(T) S2J_ROW(T, "media")
 #define S2J_ROW_STREAMING(T) S2J_ROW(T, "streaming")
 #define S2J_ROW_NETWORK(T) S2J_ROW(T, "network")

@@ -6,6 +6,7 @@
 
 #include "s2j_internal.h"
 
+// Device identity, time, time zone, NTP and scheduled tasks.
 #define S2J_TYPES_SYSTEM(X) \
     X(DeviceInfo)           \
     X(DeviceCapabilitySet)  \
@@ -18,11 +19,22 @@
     X(CrontabCapabilitySet) \
     X(CrontabParameter)
 
+// Users and passwords.
 #define S2J_TYPES_ACCOUNT(X)
+
+// Media input and encoding.
 #define S2J_TYPES_MEDIA(X)
+
+// Streaming output, protocol streams, servers and streaming inputs.
 #define S2J_TYPES_STREAMING(X)
+
+// Network, wireless and serial.
 #define S2J_TYPES_NETWORK(X)
+
+// Storage, recording and snapshots.
 #define S2J_TYPES_STORAGE(X)
+
+// Output, display, sources, audio output, screenshots, OSD and watermarks.
 #define S2J_TYPES_OUTPUT(X)
 
 #define S2J_TYPES(X)       \

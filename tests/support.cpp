@@ -1,0 +1,90 @@
+#include "support.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <fstream>
+#include <sstream>
+#include <vector>
+
+namespace testing_support {
+
+StderrCapture::StderrCapture() {
+    std::fflush(stderr);
+    char path[] = "/tmp/app_s2j_stderr_XXXXXX";
+    fd_ = mkstemp(path);
+    unlink(path);
+    saved_ = dup(2);
+    dup2(fd_, 2);
+}
+
+std::string StderrCapture::text() {
+    if (done_) return text_;
+    done_ = true;
+    std::fflush(stderr);
+    dup2(saved_, 2);
+    close(saved_);
+    lseek(fd_, 0, SEEK_SET);
+    char buf[4096];
+    ssize_t n;
+    while ((n = read(fd_, buf, sizeof buf)) > 0) text_.append(buf, static_cast<size_t>(n));
+    close(fd_);
+    return text_;
+}
+
+StderrCapture::~StderrCapture() { text(); }
+
+std::string text_list_file() { return std::string(APP_S2J_SOURCE_DIR) + "/apps/common/src/app_s2j/app_s2j.cpp"; }
+std::string file_list_file() {
+    return std::string(APP_S2J_SOURCE_DIR) + "/apps/common/src/app_s2j/file2struct_def.cpp";
+}
+
+std::string diag(const std::string &file, int line, const std::string &func, const std::string &msg) {
+    return "\033[1;31m<ERROR! " + file + ":" + std::to_string(line) + ", " + func + ">: " + msg + "\033[0m";
+}
+
+namespace {
+std::vector<std::string> &dirs() {
+    static std::vector<std::string> d;
+    return d;
+}
+void remove_dirs() {
+    for (const std::string &d : dirs()) {
+        std::string cmd = "rm -rf '" + d + "'";
+        if (std::system(cmd.c_str()) != 0) std::fprintf(stderr, "could not remove %s\n", d.c_str());
+    }
+}
+}  // namespace
+
+std::string temp_dir() {
+    char path[] = "/tmp/app_s2j_test_XXXXXX";
+    if (mkdtemp(path) == nullptr) std::abort();
+    if (dirs().empty()) std::atexit(remove_dirs);
+    dirs().push_back(path);
+    return path;
+}
+
+std::string read_file(const std::string &path) {
+    std::ifstream in(path, std::ios::binary);
+    std::stringstream ss;
+    ss << in.rdbuf();
+    return ss.str();
+}
+
+void write_file(const std::string &path, const std::string &text) {
+    std::ofstream out(path, std::ios::binary);
+    out << text;
+}
+
+bool file_exists(const std::string &path) {
+    struct stat st;
+    return stat(path.c_str(), &st) == 0;
+}
+
+Text::~Text() { std::free(p); }
+
+}  // namespace testing_support

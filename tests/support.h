@@ -1,0 +1,61 @@
+// support.h - helpers shared by the tests: capture of the standard error
+// stream, temporary files, and the expected bytes of a diagnostic.
+#ifndef APP_S2J_TEST_SUPPORT_H
+#define APP_S2J_TEST_SUPPORT_H
+
+#include <string>
+
+#include "app_s2j.h"
+
+namespace testing_support {
+
+// Redirects file descriptor 2 to a temporary file until text() is called.
+class StderrCapture {
+public:
+    StderrCapture();
+    ~StderrCapture();
+    // Stops capturing (once) and returns everything written meanwhile.
+    std::string text();
+
+private:
+    int saved_ = -1;
+    int fd_ = -1;
+    std::string text_;
+    bool done_ = false;
+};
+
+// Paths of the instantiation lists as their diagnostics print them.
+std::string text_list_file();
+std::string file_list_file();
+
+// The three writes of one diagnostic.
+std::string diag(const std::string &file, int line, const std::string &func, const std::string &msg);
+
+// A fresh empty directory for the test, removed with its files at exit.
+std::string temp_dir();
+std::string read_file(const std::string &path);
+void write_file(const std::string &path, const std::string &text);
+bool file_exists(const std::string &path);
+
+// Owns a malloc'ed text.
+struct Text {
+    explicit Text(char *p) : p(p) {}
+    ~Text();
+    Text(const Text &) = delete;
+    Text &operator=(const Text &) = delete;
+    std::string str() const { return p ? std::string(p) : std::string("<null>"); }
+    char *p;
+};
+
+// Owns a cJSON tree.
+struct Tree {
+    explicit Tree(cJSON *p) : p(p) {}
+    ~Tree() { cJSON_Delete(p); }
+    Tree(const Tree &) = delete;
+    Tree &operator=(const Tree &) = delete;
+    cJSON *p;
+};
+
+}  // namespace testing_support
+
+#endif
