@@ -90,15 +90,30 @@ constexpr bool keyword_record_covers(const Key (&k)[N], size_t struct_size) {
     return covers(f, N, struct_size);
 }
 
-// ---- Engines (s2j_codec.cpp) ------------------------------------------
+// ---- Integer items (s2j_int.cpp, s2j_parse.cpp) ------------------------
+
+inline constexpr int kIntMark = 1 << 12;     // an integer item
+inline constexpr int kNotIntMark = 1 << 13;  // a parsed number that is not one
+inline constexpr int64_t kRawThreshold = 1000000000000000LL;  // 10^15: raw form from here
+inline constexpr double kTwo63 = 9223372036854775808.0;
+
+inline int type_of(const cJSON *item) { return item->type & 0xFF; }
+
+// Decimal text of v into buf (at least 21 bytes); returns buf.
+char *format_int(int64_t v, char *buf);
+// The int nearest to v, as cJSON keeps in valueint.
+int saturate_int(int64_t v);
 
 // Integer value of an item for which cJSON_IsInt() holds.
 int64_t int_value(const cJSON *item);
 
-// Parses text as cJSON_Parse (len == 0 with nul-terminated text) or
-// cJSON_ParseWithLength (with_len) does, then marks every number item as
-// integer or not from its literal in the text.
+// Parses text as cJSON_Parse (nul-terminated text) or cJSON_ParseWithLength
+// (with_len, len bytes) does, then marks every number item as an integer
+// item or not from its literal in the text.  Null when the text does not
+// parse, or when memory for a raw integer's text runs out.
 cJSON *parse_marked(const char *text, size_t len, bool with_len);
+
+// ---- Engines (s2j_codec.cpp) ------------------------------------------
 
 cJSON *emit_record(const TypeDesc *d, const void *rec);
 // strict: every field must be present (the whole-record keyword reader).
