@@ -87,4 +87,31 @@ bool file_exists(const std::string &path) {
 
 Text::~Text() { std::free(p); }
 
+namespace {
+long g_fail_at = -1;
+bool g_once = false;
+long g_count = 0;
+void *faulty_malloc(size_t n) {
+    long i = g_count++;
+    if (g_fail_at >= 0 && (g_once ? i == g_fail_at : i >= g_fail_at)) return nullptr;
+    return std::malloc(n);
+}
+void plain_free(void *p) { std::free(p); }
+}  // namespace
+
+CjsonFaults::CjsonFaults(long fail_at, bool once) {
+    g_fail_at = fail_at;
+    g_once = once;
+    g_count = 0;
+    cJSON_Hooks hooks = {faulty_malloc, plain_free};
+    cJSON_InitHooks(&hooks);
+}
+
+CjsonFaults::~CjsonFaults() {
+    cJSON_InitHooks(nullptr);
+    g_fail_at = -1;
+}
+
+long CjsonFaults::allocations() { return g_count; }
+
 }  // namespace testing_support

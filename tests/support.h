@@ -56,6 +56,19 @@ struct Tree {
     cJSON *p;
 };
 
+// While alive, cJSON's allocations fail from the n-th on (counted from 0),
+// or only the n-th with `once`; allocations made so far are counted.
+class CjsonFaults {
+public:
+    explicit CjsonFaults(long fail_at, bool once = false);
+    ~CjsonFaults();
+    static long allocations();
+
+private:
+    CjsonFaults(const CjsonFaults &) = delete;
+    CjsonFaults &operator=(const CjsonFaults &) = delete;
+};
+
 }  // namespace testing_support
 
 #endif
