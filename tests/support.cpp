@@ -47,6 +47,18 @@ std::string diag(const std::string &file, int line, const std::string &func, con
     return "\033[1;31m<ERROR! " + file + ":" + std::to_string(line) + ", " + func + ">: " + msg + "\033[0m";
 }
 
+std::string parse_reason(const char *text) {
+    cJSON *tree = cJSON_Parse(text);
+    cJSON_Delete(tree);
+    return tree == nullptr && cJSON_GetErrorPtr() != nullptr ? cJSON_GetErrorPtr() : "<parsed>";
+}
+
+std::string parse_reason_with_len(const char *text, size_t len) {
+    cJSON *tree = cJSON_ParseWithLength(text, len);
+    cJSON_Delete(tree);
+    return tree == nullptr && cJSON_GetErrorPtr() != nullptr ? cJSON_GetErrorPtr() : "<parsed>";
+}
+
 namespace {
 std::vector<std::string> &dirs() {
     static std::vector<std::string> d;

@@ -31,6 +31,11 @@ std::string file_list_file();
 // The three writes of one diagnostic.
 std::string diag(const std::string &file, int line, const std::string &func, const std::string &msg);
 
+// What cJSON itself reports, after failing to parse text, as the place
+// where parsing stopped (the rest of the text from there).
+std::string parse_reason(const char *text);
+std::string parse_reason_with_len(const char *text, size_t len);
+
 // A fresh empty directory for the test, removed with its files at exit.
 std::string temp_dir();
 std::string read_file(const std::string &path);

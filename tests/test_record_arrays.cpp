@@ -206,7 +206,7 @@ TEST(RecordArrays, J2sArrayParseFailureMessageHasNoNewline) {
     uint32_t n = 1;
     StderrCapture err;
     EXPECT_EQ(j2s_array_CrontabParameter("[{", nullptr, &n), -2);
-    EXPECT_EQ(err.text(), d(kJ2sArrayLine, "j2s_array_CrontabParameter", "cJSON_Parse([{) failed! reason: "));
+    EXPECT_EQ(err.text(), d(kJ2sArrayLine, "j2s_array_CrontabParameter", "cJSON_Parse([{) failed! reason: " + parse_reason("[{")));
     EXPECT_EQ(n, 1u);
 }
 
@@ -215,7 +215,7 @@ TEST(RecordArrays, J2sArrayWithLenParseFailureMessageHasNoNewline) {
     StderrCapture err;
     EXPECT_EQ(j2s_array_CrontabParameter_with_len("[1,2]", 3, nullptr, &n), -2);
     EXPECT_EQ(err.text(), d(kJ2sArrayLine, "j2s_array_CrontabParameter_with_len",
-                            "cJSON_ParseWithLength([1,2], 3) failed! reason: ,2]"));
+                            "cJSON_ParseWithLength([1,2], 3) failed! reason: " + parse_reason_with_len("[1,2]", 3)));
 }
 
 TEST(RecordArrays, J2sArrayOfAnObjectIsRefusedByC2sArray) {
