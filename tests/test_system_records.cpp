@@ -1,0 +1,171 @@
+// Device identity and time, time zone, NTP and scheduled-task records.
+#include <dlfcn.h>
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <cstring>
+#include <string>
+
+#include "app_s2j.h"
+#include "support.h"
+
+using namespace testing_support;
+
+namespace {
+
+#define CAPACITY(T, m) sizeof(((T *)nullptr)->m)
+
+TEST(SystemRecordLayout, StructsHaveTheirNaturalLayout) {
+    static_assert(sizeof(DeviceInfo) == 7 * 64);
+    static_assert(offsetof(DeviceInfo, ManufacturerName) == 6 * 64);
+    static_assert(sizeof(DeviceCapabilitySet) == 16 * 4);
+    static_assert(offsetof(DeviceCapabilitySet, TotalVideoEncodeCapability) == 15 * 4);
+    static_assert(sizeof(DeviceTime) == 32 && sizeof(DeviceTimeKeyword) == 32);
+    static_assert(sizeof(AdvancedParameter) == 8 && offsetof(AdvancedParameter, EncodeChannelBitmap0) == 4);
+    static_assert(sizeof(TimeZone) == 64 + 256 + 8 && offsetof(TimeZone, UTCOffset) == 320);
+    static_assert(sizeof(TimeZoneParameter) == 64 + 13 * 4);
+    static_assert(sizeof(NTPServer) == 64 + 256 + 2048 && CAPACITY(NTPServer, Pool) == 2048);
+    static_assert(sizeof(NTPParameter) == 4 + 256 + 12 && offsetof(NTPParameter, ServerPort) == 260);
+    static_assert(sizeof(CrontabCapabilitySet) == 4);
+    static_assert(sizeof(CrontabParameter) == 8 + 256 + 64 + 256 + 64 + 64 + 256);
+    static_assert(CAPACITY(CrontabParameter, Minute) == 256 && CAPACITY(CrontabParameter, Hour) == 64 &&
+                  CAPACITY(CrontabParameter, Day) == 256 && CAPACITY(CrontabParameter, Month) == 64 &&
+                  CAPACITY(CrontabParameter, Weekday) == 64 && CAPACITY(CrontabParameter, Command) == 256);
+    static_assert(sizeof(CrontabParameterKeyword) == 4);
+    SUCCEED();
+}
+
+TEST(DeviceTime, UtcTimeMinusOneIsEmittedSignedAndMonthWithTheSameBitsUnsigned) {
+    DeviceTime t = {};
+    t.UTCTime = -1;
+    t.Month = 0xFFFFFFFFu;
+    Tree tree(struct_to_json_DeviceTime(&t));
+    EXPECT_EQ(Text(cJSON_PrintUnformatted(tree.p)).str(),
+              "{\"UTCTime\":-1,\"Year\":0,\"Month\":4294967295,\"Day\":0,\"Hour\":0,\"Minute\":0,\"Second\":0,"
+              "\"Millisecond\":0}");
+}
+
+TEST(DeviceTime, YearIsSignedAndTheOtherBrokenDownFieldsUnsigned) {
+    DeviceTime t;
+    std::memset(&t, 0xFF, sizeof t);
+    Text text(s2j_DeviceTime(&t, 0));
+    EXPECT_EQ(text.str(),
+              "{\"UTCTime\":-1,\"Year\":-1,\"Month\":4294967295,\"Day\":4294967295,\"Hour\":4294967295,"
+              "\"Minute\":4294967295,\"Second\":4294967295,\"Millisecond\":4294967295}");
+}
+
+TEST(DeviceTime, ObjectWithOnlyHourChangesOnlyHourButFailsTheKeywordReader) {
+    DeviceTime t = {1700000000, 2026, 11, 22, 3, 4, 5, 6};
+    EXPECT_EQ(j2s_DeviceTime("{\"Hour\": 17}", &t), 0);
+    DeviceTime want = {1700000000, 2026, 11, 22, 17, 4, 5, 6};
+    EXPECT_EQ(std::memcmp(&t, &want, sizeof t), 0);
+    Tree tree(cJSON_Parse("{\"Hour\": 17}"));
+    DeviceTimeKeyword kw = {};
+    EXPECT_EQ(json_to_struct_DeviceTimeKeyword(&kw, tree.p), 0);
+}
+
+TEST(DeviceInfo, SerialNumberOf64BytesIsEmittedWholeAndReadBackAs63) {
+    DeviceInfo d = {};
+    std::memset(d.SerialNumber, '7', 64);
+    Text text(s2j_DeviceInfo(&d, 0));
+    EXPECT_NE(std::string(text.p).find("\"SerialNumber\":\"" + std::string(64, '7') + "\""), std::string::npos);
+    DeviceInfo back = {};
+    EXPECT_EQ(j2s_DeviceInfo(text.p, &back), 0);
+    EXPECT_EQ(std::string(back.SerialNumber), std::string(63, '7'));
+}
+
+TEST(AdvancedParameter, KeyKeepsItsTrailingZero) {
+    AdvancedParameter a = {1, 0x0000000Fu};
+    Text text(s2j_AdvancedParameter(&a, 0));
+    EXPECT_EQ(text.str(), "{\"EncodeWorkMode\":1,\"EncodeChannelBitmap0\":15}");
+    AdvancedParameter back = {};
+    EXPECT_EQ(j2s_AdvancedParameter("{\"EncodeChannelBitmap\": 3}", &back), 0);
+    EXPECT_EQ(back.EncodeChannelBitmap0, 0u);
+}
+
+TEST(NTPServer, PoolOf3000CharactersIsReadAsItsFirst2047) {
+    std::string pool(3000, 'p');
+    std::string text = "[{\"Zone\": \"Asia\", \"Pool\": \"" + pool + "\"}]";
+    NTPServer s[1] = {};
+    uint32_t n = 1;
+    EXPECT_EQ(j2s_array_NTPServer(text.c_str(), s, &n), 0);
+    EXPECT_EQ(std::string(s[0].Pool), std::string(2047, 'p'));
+    EXPECT_STREQ(s[0].Zone, "Asia");
+}
+
+TEST(NTPServer, PoolHolding2048BytesWithoutNulIsEmittedWhole) {
+    NTPServer s[1] = {};
+    std::memset(s[0].Pool, 'q', sizeof s[0].Pool);
+    Text text(s2j_array_NTPServer(s, 1, 0));
+    EXPECT_NE(std::string(text.p).find("\"Pool\":\"" + std::string(2048, 'q') + "\"}]"), std::string::npos);
+}
+
+TEST(CrontabParameter, UpdateWhoseElementsLackIndexIsRefusedBeforeAnyTaskChanges) {
+    CrontabParameter tasks[2] = {};
+    tasks[0].Index = 1;
+    tasks[1].Index = 2;
+    CrontabParameter before[2];
+    std::memcpy(before, tasks, sizeof tasks);
+    uint32_t n = 2;
+    StderrCapture err;
+    EXPECT_EQ(j2s_array_update_CrontabParameter("[{\"Enable\": 1}, {\"Enable\": 1, \"Command\": \"x\"}]", tasks, &n), -2);
+    EXPECT_EQ(err.text(), diag(text_list_file(), 12, "c2s_array_update_CrontabParameter",
+                               "The keyword is not contained in an object of the json array!\n"));
+    EXPECT_EQ(std::memcmp(tasks, before, sizeof tasks), 0);
+    EXPECT_EQ(n, 2u);
+}
+
+TEST(CrontabParameter, TimeFieldsKeepTheirOwnCapacities) {
+    std::string long_text(300, 't');
+    std::string text = "[{\"Minute\": \"" + long_text + "\", \"Hour\": \"" + long_text + "\", \"Day\": \"" + long_text +
+                       "\", \"Month\": \"" + long_text + "\", \"Weekday\": \"" + long_text + "\"}]";
+    CrontabParameter c[1] = {};
+    uint32_t n = 1;
+    EXPECT_EQ(j2s_array_CrontabParameter(text.c_str(), c, &n), 0);
+    EXPECT_EQ(std::strlen(c[0].Minute), 255u);
+    EXPECT_EQ(std::strlen(c[0].Hour), 63u);
+    EXPECT_EQ(std::strlen(c[0].Day), 255u);
+    EXPECT_EQ(std::strlen(c[0].Month), 63u);
+    EXPECT_EQ(std::strlen(c[0].Weekday), 63u);
+}
+
+TEST(TimeZoneParameter, DstEnableMinusOneIsEmittedSignedAndSavingTimeWithTheSameBitsUnsigned) {
+    TimeZoneParameter p = {};
+    p.DSTEnable = -1;
+    p.SavingTime = 0xFFFFFFFFu;
+    Text text(s2j_TimeZoneParameter(&p, 0));
+    EXPECT_NE(std::string(text.p).find("\"DSTEnable\":-1,\"SavingTime\":4294967295,"), std::string::npos);
+}
+
+TEST(TimeZone, OffsetIsSigned) {
+    TimeZone z[1] = {};
+    z[0].UTCOffset = -330;
+    Text text(s2j_array_TimeZone(z, 1, 0));
+    EXPECT_NE(std::string(text.p).find("\"UTCOffset\":-330"), std::string::npos);
+}
+
+TEST(NTPParameter, PollIntervalsAreSignedAndPortUnsigned) {
+    NTPParameter p = {};
+    p.MinPollInterval = -6;
+    p.MaxPollInterval = 17;
+    p.ServerPort = 123;
+    Text text(s2j_NTPParameter(&p, 0));
+    EXPECT_EQ(text.str(), "{\"Enable\":0,\"ServerDomain\":\"\",\"ServerPort\":123,\"MinPollInterval\":-6,\"MaxPollInterval\":17}");
+}
+
+// Irregular family sets: capability lists and sets are read from files but
+// never written; DeviceTime has no file family and no update.
+TEST(SystemFamilies, ReadOnlyFileTypesHaveNoWriter) {
+    for (const char *absent : {"s2f_DeviceCapabilitySet", "s2f_CrontabCapabilitySet", "s2f_array_TimeZone",
+                               "s2f_array_NTPServer", "f2s_DeviceTime", "s2f_DeviceTime", "c2s_array_update_DeviceTime",
+                               "json_to_struct_GetDeviceTimeKeyword", "s2j_TimeZone", "j2s_NTPServer",
+                               "c2s_array_update_TimeZone", "s2j_CrontabParameter", "json_to_struct_DeviceInfoKeyword"})
+        EXPECT_EQ(dlsym(RTLD_DEFAULT, absent), nullptr) << absent;
+    for (const char *present : {"f2s_DeviceCapabilitySet", "f2s_CrontabCapabilitySet", "f2s_array_TimeZone",
+                                "f2s_array_NTPServer", "json_to_struct_DeviceTimeKeyword", "s2f_array_CrontabParameter",
+                                "json_to_struct_GetCrontabParameterKeyword", "s2f_TimeZoneParameter", "s2f_NTPParameter",
+                                "s2f_AdvancedParameter", "s2f_DeviceInfo"})
+        EXPECT_NE(dlsym(RTLD_DEFAULT, present), nullptr) << present;
+}
+
+}  // namespace
