@@ -1,0 +1,61 @@
+#!/usr/bin/env bash
+# Installs the build into a fresh prefix and checks what a caller relies on:
+# the installed files, the library's dynamic dependencies and exports, and a
+# C99 program built against the install through pkg-config and through CMake.
+# usage: install_test.sh BUILD_DIR SOURCE_DIR [EXTRA_C_FLAGS...]
+set -u
+build=$1
+src=$2
+shift 2
+extra=("$@")
+tmp=$(mktemp -d)
+trap 'rm -rf "$tmp"' EXIT
+prefix=$tmp/prefix
+passed=0
+failed=0
+ok() { passed=$((passed + 1)); }
+fail() { failed=$((failed + 1)); echo "FAIL: $*"; }
+check() { local what=$1; shift; if "$@" >"$tmp/out" 2>&1; then ok; else fail "$what"; cat "$tmp/out"; fi; }
+
+check "cmake --install" cmake --install "$build" --prefix "$prefix"
+libdir=$(dirname "$(find "$prefix" -name libapp_s2j.so.1 | head -n 1)")
+for f in "$prefix/include/app_s2j/app_s2j.h" "$prefix/include/app_s2j/app_s2j_types.h" "$libdir/libapp_s2j.so.1" \
+         "$libdir/libapp_s2j.so" "$libdir/pkgconfig/app_s2j.pc" "$libdir/cmake/app_s2j/app_s2jConfig.cmake" \
+         "$libdir/cmake/app_s2j/app_s2jTargets.cmake"; do
+  [ -e "$f" ] && ok || fail "installed $f"
+done
+lib=$(readlink -f "$libdir/libapp_s2j.so.1")
+
+# Soname and dynamic dependencies: the C library and cJSON only.
+soname=$(readelf -d "$lib" | sed -n 's/.*(SONAME).*\[\(.*\)\]/\1/p')
+[ "$soname" = "libapp_s2j.so.1" ] && ok || fail "soname is '$soname'"
+needed=$(readelf -d "$lib" | sed -n 's/.*(NEEDED).*\[\(.*\)\]/\1/p' | grep -v -E '^lib(asan|ubsan)\.so' | sort | tr '\n' ' ')
+[ "$needed" = "libc.so.6 libcjson.so.1 " ] && ok || fail "NEEDED is '$needed'"
+
+# Exports: exactly the functions the public header declares.
+declared=$(cpp -P -I"$prefix/include/app_s2j" "$prefix/include/app_s2j/app_s2j.h" 2>/dev/null |
+  tr ';' '\n' | grep -o -E '\b((s2j_|c2s_|j2s_|f2s_|s2f_|struct_to_json_|json_to_struct_)[A-Za-z0-9_]*|cJSON_CreateInt|cJSON_AddIntToObject|cJSON_IsInt)\(' |
+  tr -d '(' | sort -u)
+exported=$(nm -D --defined-only "$lib" | awk '$2 == "T" {print $3}' | sort -u)
+others=$(nm -D --defined-only "$lib" | awk '$2 != "T" && $3 !~ /^_/ {print $3}' | sort -u)
+if [ "$declared" = "$exported" ]; then ok; else fail "exports differ from declarations"; diff <(echo "$declared") <(echo "$exported") | head -20; fi
+[ -z "$others" ] && ok || fail "other exported symbols: $others"
+[ "$(echo "$exported" | wc -l)" -gt 10 ] && ok || fail "too few exports"
+
+# A C99 consumer through pkg-config.
+export PKG_CONFIG_PATH=$libdir/pkgconfig
+check "pkg-config finds app_s2j" pkg-config --exists app_s2j
+check "C99 consumer compiles against the installed header (pkg-config)" \
+  cc -std=c99 -pedantic-errors -Wall -Wextra -Werror "${extra[@]}" "$src/tests/consumer/consumer.c" \
+     $(pkg-config --cflags --libs app_s2j) -o "$tmp/consumer"
+mkdir -p "$tmp/data"
+if LD_LIBRARY_PATH=$libdir "$tmp/consumer" "$tmp/data" > "$tmp/run" 2>&1 && grep -q "consumer ok" "$tmp/run"; then ok; else fail "pkg-config consumer runs"; cat "$tmp/run"; fi
+
+# The same through the CMake package.
+check "CMake consumer configures" cmake -S "$src/tests/consumer" -B "$tmp/cbuild" -DCMAKE_PREFIX_PATH="$prefix" \
+  -DCMAKE_C_FLAGS="${extra[*]}" -DCMAKE_EXE_LINKER_FLAGS="${extra[*]}"
+check "CMake consumer builds" cmake --build "$tmp/cbuild"
+if LD_LIBRARY_PATH=$libdir "$tmp/cbuild/consumer" "$tmp/data" > "$tmp/run" 2>&1 && grep -q "consumer ok" "$tmp/run"; then ok; else fail "CMake consumer runs"; cat "$tmp/run"; fi
+
+echo "$passed passed, $failed failed"
+[ "$failed" -eq 0 ]
