@@ -9,7 +9,7 @@ src=$2
 shift 2
 extra=("$@")
 tmp=$(mktemp -d)
-trap 'rm -rf "$tmp"' EXIT
+trap '[ -n "${KEEP:-}" ] || rm -rf "$tmp"' EXIT
 prefix=$tmp/prefix
 passed=0
 failed=0

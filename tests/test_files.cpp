@@ -191,14 +191,15 @@ TEST(Files, ArrayFileReadWithSmallerCapacityFillsOnlyThat) {
     EXPECT_EQ(back[1].Index, 2u);
 }
 
-TEST(Files, DirectoryAsFileNameOfF2sIsRefusedWithoutCrash) {
+TEST(Files, DirectoryAsFileNameOfF2sGivesMinus15AndPrintsNothing) {
     std::string dir = temp_dir();
     DeviceInfo d = {};
+    uint32_t n = 3;
     StderrCapture err;
-    int rc = f2s_DeviceInfo(dir.c_str(), &d);
-    // Opening a directory for reading succeeds on Linux; its size is then
-    // either too large to hold (-15) or read as no text (-2).
-    EXPECT_TRUE(rc == -15 || rc == -2) << rc;
+    EXPECT_EQ(f2s_DeviceInfo(dir.c_str(), &d), -15);
+    EXPECT_EQ(f2s_array_CrontabParameter(dir.c_str(), nullptr, &n), -15);
+    EXPECT_EQ(n, 3u);
+    EXPECT_EQ(err.text(), "");
 }
 
 }  // namespace

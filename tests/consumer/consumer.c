@@ -27,6 +27,7 @@ int main(int argc, char **argv) {
         char path[4096];
         CrontabParameter back[4];
         uint32_t n = 4;
+        memset(back, 0, sizeof back);
         snprintf(path, sizeof path, "%s/crontab.json", argv[1]);
         if (s2f_array_CrontabParameter(path, tasks, 2) != 0) return 1;
         if (f2s_array_CrontabParameter(path, back, &n) != 0 || n != 2) return 1;

@@ -1,31 +1,31 @@
-// file2struct_def.cpp - the file families, and from line 115 their
-// instantiation list: per type one line for reading, the next for writing.
-// They move whole texts between files and the text families; the only
-// diagnostic of their own is a missing file name.
+// file2struct_def.cpp - the file families; from line 115 their list: per type a
+// line for reading, then one for writing.  Whole texts move between files and
+// the text families; their one diagnostic of their own is a missing file name.
 #include "s2j_families.h"
 
 #ifndef S2J_REGISTRY_PASS
+#include <sys/stat.h>
+#include <unistd.h>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <unistd.h>
-
 #include "s2j_messages.h"
 
 namespace s2j {
 namespace {
 
-using J2sFn = int (*)(const char *, void *);
-using J2sArrayFn = int (*)(const char *, void *, uint32_t *);
-
 // The whole file as a nul-terminated text, or null with *status -15 when the
-// file cannot be opened or its text cannot be held.  The size comes from
-// seeking to the end; the text ends where fread() stopped, so a file that
-// shrank meanwhile is read as what is left.
+// file cannot be opened (or is a directory) or its text cannot be held.  The
+// size comes from seeking to the end; the text ends where fread() stopped.
 char *read_text(const char *path, int *status) {
     *status = -15;
     FILE *f = std::fopen(path, "r");
     if (f == nullptr) return nullptr;
+    struct stat st;
+    if (fstat(fileno(f), &st) == 0 && S_ISDIR(st.st_mode)) {
+        std::fclose(f);  // a directory opens, but holds no text to read
+        return nullptr;
+    }
     std::fseek(f, 0, SEEK_END);
     long size = std::ftell(f);
     std::fseek(f, 0, SEEK_SET);
@@ -53,14 +53,13 @@ int write_text(const char *path, char *text) {
         std::free(text);
         return -7;
     }
-    int fd = fileno(f);
     size_t len = std::strlen(text);
     int rc = 0;
     if (std::fwrite(text, 1, len, f) < len) {
         std::perror("fwrite");
         rc = -7;
     }
-    fsync(fd);
+    fsync(fileno(f));
     std::fclose(f);
     std::free(text);
     return rc;
@@ -68,7 +67,7 @@ int write_text(const char *path, char *text) {
 
 }  // namespace
 
-int file_f2s(const Site *s, const char *fine_name, void *rec, J2sFn j2s) {
+int file_f2s(const Site *s, const char *fine_name, void *rec, int (*j2s)(const char *, void *)) {
     if (fine_name == nullptr) {
         diag(s, S2J_MSG_FINE_NAME_EMPTY);
         return -2;
@@ -81,7 +80,8 @@ int file_f2s(const Site *s, const char *fine_name, void *rec, J2sFn j2s) {
     return rc;
 }
 
-int file_f2s_array(const Site *s, const char *fine_name, void *arr, uint32_t *count, J2sArrayFn j2s) {
+int file_f2s_array(const Site *s, const char *fine_name, void *arr, uint32_t *count,
+                   int (*j2s_array)(const char *, void *, uint32_t *)) {
     if (fine_name == nullptr) {
         diag(s, S2J_MSG_FINE_NAME_EMPTY);
         return -2;
@@ -89,7 +89,7 @@ int file_f2s_array(const Site *s, const char *fine_name, void *arr, uint32_t *co
     int rc;
     char *text = read_text(fine_name, &rc);
     if (text == nullptr) return rc;
-    rc = j2s(text, arr, count);
+    rc = j2s_array(text, arr, count);
     std::free(text);
     return rc;
 }

@@ -1,0 +1,15 @@
+#!/usr/bin/env bash
+# Installs what building and testing libapp_s2j needs on Debian (run as root),
+# skipping the package manager when everything is already there.
+set -euo pipefail
+packages=(cmake make gcc g++ pkg-config binutils libcjson-dev libgtest-dev)
+missing=()
+for p in "${packages[@]}"; do
+  dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
+done
+if [ ${#missing[@]} -gt 0 ]; then
+  echo "setup: installing ${missing[*]}"
+  export DEBIAN_FRONTEND=noninteractive
+  apt-get update -qq
+  apt-get install -y -qq --no-install-recommends "${missing[@]}"
+fi
