@@ -165,6 +165,338 @@ typedef struct {
  * Output and display records
  * ====================================================================== */
 
+/* ---- Video output interfaces and display ---- */
+
+typedef struct {
+    char SupportedVideoInputChannelList[256];
+    char SupportedInputStreamingIndexList[256];
+    char SupportedPlaylistIndexList[256];
+} VideoOutputCapabilitySet;
+
+/* "Removeable" is the key of this record, spelt so in both directions. */
+typedef struct {
+    char Name[64];
+    char Type[64];
+    char Alias[64];
+    int32_t HardwareRelated;
+    int32_t Removeable;
+    int32_t SupportTimingManualConfig;
+    int32_t SupportEmbeddedAudio;
+    char SupportedTimingList[2048];
+    char SupportedMasterInterfaceName[64];
+    uint32_t ScreenCanvasWidth;
+    uint32_t ScreenCanvasHeight;
+    uint32_t MaxVideoOutputLayerNumber;
+    uint32_t MaxVideoOutputWindowNumber;
+    uint32_t UserDefinedScreenSplitModeNumber;
+    char SupportedScreenSplitModeList[256];
+    uint32_t MaxGraphicLayerNumber;
+    int32_t SupportWatermark;
+    int32_t SupportOSDInWindow;
+    uint32_t OSDNumberPerWindow;
+} VideoOutputInterface;
+
+/* UserDefinedScreenSplitModeIndex is signed here, unsigned in
+ * VideoOutputScreenSplitParameter. */
+typedef struct {
+    char InterfaceName[64];
+    char Timing[256];
+    int32_t ManualConfigTiming;
+    uint32_t Width;
+    uint32_t Height;
+    uint32_t ScanningFrequencyInteger;
+    uint32_t ScanningFrequencyDecimal;
+    uint32_t ScanningMode;
+    uint32_t TimingType;
+    uint32_t Brightness;
+    uint32_t Hue;
+    uint32_t Contrast;
+    uint32_t Saturation;
+    char MasterInterfaceName[64];
+    char ScreenSplitMode[64];
+    int32_t UserDefinedScreenSplitModeIndex;
+    int32_t AutoConfigOptimumTiming;
+} VideoOutputInterfaceParameter;
+
+typedef struct {
+    char InterfaceName[64];
+} VideoOutputInterfaceParameterKeyword;
+
+typedef struct {
+    uint32_t VideoDisplayMode;
+    uint32_t VideoDisplayStopAction;
+    char BackgroundColor[64];
+    char WindowBorderColor[64];
+    uint32_t WindowBorderLineWidth;
+    char AudioOutputWindowBorderColor[64];
+    int32_t CacheTime;
+    uint32_t VideoPlayMode;
+} VideoOutputDisplayParameter;
+
+/* Identified by the pair InterfaceName, UserDefinedScreenSplitModeIndex. */
+typedef struct {
+    char InterfaceName[64];
+    uint32_t UserDefinedScreenSplitModeIndex;
+    uint32_t SplitWindowNumber;
+    char UserDefinedScreenSplitModeDetails[2048];
+} VideoOutputScreenSplitParameter;
+
+typedef struct {
+    char InterfaceName[64];
+    uint32_t UserDefinedScreenSplitModeIndex;
+} VideoOutputScreenSplitParameterKeyword;
+
+/* ---- Output sources and playlists ---- */
+
+typedef struct {
+    uint32_t Channel;
+    int32_t SourceIndex;
+    int32_t SourceType;
+    int32_t CacheTime;
+} VideoOutputSourceParameter;
+
+typedef struct {
+    uint32_t Channel;
+} VideoOutputSourceParameterKeyword;
+
+typedef struct {
+    uint32_t Index;
+    char Name[64];
+    char SourceIndexList[2048];
+    char SourceTypeList[2048];
+    char SourceDwellTimeList[2048];
+} VideoOutputPlaylistParameter;
+
+typedef struct {
+    uint32_t Index;
+} VideoOutputPlaylistParameterKeyword;
+
+typedef struct {
+    uint32_t Channel;
+    char InterfaceName[64];
+    int32_t SourceIndex;
+    int32_t SourceType;
+} VideoOutSourceChange;
+
+/* The same fields as VideoOutSourceChange, as a type of its own. */
+typedef struct {
+    uint32_t Channel;
+    char InterfaceName[64];
+    int32_t SourceIndex;
+    int32_t SourceType;
+} AudioOutSourceChange;
+
+/* ---- Audio output and decoding ---- */
+
+/* "SupportedAudioOutputInterfaces" has no "List" ending, unlike its siblings. */
+typedef struct {
+    char SupportedAudioInputChannelList[256];
+    char SupportedAudioOutputInterfaces[256];
+    char SupportedInputStreamingIndexList[256];
+    char SupportedVideoOutputChannelList[256];
+} AudioOutputCapabilitySet;
+
+typedef struct {
+    char Name[64];
+    char Type[64];
+    char Alias[64];
+    int32_t IsAnalogAudio;
+    int32_t IsEmbeddedAudio;
+    int32_t SupportVolumeControl;
+    uint32_t MinVolume;
+    uint32_t MaxVolume;
+    int32_t SupportGainControl;
+    int32_t MinGain;
+    int32_t MaxGain;
+} AudioOutputInterface;
+
+typedef struct {
+    char InterfaceName[64];
+    uint32_t Volume;
+    int32_t Gain;
+} AudioOutputInterfaceParameter;
+
+typedef struct {
+    char InterfaceName[64];
+} AudioOutputInterfaceParameterKeyword;
+
+typedef struct {
+    uint32_t Channel;
+    char InterfaceName[64];
+    int32_t SourceIndex;
+    int32_t SourceType;
+} AudioOutputParameter;
+
+typedef struct {
+    uint32_t Channel;
+} AudioOutputParameterKeyword;
+
+typedef struct {
+    uint32_t MaxVideoWidth;
+    uint32_t MaxVideoHeight;
+    uint32_t MaxVideoFramerate;
+    char SupportedVideoCodecList[256];
+    int32_t MaxVideoDecodeCapabilityByChannel;
+    int32_t TotalVideoDecodeCapability;
+    uint32_t MaxCacheTime;
+} VideoDecodeCapabilitySet;
+
+typedef struct {
+    char SupportedAudioCodecList[256];
+} AudioDecodeCapabilitySet;
+
+/* ---- Screenshots ---- */
+
+typedef struct {
+    uint32_t MaxScreenshotNumber;
+    uint32_t MaxScreenshotListNumber;
+    uint32_t MaxScreenshotNumberInList;
+} ScreenshotCapabilitySet;
+
+/* "AttachedInputStreamingIndexs" is the key, spelt so. */
+typedef struct {
+    uint32_t Index;
+    char Name[64];
+    char ScreenSplitMode[64];
+    int32_t UserDefinedScreenSplitModeIndex;
+    char BoundVideoInputChannels[256];
+    char AttachedInputStreamingIndexs[256];
+} ScreenshotParameter;
+
+typedef struct {
+    uint32_t Index;
+} ScreenshotParameterKeyword;
+
+/* "ScreenshotIndexs" is the key, spelt so. */
+typedef struct {
+    uint32_t Index;
+    char Name[64];
+    char ScreenshotIndexs[256];
+    char ScreenshotDwellTimes[256];
+} ScreenshotListParameter;
+
+typedef struct {
+    uint32_t Index;
+} ScreenshotListParameterKeyword;
+
+typedef struct {
+    char InterfaceName[64];
+    int32_t ScreenshotIndex;
+    int32_t ScreenshotListIndex;
+} VideoOutputScreenshotParameter;
+
+typedef struct {
+    char InterfaceName[64];
+} VideoOutputScreenshotParameterKeyword;
+
+/* ---- Output OSD and watermarks ---- */
+
+/* Identified by the pair Channel, Index. */
+typedef struct {
+    uint32_t Channel;
+    uint32_t Index;
+    uint32_t Type;
+    int32_t Visible;
+    uint32_t AutoFontSize;
+    uint32_t FixedFontSize;
+    int32_t Bold;
+    int32_t Stroke;
+    char ForeColor[64];
+    uint32_t ForeAlpha;
+    char BackColor[64];
+    uint32_t BackAlpha;
+    uint32_t CoordinateOrigin;
+    uint32_t XCoordinate;
+    uint32_t YCoordinate;
+    uint32_t CoordinateBase;
+    char Content[256];
+    char Prefix[64];
+    char Postfix[64];
+} VideoOutputOSDParameter;
+
+typedef struct {
+    uint32_t Channel;
+    uint32_t Index;
+} VideoOutputOSDParameterKeyword;
+
+typedef struct {
+    char InterfaceName[64];
+    int32_t Visible;
+    uint32_t AutoFontSize;
+    uint32_t FixedFontSize;
+    int32_t Bold;
+    int32_t Stroke;
+    char ForeColor[64];
+    uint32_t ForeAlpha;
+    char BackColor[64];
+    uint32_t BackAlpha;
+    uint32_t CoordinateOrigin;
+    uint32_t XCoordinate;
+    uint32_t YCoordinate;
+    uint32_t CoordinateBase;
+    char Content[256];
+    uint32_t PrefixType;
+    char PrefixContent[256];
+    uint32_t PostfixType;
+    char PostfixContent[256];
+    int32_t RotationAngle;
+    uint32_t ArrangementMode;
+    int32_t Movable;
+    uint32_t MovingStepSize;
+    uint32_t MovingSpeed;
+    uint32_t MovingDirection;
+} WatermarkOSDParameter;
+
+typedef struct {
+    char InterfaceName[64];
+} WatermarkOSDParameterKeyword;
+
+typedef struct {
+    char InterfaceName[64];
+    int32_t Visible;
+    uint32_t CoordinateOrigin;
+    uint32_t XCoordinate;
+    uint32_t YCoordinate;
+    uint32_t CoordinateBase;
+    uint32_t ImageWidth;
+    uint32_t ImageHeight;
+    char ImageFilePath[256];
+    uint32_t Transparency;
+    uint32_t DisplayMode;
+    int32_t RotationAngle;
+    uint32_t ArrangementMode;
+    int32_t Movable;
+    uint32_t MovingStepSize;
+    uint32_t MovingSpeed;
+    uint32_t MovingDirection;
+} WatermarkPictureParameter;
+
+typedef struct {
+    char InterfaceName[64];
+} WatermarkPictureParameterKeyword;
+
+typedef struct {
+    char InterfaceName[64];
+    int32_t Visible;
+    char Color[64];
+    uint32_t Transparency;
+    int32_t Movable;
+    uint32_t MovingStepSize;
+    uint32_t MovingSpeed;
+    uint32_t MovingDirection;
+    char Content[256];
+} WatermarkDotmatrixParameter;
+
+typedef struct {
+    char InterfaceName[64];
+} WatermarkDotmatrixParameterKeyword;
+
+typedef struct {
+    char InterfaceName[64];
+    char ImageFilePath[256];
+    uint32_t ImageFileSize;
+} UploadWatermarkPictureParameter;
+
 
 #ifdef __cplusplus
 }

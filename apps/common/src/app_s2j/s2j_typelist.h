@@ -35,7 +35,31 @@
 #define S2J_TYPES_STORAGE(X)
 
 // Output, display, sources, audio output, screenshots, OSD and watermarks.
-#define S2J_TYPES_OUTPUT(X)
+#define S2J_TYPES_OUTPUT(X)             \
+    X(VideoOutputCapabilitySet)         \
+    X(VideoOutputInterface)             \
+    X(VideoOutputInterfaceParameter)    \
+    X(VideoOutputDisplayParameter)      \
+    X(VideoOutputScreenSplitParameter)  \
+    X(VideoOutputSourceParameter)       \
+    X(VideoOutputPlaylistParameter)     \
+    X(VideoOutSourceChange)             \
+    X(AudioOutSourceChange)             \
+    X(AudioOutputCapabilitySet)         \
+    X(AudioOutputInterface)             \
+    X(AudioOutputInterfaceParameter)    \
+    X(AudioOutputParameter)             \
+    X(VideoDecodeCapabilitySet)         \
+    X(AudioDecodeCapabilitySet)         \
+    X(ScreenshotCapabilitySet)          \
+    X(ScreenshotParameter)              \
+    X(ScreenshotListParameter)          \
+    X(VideoOutputScreenshotParameter)   \
+    X(VideoOutputOSDParameter)          \
+    X(WatermarkOSDParameter)            \
+    X(WatermarkPictureParameter)        \
+    X(WatermarkDotmatrixParameter)      \
+    X(UploadWatermarkPictureParameter)
 
 #define S2J_TYPES(X)       \
     S2J_TYPES_SYSTEM(X)    \
