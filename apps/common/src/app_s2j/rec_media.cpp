@@ -28,6 +28,10 @@ static constexpr s2j::Field VideoInputInterface_fields[] = {
 };
 S2J_RECORD(VideoInputInterface)
 
+// The two scanning-frequency parts are uint16_t members, so their rows get
+// the 16-bit kind: emitted zero-extended, read as the low 16 bits of the
+// integer without a range check.  The record is stepped through arrays by
+// its own size, both halves in the room of one 32-bit field.
 static constexpr s2j::Field VideoInputParameter_fields[] = {
     S2J_FIELD(VideoInputParameter, Channel),
     S2J_FIELD(VideoInputParameter, InterfaceName),
@@ -60,6 +64,8 @@ static constexpr s2j::Field VideoInputStatus_fields[] = {
     S2J_FIELD(VideoInputStatus, EmbeddedAudioSamplerate),
     S2J_FIELD(VideoInputStatus, InputTimingDetails),
 };
+// A live status has no keyed update: only the single-key reader picks an
+// interface out of a JSON array by name.
 static constexpr s2j::Key VideoInputStatus_keys[] = {
     S2J_GET_KEY(VideoInputStatus, InterfaceName),
 };
@@ -102,6 +108,9 @@ static constexpr s2j::Field VideoEncodeCapabilitySet_fields[] = {
 };
 S2J_RECORD(VideoEncodeCapabilitySet)
 
+// One stream of one channel.  The frame-rate parts are 16-bit like the
+// scanning frequency above; "Rotate" is an unsigned value here, while the
+// capability set's "Rotate" is a signed flag.
 static constexpr s2j::Field VideoEncodeParameter_fields[] = {
     S2J_FIELD(VideoEncodeParameter, Channel),
     S2J_FIELD(VideoEncodeParameter, StreamIndex),
@@ -127,6 +136,8 @@ static constexpr s2j::Field VideoEncodeParameter_fields[] = {
     S2J_FIELD(VideoEncodeParameter, CropBottomOffset),
     S2J_FIELD(VideoEncodeParameter, CropOffsetBase),
 };
+// Streams are told apart by channel and stream together; the single-key
+// reader returns the channel alone.
 static constexpr s2j::Key VideoEncodeParameter_keys[] = {
     S2J_KEY(VideoEncodeParameter, Channel),
     S2J_KEY(VideoEncodeParameter, StreamIndex),
@@ -167,6 +178,7 @@ static constexpr s2j::Field VideoEncodeOSDParameter_fields[] = {
     S2J_FIELD(VideoEncodeOSDParameter, CoordinateBase),
     S2J_FIELD(VideoEncodeOSDParameter, Content),
 };
+// OSD items are told apart by channel and item number together.
 static constexpr s2j::Key VideoEncodeOSDParameter_keys[] = {
     S2J_KEY(VideoEncodeOSDParameter, Channel),
     S2J_KEY(VideoEncodeOSDParameter, Index),
