@@ -72,8 +72,11 @@ out=$("$tool" print DeviceInfo "$tmp/cut.json" 2>&1); rc=$?
 expect_eq "$rc" "1" "truncated text"
 expect_contains "$out" "status -2" "parse status shown"
 out=$("$tool" check DeviceInfo "$examples/CrontabParameter.json" 2>&1); rc=$?
-expect_eq "$rc" "1" "array of a single-record type"
-expect_contains "$out" "DeviceInfo has no record-array family" "shape message"
+expect_eq "$rc" "0" "array of a single-record type is read element by element"
+expect_contains "$out" "valid DeviceInfo array, 3 records" "elements read with the reader"
+printf '[{"ProductModel": 1}]' > "$tmp/badarr.json"
+out=$("$tool" check DeviceInfo "$tmp/badarr.json" 2>&1); rc=$?
+expect_eq "$rc" "1" "array element of a wrong type"
 printf '[]' > "$tmp/empty.json"
 out=$("$tool" check CrontabParameter "$tmp/empty.json" 2>&1); rc=$?
 expect_eq "$rc" "0" "empty array checks"

@@ -83,10 +83,38 @@ struct Loaded {
     std::vector<char> bytes;
 };
 
+// For a type without a text reader of this shape: the tree, parsed by cJSON,
+// read with c2s / c2s_array, or element by element with the type's reader.
+int read_tree(const s2j::TypeInfo &t, const std::string &text, Loaded *out) {
+    const s2j::Families &f = t.fam;
+    cJSON *tree = cJSON_Parse(text.c_str());
+    if (tree == nullptr) {
+        std::fprintf(stderr, "app_s2j: the text does not parse near: %.40s\n", cJSON_GetErrorPtr());
+        return -2;
+    }
+    int rc = 0;
+    if (out->is_array) {
+        out->count = static_cast<uint32_t>(cJSON_GetArraySize(tree));
+        out->bytes.assign(t.desc->size * (out->count == 0 ? 1 : out->count), 0);
+        if (f.c2s_array) {
+            rc = f.c2s_array(tree, out->bytes.data(), &out->count);
+        } else {
+            uint32_t i = 0;
+            for (const cJSON *e = tree->child; e != nullptr && rc == 0; e = e->next, ++i)
+                rc = cJSON_IsObject(e) && t.hooks->read(out->bytes.data() + i * t.desc->size, e) ? 0 : -1;
+        }
+    } else if (f.c2s) {
+        rc = f.c2s(tree, out->bytes.data());
+    } else {
+        rc = cJSON_IsObject(tree) && t.hooks->read(out->bytes.data(), tree) ? 0 : -1;
+    }
+    cJSON_Delete(tree);
+    return rc;
+}
+
 // Loads path as type t through the library: files through the file
 // families where the type has them, else the text or tree families.
-// Returns the library's status (0 on success); -100 when the type has no
-// family for this shape of document.
+// Returns the library's status (0 on success).
 int load(const s2j::TypeInfo &t, const char *path, const std::string &text, Loaded *out) {
     const s2j::Families &f = t.fam;
     size_t i = text.find_first_not_of(" \t\r\n");
@@ -100,7 +128,7 @@ int load(const s2j::TypeInfo &t, const char *path, const std::string &text, Load
         else if (f.j2s_array)
             rc = f.j2s_array(text.c_str(), nullptr, &n);
         else
-            return -100;
+            return read_tree(t, text, out);
         if (rc != 0) return rc;
         out->bytes.assign(size * (n == 0 ? 1 : n), 0);
         out->count = n;
@@ -111,12 +139,7 @@ int load(const s2j::TypeInfo &t, const char *path, const std::string &text, Load
     out->count = 1;
     if (f.f2s) return f.f2s(path, out->bytes.data());
     if (f.j2s) return f.j2s(text.c_str(), out->bytes.data());
-    // No text family: read the tree with the type's own reader.
-    cJSON *tree = cJSON_Parse(text.c_str());
-    if (tree == nullptr) return -2;
-    int rc = f.c2s ? f.c2s(tree, out->bytes.data()) : (cJSON_IsObject(tree) && t.hooks->read(out->bytes.data(), tree) ? 0 : -1);
-    cJSON_Delete(tree);
-    return rc;
+    return read_tree(t, text, out);
 }
 
 const char *status_text(int rc) {
@@ -133,10 +156,6 @@ int load_or_report(const s2j::TypeInfo &t, const char *path, Loaded *out) {
     std::string text;
     if (!read_whole(path, &text)) return 1;
     int rc = load(t, path, text, out);
-    if (rc == -100) {
-        std::fprintf(stderr, "app_s2j: %s has no %s family\n", t.name, out->is_array ? "record-array" : "single-record");
-        return 1;
-    }
     if (rc != 0) {
         std::fprintf(stderr, "app_s2j: %s: not a valid %s%s: status %d (%s)\n", path, t.name,
                      out->is_array ? " array" : "", rc, status_text(rc));

@@ -196,9 +196,141 @@ APP_S2J_DECLARE_GET_INT_KEYWORD(CrontabParameter, uint32_t, Index)
 APP_S2J_DECLARE_F2S_ARRAY(CrontabParameter)
 APP_S2J_DECLARE_S2F_ARRAY(CrontabParameter)
 
+/* Users and passwords.  The family sets follow the use of each record: a
+ * request is only read from a tree, a result only written; the emitters and
+ * readers of all six exist all the same. */
+
+APP_S2J_DECLARE_RECORD(VerifyPasswordParameter)
+APP_S2J_DECLARE_S2J(VerifyPasswordParameter)
+APP_S2J_DECLARE_C2S(VerifyPasswordParameter)
+
+APP_S2J_DECLARE_RECORD(VerifyPasswordResult)
+APP_S2J_DECLARE_S2J(VerifyPasswordResult)
+APP_S2J_DECLARE_C2S(VerifyPasswordResult)
+
+APP_S2J_DECLARE_RECORD(CreateUserParameter)
+APP_S2J_DECLARE_C2S(CreateUserParameter)
+APP_S2J_DECLARE_ARRAY(CreateUserParameter)
+APP_S2J_DECLARE_F2S_ARRAY(CreateUserParameter)
+APP_S2J_DECLARE_S2F_ARRAY(CreateUserParameter)
+
+APP_S2J_DECLARE_RECORD(DeleteUserParameter)
+APP_S2J_DECLARE_C2S(DeleteUserParameter)
+
+APP_S2J_DECLARE_RECORD(ModifyPasswordParameter)
+APP_S2J_DECLARE_C2S(ModifyPasswordParameter)
+
+APP_S2J_DECLARE_RECORD(UserList)
+APP_S2J_DECLARE_S2J_ARRAY(UserList)
+
 /* ======================================================================
  * Media input and encoding records
  * ====================================================================== */
+
+/* Video input: all five are arrays. */
+
+APP_S2J_DECLARE_RECORD(VideoInputCapabilitySet)
+APP_S2J_DECLARE_ARRAY(VideoInputCapabilitySet)
+APP_S2J_DECLARE_F2S_ARRAY(VideoInputCapabilitySet)
+
+APP_S2J_DECLARE_RECORD(VideoInputInterface)
+APP_S2J_DECLARE_ARRAY(VideoInputInterface)
+APP_S2J_DECLARE_F2S_ARRAY(VideoInputInterface)
+APP_S2J_DECLARE_S2F_ARRAY(VideoInputInterface)
+
+APP_S2J_DECLARE_RECORD(VideoInputParameter)
+APP_S2J_DECLARE_ARRAY(VideoInputParameter)
+APP_S2J_DECLARE_UPDATE(VideoInputParameter)
+APP_S2J_DECLARE_KEYWORD(VideoInputParameter)
+APP_S2J_DECLARE_GET_INT_KEYWORD(VideoInputParameter, uint32_t, Channel)
+APP_S2J_DECLARE_F2S_ARRAY(VideoInputParameter)
+APP_S2J_DECLARE_S2F_ARRAY(VideoInputParameter)
+
+APP_S2J_DECLARE_RECORD(VideoInputStatus)
+APP_S2J_DECLARE_ARRAY(VideoInputStatus)
+APP_S2J_DECLARE_GET_STR_KEYWORD(VideoInputStatus, InterfaceName)
+
+APP_S2J_DECLARE_RECORD(VideoInputVGAParameter)
+APP_S2J_DECLARE_ARRAY(VideoInputVGAParameter)
+APP_S2J_DECLARE_UPDATE(VideoInputVGAParameter)
+APP_S2J_DECLARE_KEYWORD(VideoInputVGAParameter)
+APP_S2J_DECLARE_GET_STR_KEYWORD(VideoInputVGAParameter, InterfaceName)
+
+/* Video encoding.  The keyword reader of VideoEncodeParameter reads Channel
+ * and StreamIndex; its single-key reader Channel alone. */
+
+APP_S2J_DECLARE_RECORD(VideoEncodeCapabilitySet)
+APP_S2J_DECLARE_ARRAY(VideoEncodeCapabilitySet)
+APP_S2J_DECLARE_F2S_ARRAY(VideoEncodeCapabilitySet)
+
+APP_S2J_DECLARE_RECORD(VideoEncodeParameter)
+APP_S2J_DECLARE_ARRAY(VideoEncodeParameter)
+APP_S2J_DECLARE_UPDATE(VideoEncodeParameter)
+APP_S2J_DECLARE_KEYWORD(VideoEncodeParameter)
+APP_S2J_DECLARE_GET_INT_KEYWORD(VideoEncodeParameter, uint32_t, Channel)
+APP_S2J_DECLARE_F2S_ARRAY(VideoEncodeParameter)
+APP_S2J_DECLARE_S2F_ARRAY(VideoEncodeParameter)
+
+APP_S2J_DECLARE_RECORD(RequestIDRParameter)
+APP_S2J_DECLARE_TEXT(RequestIDRParameter)
+
+/* Encoder OSD.  The keyword reader of VideoEncodeOSDParameter reads Channel
+ * and Index; its single-key reader Channel alone. */
+
+APP_S2J_DECLARE_RECORD(VideoEncodeOSDCapabilitySet)
+APP_S2J_DECLARE_TEXT(VideoEncodeOSDCapabilitySet)
+APP_S2J_DECLARE_F2S(VideoEncodeOSDCapabilitySet)
+
+APP_S2J_DECLARE_RECORD(VideoEncodeOSDParameter)
+APP_S2J_DECLARE_ARRAY(VideoEncodeOSDParameter)
+APP_S2J_DECLARE_UPDATE(VideoEncodeOSDParameter)
+APP_S2J_DECLARE_KEYWORD(VideoEncodeOSDParameter)
+APP_S2J_DECLARE_GET_INT_KEYWORD(VideoEncodeOSDParameter, uint32_t, Channel)
+APP_S2J_DECLARE_F2S_ARRAY(VideoEncodeOSDParameter)
+APP_S2J_DECLARE_S2F_ARRAY(VideoEncodeOSDParameter)
+
+/* Audio input and encoding. */
+
+APP_S2J_DECLARE_RECORD(AudioInputCapabilitySet)
+APP_S2J_DECLARE_ARRAY(AudioInputCapabilitySet)
+APP_S2J_DECLARE_F2S_ARRAY(AudioInputCapabilitySet)
+
+APP_S2J_DECLARE_RECORD(AudioInputInterface)
+APP_S2J_DECLARE_ARRAY(AudioInputInterface)
+APP_S2J_DECLARE_F2S_ARRAY(AudioInputInterface)
+APP_S2J_DECLARE_S2F_ARRAY(AudioInputInterface)
+
+APP_S2J_DECLARE_RECORD(AudioInputInterfaceParameter)
+APP_S2J_DECLARE_ARRAY(AudioInputInterfaceParameter)
+APP_S2J_DECLARE_UPDATE(AudioInputInterfaceParameter)
+APP_S2J_DECLARE_KEYWORD(AudioInputInterfaceParameter)
+APP_S2J_DECLARE_GET_STR_KEYWORD(AudioInputInterfaceParameter, InterfaceName)
+APP_S2J_DECLARE_F2S_ARRAY(AudioInputInterfaceParameter)
+APP_S2J_DECLARE_S2F_ARRAY(AudioInputInterfaceParameter)
+
+APP_S2J_DECLARE_RECORD(AudioInputParameter)
+APP_S2J_DECLARE_ARRAY(AudioInputParameter)
+APP_S2J_DECLARE_UPDATE(AudioInputParameter)
+APP_S2J_DECLARE_KEYWORD(AudioInputParameter)
+APP_S2J_DECLARE_GET_INT_KEYWORD(AudioInputParameter, uint32_t, Channel)
+APP_S2J_DECLARE_F2S_ARRAY(AudioInputParameter)
+APP_S2J_DECLARE_S2F_ARRAY(AudioInputParameter)
+
+APP_S2J_DECLARE_RECORD(AudioInputStatus)
+APP_S2J_DECLARE_ARRAY(AudioInputStatus)
+APP_S2J_DECLARE_GET_STR_KEYWORD(AudioInputStatus, InterfaceName)
+
+APP_S2J_DECLARE_RECORD(AudioEncodeCapabilitySet)
+APP_S2J_DECLARE_TEXT(AudioEncodeCapabilitySet)
+APP_S2J_DECLARE_F2S(AudioEncodeCapabilitySet)
+
+APP_S2J_DECLARE_RECORD(AudioEncodeParameter)
+APP_S2J_DECLARE_ARRAY(AudioEncodeParameter)
+APP_S2J_DECLARE_UPDATE(AudioEncodeParameter)
+APP_S2J_DECLARE_KEYWORD(AudioEncodeParameter)
+APP_S2J_DECLARE_GET_INT_KEYWORD(AudioEncodeParameter, uint32_t, Channel)
+APP_S2J_DECLARE_F2S_ARRAY(AudioEncodeParameter)
+APP_S2J_DECLARE_S2F_ARRAY(AudioEncodeParameter)
 
 /* ======================================================================
  * Streaming records

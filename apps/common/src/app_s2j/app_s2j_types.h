@@ -140,10 +140,304 @@ typedef struct {
     uint32_t Index;
 } CrontabParameterKeyword;
 
+/* ---- Users and passwords ---- */
+
+typedef struct {
+    char UserName[64];
+    char Password[64];
+    int32_t MD5Password;
+} VerifyPasswordParameter;
+
+typedef struct {
+    int32_t PassValidation;
+} VerifyPasswordResult;
+
+/* A request, and also an element of the user table kept in a file. */
+typedef struct {
+    char UserName[64];
+    char Password[64];
+    int32_t MD5Password;
+} CreateUserParameter;
+
+typedef struct {
+    char UserName[64];
+} DeleteUserParameter;
+
+typedef struct {
+    char UserName[64];
+    char OldPassword[64];
+    char NewPassword[64];
+    int32_t MD5Password;
+} ModifyPasswordParameter;
+
+typedef struct {
+    char UserName[64];
+} UserList;
+
 
 /* ======================================================================
  * Media input and encoding records
  * ====================================================================== */
+
+/* ---- Video input ---- */
+
+typedef struct {
+    char SupportedVideoInputInterfaceList[256];
+    int32_t SupportImageColorAdjust;
+    uint32_t MaxImageBrightness;
+    uint32_t MaxImageContrast;
+    uint32_t MaxImageSaturation;
+    uint32_t MaxImageHue;
+} VideoInputCapabilitySet;
+
+/* "Removeable" is the key's own spelling. */
+typedef struct {
+    char Name[64];
+    char Type[64];
+    char Alias[64];
+    int32_t HardwareRelated;
+    int32_t Removeable;
+    int32_t SupportTimingManualConfig;
+    int32_t SupportEmbeddedAudio;
+    char MaxInputTiming[64];
+    char SupportedManualTimingList[2048];
+} VideoInputInterface;
+
+/* The two 16-bit scanning-frequency parts share the room of one 32-bit
+ * field; the picture adjustments stand in the order brightness, hue,
+ * contrast, saturation (the capability set has its own order). */
+typedef struct {
+    uint32_t Channel;
+    char InterfaceName[64];
+    int32_t ManualConfigTiming;
+    uint32_t TimingType;
+    uint32_t Width;
+    uint32_t Height;
+    uint16_t ScanningFrequencyInteger;
+    uint16_t ScanningFrequencyDecimal;
+    uint32_t ScanningMode;
+    uint32_t Brightness;
+    uint32_t Hue;
+    uint32_t Contrast;
+    uint32_t Saturation;
+    uint32_t VideoLostContinueFrames;
+    uint32_t VideoResumeContinueFrames;
+    uint32_t VideoLostAction;
+} VideoInputParameter;
+
+typedef struct {
+    uint32_t Channel;
+} VideoInputParameterKeyword;
+
+typedef struct {
+    char InterfaceName[64];
+    int32_t CableIsPlugged;
+    int32_t SignalIsValid;
+    char VideoInputTiming[64];
+    int32_t HasEmbeddedAudio;
+    uint32_t EmbeddedAudioSamplerate;
+    char InputTimingDetails[2048];
+} VideoInputStatus;
+
+typedef struct {
+    char InterfaceName[64];
+    int32_t BlackEdgeIsSelfCorrection;
+    int32_t CorrectedPhaseValue;
+    int32_t CorrectedOffsetX;
+    int32_t CorrectedOffsetY;
+} VideoInputVGAParameter;
+
+typedef struct {
+    char InterfaceName[64];
+} VideoInputVGAParameterKeyword;
+
+/* ---- Video encoding ---- */
+
+/* "Rotate" here is a signed flag (rotation offered). */
+typedef struct {
+    char SupportedVideoEncodeSizeList[2048];
+    uint32_t MaxVideoEncodeWidth;
+    uint32_t MaxVideoEncodeHeight;
+    uint32_t MaxVideoEncodeFramerate;
+    char SupportedVideoCodecList[256];
+    char SupportedH264CodecProfileList[256];
+    char SupportedH265CodecProfileList[256];
+    char SupportedBitrateControlAlgorithmList[256];
+    uint32_t MaxVideoEncodeBitrate;
+    uint32_t MaxVideoEncodeGOP;
+    uint32_t MinVideoEncodeWidth;
+    uint32_t MinVideoEncodeHeight;
+    uint32_t MinVideoEncodeBitrate;
+    uint32_t MaxVideoEncodeCapability;
+    int32_t SelfAdaptiveVideoEncodeSizeCapability;
+    int32_t Rotate;
+    int32_t Mirror;
+    int32_t Flip;
+    int32_t Crop;
+} VideoEncodeCapabilitySet;
+
+/* One encoded stream of one channel, keyed by Channel and StreamIndex.  The
+ * two 16-bit frame-rate parts share the room of one 32-bit field; "Rotate"
+ * here is an unsigned value, unlike the capability set's flag. */
+typedef struct {
+    uint32_t Channel;
+    uint32_t StreamIndex;
+    int32_t Enable;
+    int32_t SelfAdaptiveVideoEncodeSize;
+    uint32_t Width;
+    uint32_t Height;
+    uint16_t FramerateInteger;
+    uint16_t FramerateDecimal;
+    char Codec[64];
+    char Profile[64];
+    char BitrateControl[64];
+    uint32_t GOP;
+    uint32_t Bitrate;
+    uint32_t ImageQuality;
+    uint32_t Rotate;
+    int32_t Mirror;
+    int32_t Flip;
+    int32_t Crop;
+    uint32_t CropLeftOffset;
+    uint32_t CropTopOffset;
+    uint32_t CropRightOffset;
+    uint32_t CropBottomOffset;
+    uint32_t CropOffsetBase;
+} VideoEncodeParameter;
+
+typedef struct {
+    uint32_t Channel;
+    uint32_t StreamIndex;
+} VideoEncodeParameterKeyword;
+
+typedef struct {
+    uint32_t Channel;
+    uint32_t StreamIndex;
+} RequestIDRParameter;
+
+/* ---- Encoder OSD ---- */
+
+typedef struct {
+    uint32_t OSDNumberPerChannel;
+    int32_t SupportDynamicText;
+    int32_t SupportPicture;
+} VideoEncodeOSDCapabilitySet;
+
+/* One OSD item of one channel, keyed by Channel and Index. */
+typedef struct {
+    uint32_t Channel;
+    uint32_t Index;
+    uint32_t Type;
+    int32_t Visible;
+    uint32_t AutoFontSize;
+    uint32_t FixedFontSize;
+    int32_t Bold;
+    int32_t Stroke;
+    char ForeColor[64];
+    uint32_t ForeAlpha;
+    char BackColor[64];
+    uint32_t BackAlpha;
+    uint32_t CoordinateOrigin;
+    uint32_t XCoordinate;
+    uint32_t YCoordinate;
+    uint32_t CoordinateBase;
+    char Content[256];
+} VideoEncodeOSDParameter;
+
+typedef struct {
+    uint32_t Channel;
+    uint32_t Index;
+} VideoEncodeOSDParameterKeyword;
+
+/* ---- Audio input and encoding (volumes unsigned, gains signed) ---- */
+
+typedef struct {
+    char SupportedAudioInputInterfaceList[256];
+    int32_t SupportVolumeControl;
+    uint32_t MinVolume;
+    uint32_t MaxVolume;
+    int32_t SupportGainControl;
+    int32_t MinGain;
+    int32_t MaxGain;
+} AudioInputCapabilitySet;
+
+typedef struct {
+    char Name[64];
+    char Type[64];
+    char Alias[64];
+    uint32_t MinAudioSamplerate;
+    uint32_t MaxAudioSamplerate;
+    uint32_t MaxSamplingBitWidth;
+    uint32_t MaxAudioChannels;
+    int32_t IsAnalogAudio;
+    int32_t IsEmbeddedAudio;
+    char SupportedSampleRateList[256];
+    int32_t SupportVolumeControl;
+    uint32_t MinVolume;
+    uint32_t MaxVolume;
+    int32_t SupportGainControl;
+    int32_t MinGain;
+    int32_t MaxGain;
+} AudioInputInterface;
+
+typedef struct {
+    char InterfaceName[64];
+    uint32_t Volume;
+    int32_t Gain;
+} AudioInputInterfaceParameter;
+
+typedef struct {
+    char InterfaceName[64];
+} AudioInputInterfaceParameterKeyword;
+
+typedef struct {
+    uint32_t Channel;
+    char InterfaceName[64];
+    uint32_t Volume;
+    int32_t Gain;
+} AudioInputParameter;
+
+typedef struct {
+    uint32_t Channel;
+} AudioInputParameterKeyword;
+
+typedef struct {
+    char InterfaceName[64];
+    int32_t CableIsPlugged;
+    int32_t SignalIsValid;
+    uint32_t AudioSamplerate;
+    uint32_t SamplingBitWidth;
+    uint32_t AudioChannels;
+    char InputTimingDetails[2048];
+    uint32_t Volume;
+    int32_t Gain;
+} AudioInputStatus;
+
+typedef struct {
+    char SupportedAudioCodecList[256];
+    char AacLcSupportedSamplerateList[256];
+    char HeAacSupportedSamplerateList[256];
+    char HeAacV2SupportedSamplerateList[256];
+    char G711SupportedSamplerateList[256];
+    char AacLcSupportedBitrateList[256];
+    char HeAacSupportedBitrateList[256];
+    char HeAacV2SupportedBitrateList[256];
+    char G711SupportedBitrateList[256];
+    int32_t SupportResample;
+} AudioEncodeCapabilitySet;
+
+typedef struct {
+    uint32_t Channel;
+    int32_t Enable;
+    char Codec[64];
+    uint32_t Samplerate;
+    int32_t SameWithAudioInputSamplerate;
+    uint32_t Bitrate;
+} AudioEncodeParameter;
+
+typedef struct {
+    uint32_t Channel;
+} AudioEncodeParameterKeyword;
 
 
 /* ======================================================================

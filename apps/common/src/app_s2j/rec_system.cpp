@@ -123,3 +123,42 @@ static constexpr s2j::Key CrontabParameter_keys[] = {
     S2J_KEY(CrontabParameter, Index),
 };
 S2J_RECORD_KEYWORD_GET(CrontabParameter, Index)
+
+// ---- Users and passwords ----
+
+static constexpr s2j::Field VerifyPasswordParameter_fields[] = {
+    S2J_FIELD(VerifyPasswordParameter, UserName),
+    S2J_FIELD(VerifyPasswordParameter, Password),
+    S2J_FIELD(VerifyPasswordParameter, MD5Password),
+};
+S2J_RECORD(VerifyPasswordParameter)
+
+static constexpr s2j::Field VerifyPasswordResult_fields[] = {
+    S2J_FIELD(VerifyPasswordResult, PassValidation),
+};
+S2J_RECORD(VerifyPasswordResult)
+
+static constexpr s2j::Field CreateUserParameter_fields[] = {
+    S2J_FIELD(CreateUserParameter, UserName),
+    S2J_FIELD(CreateUserParameter, Password),
+    S2J_FIELD(CreateUserParameter, MD5Password),
+};
+S2J_RECORD(CreateUserParameter)
+
+static constexpr s2j::Field DeleteUserParameter_fields[] = {
+    S2J_FIELD(DeleteUserParameter, UserName),
+};
+S2J_RECORD(DeleteUserParameter)
+
+static constexpr s2j::Field ModifyPasswordParameter_fields[] = {
+    S2J_FIELD(ModifyPasswordParameter, UserName),
+    S2J_FIELD(ModifyPasswordParameter, OldPassword),
+    S2J_FIELD(ModifyPasswordParameter, NewPassword),
+    S2J_FIELD(ModifyPasswordParameter, MD5Password),
+};
+S2J_RECORD(ModifyPasswordParameter)
+
+static constexpr s2j::Field UserList_fields[] = {
+    S2J_FIELD(UserList, UserName),
+};
+S2J_RECORD(UserList)

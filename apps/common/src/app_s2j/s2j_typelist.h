@@ -20,10 +20,33 @@
     X(CrontabParameter)
 
 // Users and passwords.
-#define S2J_TYPES_ACCOUNT(X)
+#define S2J_TYPES_ACCOUNT(X)   \
+    X(VerifyPasswordParameter) \
+    X(VerifyPasswordResult)    \
+    X(CreateUserParameter)     \
+    X(DeleteUserParameter)     \
+    X(ModifyPasswordParameter) \
+    X(UserList)
 
 // Media input and encoding.
-#define S2J_TYPES_MEDIA(X)
+#define S2J_TYPES_MEDIA(X)          \
+    X(VideoInputCapabilitySet)      \
+    X(VideoInputInterface)          \
+    X(VideoInputParameter)          \
+    X(VideoInputStatus)             \
+    X(VideoInputVGAParameter)       \
+    X(VideoEncodeCapabilitySet)     \
+    X(VideoEncodeParameter)         \
+    X(RequestIDRParameter)          \
+    X(VideoEncodeOSDCapabilitySet)  \
+    X(VideoEncodeOSDParameter)      \
+    X(AudioInputCapabilitySet)      \
+    X(AudioInputInterface)          \
+    X(AudioInputInterfaceParameter) \
+    X(AudioInputParameter)          \
+    X(AudioInputStatus)             \
+    X(AudioEncodeCapabilitySet)     \
+    X(AudioEncodeParameter)
 
 // Streaming output, protocol streams, servers and streaming inputs.
 #define S2J_TYPES_STREAMING(X)

@@ -1,0 +1,1210 @@
+// Video input, video encoding, encoder OSD and audio input/encoding records:
+// their layout, keys as written, family sets, the 16-bit frame-rate and
+// scanning-frequency fields, the two-key updates, signed and unsigned fields
+// sharing a key, capacities, and the example files.
+#include <dlfcn.h>
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "app_s2j.h"
+#include "registry.h"
+#include "support.h"
+
+using namespace testing_support;
+
+#define CAP(T, m) sizeof(((T *)0)->m)
+
+// ---- Layout ----------------------------------------------------------------
+
+static_assert(sizeof(VideoInputCapabilitySet) == 276);
+static_assert(offsetof(VideoInputCapabilitySet, SupportImageColorAdjust) == 256);
+static_assert(offsetof(VideoInputCapabilitySet, MaxImageHue) == 272);
+static_assert(CAP(VideoInputCapabilitySet, SupportedVideoInputInterfaceList) == 256);
+
+static_assert(sizeof(VideoInputInterface) == 2320);
+static_assert(offsetof(VideoInputInterface, Alias) == 128);
+static_assert(offsetof(VideoInputInterface, HardwareRelated) == 192);
+static_assert(offsetof(VideoInputInterface, Removeable) == 196);
+static_assert(offsetof(VideoInputInterface, MaxInputTiming) == 208);
+static_assert(offsetof(VideoInputInterface, SupportedManualTimingList) == 272);
+static_assert(CAP(VideoInputInterface, Name) == 64 && CAP(VideoInputInterface, Type) == 64);
+static_assert(CAP(VideoInputInterface, MaxInputTiming) == 64);
+static_assert(CAP(VideoInputInterface, SupportedManualTimingList) == 2048);
+
+// The two 16-bit scanning-frequency parts take the room of one 32-bit field.
+static_assert(sizeof(VideoInputParameter) == 120);
+static_assert(offsetof(VideoInputParameter, InterfaceName) == 4);
+static_assert(offsetof(VideoInputParameter, Height) == 80);
+static_assert(offsetof(VideoInputParameter, ScanningFrequencyInteger) == 84);
+static_assert(offsetof(VideoInputParameter, ScanningFrequencyDecimal) == 86);
+static_assert(offsetof(VideoInputParameter, ScanningMode) == 88);
+static_assert(offsetof(VideoInputParameter, Hue) == 96);
+static_assert(offsetof(VideoInputParameter, VideoLostAction) == 116);
+static_assert(CAP(VideoInputParameter, ScanningFrequencyInteger) == 2);
+static_assert(CAP(VideoInputParameter, ScanningFrequencyDecimal) == 2);
+static_assert(CAP(VideoInputParameter, InterfaceName) == 64);
+static_assert(sizeof(VideoInputParameterKeyword) == 4);
+
+static_assert(sizeof(VideoInputStatus) == 2192);
+static_assert(offsetof(VideoInputStatus, CableIsPlugged) == 64);
+static_assert(offsetof(VideoInputStatus, VideoInputTiming) == 72);
+static_assert(offsetof(VideoInputStatus, EmbeddedAudioSamplerate) == 140);
+static_assert(offsetof(VideoInputStatus, InputTimingDetails) == 144);
+static_assert(CAP(VideoInputStatus, VideoInputTiming) == 64);
+static_assert(CAP(VideoInputStatus, InputTimingDetails) == 2048);
+
+static_assert(sizeof(VideoInputVGAParameter) == 80);
+static_assert(offsetof(VideoInputVGAParameter, BlackEdgeIsSelfCorrection) == 64);
+static_assert(offsetof(VideoInputVGAParameter, CorrectedOffsetY) == 76);
+static_assert(sizeof(VideoInputVGAParameterKeyword) == 64);
+static_assert(CAP(VideoInputVGAParameterKeyword, InterfaceName) == 64);
+
+static_assert(sizeof(VideoEncodeCapabilitySet) == 3128);
+static_assert(offsetof(VideoEncodeCapabilitySet, MaxVideoEncodeWidth) == 2048);
+static_assert(offsetof(VideoEncodeCapabilitySet, SupportedVideoCodecList) == 2060);
+static_assert(offsetof(VideoEncodeCapabilitySet, MaxVideoEncodeBitrate) == 3084);
+static_assert(offsetof(VideoEncodeCapabilitySet, Rotate) == 3112);
+static_assert(offsetof(VideoEncodeCapabilitySet, Crop) == 3124);
+static_assert(CAP(VideoEncodeCapabilitySet, SupportedVideoEncodeSizeList) == 2048);
+static_assert(CAP(VideoEncodeCapabilitySet, SupportedBitrateControlAlgorithmList) == 256);
+
+// The two 16-bit frame-rate parts take the room of one 32-bit field.
+static_assert(sizeof(VideoEncodeParameter) == 268);
+static_assert(offsetof(VideoEncodeParameter, StreamIndex) == 4);
+static_assert(offsetof(VideoEncodeParameter, Height) == 20);
+static_assert(offsetof(VideoEncodeParameter, FramerateInteger) == 24);
+static_assert(offsetof(VideoEncodeParameter, FramerateDecimal) == 26);
+static_assert(offsetof(VideoEncodeParameter, Codec) == 28);
+static_assert(offsetof(VideoEncodeParameter, GOP) == 220);
+static_assert(offsetof(VideoEncodeParameter, Rotate) == 232);
+static_assert(offsetof(VideoEncodeParameter, CropOffsetBase) == 264);
+static_assert(CAP(VideoEncodeParameter, FramerateInteger) == 2 && CAP(VideoEncodeParameter, FramerateDecimal) == 2);
+static_assert(CAP(VideoEncodeParameter, Codec) == 64 && CAP(VideoEncodeParameter, Profile) == 64);
+static_assert(CAP(VideoEncodeParameter, BitrateControl) == 64);
+static_assert(sizeof(VideoEncodeParameterKeyword) == 8);
+static_assert(offsetof(VideoEncodeParameterKeyword, StreamIndex) == 4);
+
+static_assert(sizeof(RequestIDRParameter) == 8);
+static_assert(offsetof(RequestIDRParameter, StreamIndex) == 4);
+
+static_assert(sizeof(VideoEncodeOSDCapabilitySet) == 12);
+static_assert(offsetof(VideoEncodeOSDCapabilitySet, SupportPicture) == 8);
+
+static_assert(sizeof(VideoEncodeOSDParameter) == 440);
+static_assert(offsetof(VideoEncodeOSDParameter, Index) == 4);
+static_assert(offsetof(VideoEncodeOSDParameter, ForeColor) == 32);
+static_assert(offsetof(VideoEncodeOSDParameter, ForeAlpha) == 96);
+static_assert(offsetof(VideoEncodeOSDParameter, BackColor) == 100);
+static_assert(offsetof(VideoEncodeOSDParameter, XCoordinate) == 172);
+static_assert(offsetof(VideoEncodeOSDParameter, Content) == 184);
+static_assert(CAP(VideoEncodeOSDParameter, Content) == 256);
+static_assert(CAP(VideoEncodeOSDParameter, ForeColor) == 64 && CAP(VideoEncodeOSDParameter, BackColor) == 64);
+static_assert(sizeof(VideoEncodeOSDParameterKeyword) == 8);
+static_assert(offsetof(VideoEncodeOSDParameterKeyword, Index) == 4);
+
+static_assert(sizeof(AudioInputCapabilitySet) == 280);
+static_assert(offsetof(AudioInputCapabilitySet, MinVolume) == 260);
+static_assert(offsetof(AudioInputCapabilitySet, MaxGain) == 276);
+static_assert(CAP(AudioInputCapabilitySet, SupportedAudioInputInterfaceList) == 256);
+
+static_assert(sizeof(AudioInputInterface) == 496);
+static_assert(offsetof(AudioInputInterface, MinAudioSamplerate) == 192);
+static_assert(offsetof(AudioInputInterface, SupportedSampleRateList) == 216);
+static_assert(offsetof(AudioInputInterface, SupportVolumeControl) == 472);
+static_assert(offsetof(AudioInputInterface, MaxGain) == 492);
+static_assert(CAP(AudioInputInterface, SupportedSampleRateList) == 256);
+
+static_assert(sizeof(AudioInputInterfaceParameter) == 72);
+static_assert(offsetof(AudioInputInterfaceParameter, Volume) == 64);
+static_assert(offsetof(AudioInputInterfaceParameter, Gain) == 68);
+static_assert(sizeof(AudioInputInterfaceParameterKeyword) == 64);
+
+static_assert(sizeof(AudioInputParameter) == 76);
+static_assert(offsetof(AudioInputParameter, InterfaceName) == 4);
+static_assert(offsetof(AudioInputParameter, Gain) == 72);
+static_assert(sizeof(AudioInputParameterKeyword) == 4);
+
+static_assert(sizeof(AudioInputStatus) == 2140);
+static_assert(offsetof(AudioInputStatus, AudioSamplerate) == 72);
+static_assert(offsetof(AudioInputStatus, InputTimingDetails) == 84);
+static_assert(offsetof(AudioInputStatus, Volume) == 2132);
+static_assert(offsetof(AudioInputStatus, Gain) == 2136);
+static_assert(CAP(AudioInputStatus, InputTimingDetails) == 2048);
+
+static_assert(sizeof(AudioEncodeCapabilitySet) == 9 * 256 + 4);
+static_assert(offsetof(AudioEncodeCapabilitySet, G711SupportedBitrateList) == 8 * 256);
+static_assert(offsetof(AudioEncodeCapabilitySet, SupportResample) == 9 * 256);
+
+static_assert(sizeof(AudioEncodeParameter) == 84);
+static_assert(offsetof(AudioEncodeParameter, Codec) == 8);
+static_assert(offsetof(AudioEncodeParameter, Samplerate) == 72);
+static_assert(offsetof(AudioEncodeParameter, Bitrate) == 80);
+static_assert(sizeof(AudioEncodeParameterKeyword) == 4);
+
+namespace {
+
+bool exported(const std::string &sym) { return dlsym(RTLD_DEFAULT, sym.c_str()) != nullptr; }
+
+const s2j::Families::Lines &lines_of(const char *type) {
+    const s2j::TypeInfo *t = s2j::find_type(type);
+    if (t == nullptr) ADD_FAILURE() << type << " is not in the registry";
+    static const s2j::Families::Lines none{};
+    return t ? t->fam.line : none;
+}
+
+std::string keyword_diag(const char *type) {
+    return diag(text_list_file(), lines_of(type).c2s_array_update, std::string("c2s_array_update_") + type,
+                "The keyword is not contained in an object of the json array!\n");
+}
+
+std::string reader_diag_c2s_array(const char *type) {
+    return diag(text_list_file(), lines_of(type).c2s_array, std::string("c2s_array_") + type,
+                std::string("json_to_struct_") + type + " failed!\n");
+}
+
+// Which families a type has; the keyword readers are checked beside them.
+struct FamilySet {
+    bool text, array, update, f2s, s2f, f2s_array, s2f_array, keyword, get_keyword;
+};
+
+void expect_families(const std::string &T, const FamilySet &w) {
+    EXPECT_TRUE(exported("struct_to_json_" + T)) << T;
+    EXPECT_TRUE(exported("json_to_struct_" + T)) << T;
+    for (const char *p : {"s2j_", "c2s_", "j2s_"}) EXPECT_EQ(exported(p + T), w.text) << p << T;
+    EXPECT_EQ(exported("j2s_" + T + "_with_len"), w.text) << T;
+    for (const char *p : {"s2j_array_", "c2s_array_", "j2s_array_"}) EXPECT_EQ(exported(p + T), w.array) << p << T;
+    EXPECT_EQ(exported("j2s_array_" + T + "_with_len"), w.array) << T;
+    for (const char *p : {"c2s_array_update_", "j2s_array_update_"}) EXPECT_EQ(exported(p + T), w.update) << p << T;
+    EXPECT_EQ(exported("j2s_array_update_" + T + "_with_len"), w.update) << T;
+    EXPECT_EQ(exported("f2s_" + T), w.f2s) << T;
+    EXPECT_EQ(exported("s2f_" + T), w.s2f) << T;
+    EXPECT_EQ(exported("f2s_array_" + T), w.f2s_array) << T;
+    EXPECT_EQ(exported("s2f_array_" + T), w.s2f_array) << T;
+    EXPECT_EQ(exported("json_to_struct_" + T + "Keyword"), w.keyword) << T;
+    EXPECT_EQ(exported("json_to_struct_Get" + T + "Keyword"), w.get_keyword) << T;
+}
+
+// The member names of an object, in order; the tree is freed.
+std::vector<std::string> keys_of(cJSON *obj) {
+    std::vector<std::string> k;
+    for (const cJSON *m = obj ? obj->child : nullptr; m != nullptr; m = m->next) k.push_back(m->string);
+    cJSON_Delete(obj);
+    return k;
+}
+
+std::string compact(cJSON *tree) {
+    Text t(cJSON_PrintUnformatted(tree));
+    cJSON_Delete(tree);
+    return t.str();
+}
+
+bool contains(const std::string &hay, const std::string &needle) { return hay.find(needle) != std::string::npos; }
+
+// A JSON array of one object holding key: text.
+cJSON *one_string(const char *key, const std::string &text) {
+    cJSON *list = cJSON_CreateArray();
+    cJSON *obj = cJSON_CreateObject();
+    cJSON_AddStringToObject(obj, key, text.c_str());
+    cJSON_AddItemToArray(list, obj);
+    return list;
+}
+
+std::string example_path(const std::string &type) { return std::string(APP_S2J_SOURCE_DIR) + "/examples/" + type + ".json"; }
+std::string example(const std::string &type) { return read_file(example_path(type)); }
+
+const std::string k2100(2100, 'q');
+
+// =============================================================================
+// Key names and order, as written
+// =============================================================================
+
+TEST(MediaKeys, VideoInputCapabilitySetKeysInOrder) {
+    VideoInputCapabilitySet r{};
+    EXPECT_EQ(keys_of(struct_to_json_VideoInputCapabilitySet(&r)),
+              (std::vector<std::string>{"SupportedVideoInputInterfaceList", "SupportImageColorAdjust", "MaxImageBrightness",
+                                        "MaxImageContrast", "MaxImageSaturation", "MaxImageHue"}));
+}
+
+TEST(MediaKeys, VideoInputInterfaceKeysInOrderWithRemoveableSpelledSo) {
+    VideoInputInterface r{};
+    EXPECT_EQ(keys_of(struct_to_json_VideoInputInterface(&r)),
+              (std::vector<std::string>{"Name", "Type", "Alias", "HardwareRelated", "Removeable", "SupportTimingManualConfig",
+                                        "SupportEmbeddedAudio", "MaxInputTiming", "SupportedManualTimingList"}));
+}
+
+TEST(MediaKeys, VideoInputParameterKeysInOrderWithHueBeforeContrast) {
+    VideoInputParameter r{};
+    EXPECT_EQ(keys_of(struct_to_json_VideoInputParameter(&r)),
+              (std::vector<std::string>{"Channel", "InterfaceName", "ManualConfigTiming", "TimingType", "Width", "Height",
+                                        "ScanningFrequencyInteger", "ScanningFrequencyDecimal", "ScanningMode",
+                                        "Brightness", "Hue", "Contrast", "Saturation", "VideoLostContinueFrames",
+                                        "VideoResumeContinueFrames", "VideoLostAction"}));
+}
+
+TEST(MediaKeys, VideoInputStatusKeysInOrder) {
+    VideoInputStatus r{};
+    EXPECT_EQ(keys_of(struct_to_json_VideoInputStatus(&r)),
+              (std::vector<std::string>{"InterfaceName", "CableIsPlugged", "SignalIsValid", "VideoInputTiming",
+                                        "HasEmbeddedAudio", "EmbeddedAudioSamplerate", "InputTimingDetails"}));
+}
+
+TEST(MediaKeys, VideoInputVGAParameterKeysInOrder) {
+    VideoInputVGAParameter r{};
+    EXPECT_EQ(keys_of(struct_to_json_VideoInputVGAParameter(&r)),
+              (std::vector<std::string>{"InterfaceName", "BlackEdgeIsSelfCorrection", "CorrectedPhaseValue",
+                                        "CorrectedOffsetX", "CorrectedOffsetY"}));
+}
+
+TEST(MediaKeys, VideoEncodeCapabilitySetKeysInOrder) {
+    VideoEncodeCapabilitySet r{};
+    EXPECT_EQ(keys_of(struct_to_json_VideoEncodeCapabilitySet(&r)),
+              (std::vector<std::string>{"SupportedVideoEncodeSizeList", "MaxVideoEncodeWidth", "MaxVideoEncodeHeight",
+                                        "MaxVideoEncodeFramerate", "SupportedVideoCodecList",
+                                        "SupportedH264CodecProfileList", "SupportedH265CodecProfileList",
+                                        "SupportedBitrateControlAlgorithmList", "MaxVideoEncodeBitrate",
+                                        "MaxVideoEncodeGOP", "MinVideoEncodeWidth", "MinVideoEncodeHeight",
+                                        "MinVideoEncodeBitrate", "MaxVideoEncodeCapability",
+                                        "SelfAdaptiveVideoEncodeSizeCapability", "Rotate", "Mirror", "Flip", "Crop"}));
+}
+
+TEST(MediaKeys, VideoEncodeParameterKeysInOrder) {
+    VideoEncodeParameter r{};
+    EXPECT_EQ(keys_of(struct_to_json_VideoEncodeParameter(&r)),
+              (std::vector<std::string>{"Channel", "StreamIndex", "Enable", "SelfAdaptiveVideoEncodeSize", "Width",
+                                        "Height", "FramerateInteger", "FramerateDecimal", "Codec", "Profile",
+                                        "BitrateControl", "GOP", "Bitrate", "ImageQuality", "Rotate", "Mirror", "Flip",
+                                        "Crop", "CropLeftOffset", "CropTopOffset", "CropRightOffset",
+                                        "CropBottomOffset", "CropOffsetBase"}));
+}
+
+TEST(MediaKeys, RequestIDRParameterKeysInOrder) {
+    RequestIDRParameter r{3, 1};
+    Text t(s2j_RequestIDRParameter(&r, 0));
+    EXPECT_EQ(t.str(), "{\"Channel\":3,\"StreamIndex\":1}");
+}
+
+TEST(MediaKeys, VideoEncodeOSDCapabilitySetKeysInOrder) {
+    VideoEncodeOSDCapabilitySet r{8, 1, 0};
+    Text t(s2j_VideoEncodeOSDCapabilitySet(&r, 0));
+    EXPECT_EQ(t.str(), "{\"OSDNumberPerChannel\":8,\"SupportDynamicText\":1,\"SupportPicture\":0}");
+}
+
+TEST(MediaKeys, VideoEncodeOSDParameterKeysInOrder) {
+    VideoEncodeOSDParameter r{};
+    EXPECT_EQ(keys_of(struct_to_json_VideoEncodeOSDParameter(&r)),
+              (std::vector<std::string>{"Channel", "Index", "Type", "Visible", "AutoFontSize", "FixedFontSize", "Bold",
+                                        "Stroke", "ForeColor", "ForeAlpha", "BackColor", "BackAlpha",
+                                        "CoordinateOrigin", "XCoordinate", "YCoordinate", "CoordinateBase", "Content"}));
+}
+
+TEST(MediaKeys, AudioInputCapabilitySetKeysInOrder) {
+    AudioInputCapabilitySet r{};
+    EXPECT_EQ(keys_of(struct_to_json_AudioInputCapabilitySet(&r)),
+              (std::vector<std::string>{"SupportedAudioInputInterfaceList", "SupportVolumeControl", "MinVolume",
+                                        "MaxVolume", "SupportGainControl", "MinGain", "MaxGain"}));
+}
+
+TEST(MediaKeys, AudioInputInterfaceKeysInOrder) {
+    AudioInputInterface r{};
+    EXPECT_EQ(keys_of(struct_to_json_AudioInputInterface(&r)),
+              (std::vector<std::string>{"Name", "Type", "Alias", "MinAudioSamplerate", "MaxAudioSamplerate",
+                                        "MaxSamplingBitWidth", "MaxAudioChannels", "IsAnalogAudio", "IsEmbeddedAudio",
+                                        "SupportedSampleRateList", "SupportVolumeControl", "MinVolume", "MaxVolume",
+                                        "SupportGainControl", "MinGain", "MaxGain"}));
+}
+
+TEST(MediaKeys, AudioInputInterfaceParameterAndAudioInputParameterKeysInOrder) {
+    AudioInputInterfaceParameter a{};
+    EXPECT_EQ(keys_of(struct_to_json_AudioInputInterfaceParameter(&a)),
+              (std::vector<std::string>{"InterfaceName", "Volume", "Gain"}));
+    AudioInputParameter b{};
+    EXPECT_EQ(keys_of(struct_to_json_AudioInputParameter(&b)),
+              (std::vector<std::string>{"Channel", "InterfaceName", "Volume", "Gain"}));
+}
+
+TEST(MediaKeys, AudioInputStatusKeysInOrder) {
+    AudioInputStatus r{};
+    EXPECT_EQ(keys_of(struct_to_json_AudioInputStatus(&r)),
+              (std::vector<std::string>{"InterfaceName", "CableIsPlugged", "SignalIsValid", "AudioSamplerate",
+                                        "SamplingBitWidth", "AudioChannels", "InputTimingDetails", "Volume", "Gain"}));
+}
+
+TEST(MediaKeys, AudioEncodeCapabilitySetKeysInOrder) {
+    AudioEncodeCapabilitySet r{};
+    EXPECT_EQ(keys_of(struct_to_json_AudioEncodeCapabilitySet(&r)),
+              (std::vector<std::string>{"SupportedAudioCodecList", "AacLcSupportedSamplerateList",
+                                        "HeAacSupportedSamplerateList", "HeAacV2SupportedSamplerateList",
+                                        "G711SupportedSamplerateList", "AacLcSupportedBitrateList",
+                                        "HeAacSupportedBitrateList", "HeAacV2SupportedBitrateList",
+                                        "G711SupportedBitrateList", "SupportResample"}));
+}
+
+TEST(MediaKeys, AudioEncodeParameterKeysInOrder) {
+    AudioEncodeParameter r{};
+    EXPECT_EQ(keys_of(struct_to_json_AudioEncodeParameter(&r)),
+              (std::vector<std::string>{"Channel", "Enable", "Codec", "Samplerate", "SameWithAudioInputSamplerate",
+                                        "Bitrate"}));
+}
+
+// =============================================================================
+// Family sets
+// =============================================================================
+
+TEST(MediaFamilies, VideoInputCapabilitySetIsAnArrayLoadedFromAFileButNeverSaved) {
+    expect_families("VideoInputCapabilitySet", {false, true, false, false, false, true, false, false, false});
+}
+TEST(MediaFamilies, VideoInputInterfaceIsAnArrayLoadedAndSaved) {
+    expect_families("VideoInputInterface", {false, true, false, false, false, true, true, false, false});
+}
+TEST(MediaFamilies, VideoInputParameterHasArrayUpdateKeywordReadersAndArrayFiles) {
+    expect_families("VideoInputParameter", {false, true, true, false, false, true, true, true, true});
+}
+TEST(MediaFamilies, VideoInputStatusHasArraysAndTheGetKeywordReaderOnly) {
+    expect_families("VideoInputStatus", {false, true, false, false, false, false, false, false, true});
+}
+TEST(MediaFamilies, VideoInputVGAParameterHasKeyedUpdateButNoFileFamily) {
+    expect_families("VideoInputVGAParameter", {false, true, true, false, false, false, false, true, true});
+}
+TEST(MediaFamilies, VideoEncodeCapabilitySetIsAnArrayLoadedFromAFileButNeverSaved) {
+    expect_families("VideoEncodeCapabilitySet", {false, true, false, false, false, true, false, false, false});
+}
+TEST(MediaFamilies, VideoEncodeParameterHasArrayUpdateKeywordReadersAndArrayFiles) {
+    expect_families("VideoEncodeParameter", {false, true, true, false, false, true, true, true, true});
+}
+TEST(MediaFamilies, RequestIDRParameterHasTextFamiliesOnly) {
+    expect_families("RequestIDRParameter", {true, false, false, false, false, false, false, false, false});
+}
+TEST(MediaFamilies, VideoEncodeOSDCapabilitySetIsASingleRecordLoadedButNeverSaved) {
+    expect_families("VideoEncodeOSDCapabilitySet", {true, false, false, true, false, false, false, false, false});
+}
+TEST(MediaFamilies, VideoEncodeOSDParameterHasArrayUpdateKeywordReadersAndArrayFiles) {
+    expect_families("VideoEncodeOSDParameter", {false, true, true, false, false, true, true, true, true});
+}
+TEST(MediaFamilies, AudioInputCapabilitySetIsAnArrayLoadedFromAFileButNeverSaved) {
+    expect_families("AudioInputCapabilitySet", {false, true, false, false, false, true, false, false, false});
+}
+TEST(MediaFamilies, AudioInputInterfaceIsAnArrayLoadedAndSaved) {
+    expect_families("AudioInputInterface", {false, true, false, false, false, true, true, false, false});
+}
+TEST(MediaFamilies, AudioInputInterfaceParameterHasArrayUpdateKeywordReadersAndArrayFiles) {
+    expect_families("AudioInputInterfaceParameter", {false, true, true, false, false, true, true, true, true});
+}
+TEST(MediaFamilies, AudioInputParameterHasArrayUpdateKeywordReadersAndArrayFiles) {
+    expect_families("AudioInputParameter", {false, true, true, false, false, true, true, true, true});
+}
+TEST(MediaFamilies, AudioInputStatusHasArraysAndTheGetKeywordReaderOnly) {
+    expect_families("AudioInputStatus", {false, true, false, false, false, false, false, false, true});
+}
+TEST(MediaFamilies, AudioEncodeCapabilitySetIsASingleRecordLoadedButNeverSaved) {
+    expect_families("AudioEncodeCapabilitySet", {true, false, false, true, false, false, false, false, false});
+}
+TEST(MediaFamilies, AudioEncodeParameterHasArrayUpdateKeywordReadersAndArrayFiles) {
+    expect_families("AudioEncodeParameter", {false, true, true, false, false, true, true, true, true});
+}
+
+// =============================================================================
+// Video input
+// =============================================================================
+
+TEST(VideoInputParameter, ArrayOfTwoWrittenAndReadBackKeepsSecondElementInPlace) {
+    VideoInputParameter a[2] = {};
+    a[0].Channel = 4;
+    a[0].ScanningFrequencyInteger = 50;
+    a[0].VideoLostAction = 9;
+    a[1].Channel = 7;
+    a[1].ScanningFrequencyInteger = 59;
+    a[1].ScanningFrequencyDecimal = 94;
+    a[1].VideoLostAction = 3;
+    const std::string path = temp_dir() + "/vip.json";
+    ASSERT_EQ(s2f_array_VideoInputParameter(path.c_str(), a, 2), 0);
+    VideoInputParameter b[2] = {};
+    uint32_t n = 2;
+    ASSERT_EQ(f2s_array_VideoInputParameter(path.c_str(), b, &n), 0);
+    EXPECT_EQ(n, 2u);
+    EXPECT_EQ(b[1].Channel, 7u);
+    EXPECT_EQ(b[1].VideoLostAction, 3u);
+    EXPECT_EQ(b[1].ScanningFrequencyDecimal, 94);
+    EXPECT_EQ(b[0].VideoLostAction, 9u);
+    EXPECT_EQ(std::memcmp(a, b, sizeof a), 0);
+}
+
+TEST(VideoInputParameter, ScanningFrequencyIntegerOf65596IsReadBackAs60) {
+    VideoInputParameter r[1] = {};
+    uint32_t n = 1;
+    ASSERT_EQ(j2s_array_VideoInputParameter("[{\"ScanningFrequencyInteger\":65596}]", r, &n), 0);
+    EXPECT_EQ(r[0].ScanningFrequencyInteger, 60);
+    EXPECT_EQ(r[0].ScanningFrequencyDecimal, 0);
+    Text t(s2j_array_VideoInputParameter(r, 1, 0));
+    EXPECT_TRUE(contains(t.str(), "\"ScanningFrequencyInteger\":60,\"ScanningFrequencyDecimal\":0,"));
+}
+
+TEST(VideoInputParameter, ScanningFrequencyFieldsStoreTheLow16BitsWithoutFailing) {
+    VideoInputParameter r[1] = {};
+    uint32_t n = 1;
+    ASSERT_EQ(j2s_array_VideoInputParameter("[{\"ScanningFrequencyInteger\":65536,\"ScanningFrequencyDecimal\":-1}]", r, &n), 0);
+    EXPECT_EQ(r[0].ScanningFrequencyInteger, 0);
+    EXPECT_EQ(r[0].ScanningFrequencyDecimal, 65535);
+}
+
+TEST(VideoInputParameter, ScanningFrequencyOf65535IsEmittedUnsignedBetweenHeightAndScanningMode) {
+    VideoInputParameter r{};
+    r.Height = 1080;
+    r.ScanningFrequencyInteger = 65535;
+    r.ScanningFrequencyDecimal = 65535;
+    r.ScanningMode = 2;
+    EXPECT_TRUE(contains(compact(struct_to_json_VideoInputParameter(&r)),
+                         "\"Height\":1080,\"ScanningFrequencyInteger\":65535,\"ScanningFrequencyDecimal\":65535,"
+                         "\"ScanningMode\":2,"));
+}
+
+TEST(VideoInputParameter, ScanningFrequencyGivenAsStringFailsTheReader) {
+    VideoInputParameter r[1] = {};
+    r[0].ScanningFrequencyInteger = 25;
+    uint32_t n = 1;
+    StderrCapture err;
+    EXPECT_EQ(j2s_array_VideoInputParameter("[{\"Width\":1280,\"ScanningFrequencyInteger\":\"60\"}]", r, &n), -1);
+    EXPECT_EQ(err.text(), reader_diag_c2s_array("VideoInputParameter"));
+    EXPECT_EQ(n, 1u);
+    EXPECT_EQ(r[0].Width, 1280u);
+    EXPECT_EQ(r[0].ScanningFrequencyInteger, 25);
+}
+
+TEST(VideoInputInterface, KeyRemovableWithoutSecondELeavesTheFlagUntouched) {
+    VideoInputInterface r[1] = {};
+    r[0].Removeable = 5;
+    uint32_t n = 1;
+    ASSERT_EQ(j2s_array_VideoInputInterface("[{\"Name\":\"VGA1\",\"Removable\":1}]", r, &n), 0);
+    EXPECT_STREQ(r[0].Name, "VGA1");
+    EXPECT_EQ(r[0].Removeable, 5);
+    n = 1;
+    ASSERT_EQ(j2s_array_VideoInputInterface("[{\"Removeable\":1}]", r, &n), 0);
+    EXPECT_EQ(r[0].Removeable, 1);
+    EXPECT_TRUE(contains(compact(struct_to_json_VideoInputInterface(&r[0])), "\"Removeable\":1,"));
+    EXPECT_FALSE(contains(compact(struct_to_json_VideoInputInterface(&r[0])), "\"Removable\""));
+}
+
+TEST(VideoInputInterface, SupportedManualTimingListOf2048OrMoreIsStoredAsFirst2047) {
+    for (size_t len : {size_t(2048), k2100.size()}) {
+        VideoInputInterface r[1] = {};
+        uint32_t n = 1;
+        Tree list(one_string("SupportedManualTimingList", std::string(len, 't')));
+        ASSERT_EQ(c2s_array_VideoInputInterface(list.p, r, &n), 0);
+        EXPECT_EQ(std::string(r[0].SupportedManualTimingList), std::string(2047, 't'));
+    }
+}
+
+TEST(VideoInputInterface, MaxInputTimingKeepsAtMost63) {
+    VideoInputInterface r[1] = {};
+    uint32_t n = 1;
+    Tree list(one_string("MaxInputTiming", std::string(64, 'm')));
+    ASSERT_EQ(c2s_array_VideoInputInterface(list.p, r, &n), 0);
+    EXPECT_EQ(std::string(r[0].MaxInputTiming), std::string(63, 'm'));
+}
+
+TEST(VideoInputStatus, InputTimingDetailsOf2048OrMoreIsStoredAsFirst2047AndVideoInputTimingAs63) {
+    VideoInputStatus r[1] = {};
+    uint32_t n = 1;
+    Tree list(one_string("InputTimingDetails", k2100));
+    cJSON_AddStringToObject(cJSON_GetArrayItem(list.p, 0), "VideoInputTiming", std::string(100, 'v').c_str());
+    ASSERT_EQ(c2s_array_VideoInputStatus(list.p, r, &n), 0);
+    EXPECT_EQ(std::string(r[0].InputTimingDetails), k2100.substr(0, 2047));
+    EXPECT_EQ(std::string(r[0].VideoInputTiming), std::string(63, 'v'));
+}
+
+TEST(VideoInputVGAParameter, KeyedUpdateElementWithoutInterfaceNameFailsWithKeywordMessage) {
+    VideoInputVGAParameter a[2] = {};
+    std::strcpy(a[0].InterfaceName, "VGA1");
+    std::strcpy(a[1].InterfaceName, "VGA2");
+    a[0].CorrectedPhaseValue = 4;
+    uint32_t n = 2;
+    StderrCapture err;
+    EXPECT_EQ(j2s_array_update_VideoInputVGAParameter(
+                  "[{\"InterfaceName\":\"VGA1\",\"CorrectedPhaseValue\":9},{\"CorrectedPhaseValue\":1}]", a, &n),
+              -2);
+    EXPECT_EQ(err.text(), keyword_diag("VideoInputVGAParameter"));
+    EXPECT_EQ(n, 2u);
+    EXPECT_EQ(a[0].CorrectedPhaseValue, 9);  // the earlier element's update stays
+    EXPECT_EQ(a[1].CorrectedPhaseValue, 0);
+}
+
+TEST(VideoInputVGAParameter, KeyedUpdateElementWithNumericInterfaceNameFailsWithKeywordMessage) {
+    VideoInputVGAParameter a[1] = {};
+    std::strcpy(a[0].InterfaceName, "1");
+    uint32_t n = 1;
+    Tree list(cJSON_Parse("[{\"InterfaceName\":1,\"CorrectedOffsetX\":5}]"));
+    StderrCapture err;
+    EXPECT_EQ(c2s_array_update_VideoInputVGAParameter(list.p, a, &n), -2);
+    EXPECT_EQ(err.text(), keyword_diag("VideoInputVGAParameter"));
+    EXPECT_EQ(n, 1u);
+    EXPECT_EQ(a[0].CorrectedOffsetX, 0);
+}
+
+TEST(VideoInputVGAParameter, NegativeCorrectionValuesAreEmittedSigned) {
+    VideoInputVGAParameter r{};
+    std::strcpy(r.InterfaceName, "VGA1");
+    r.CorrectedPhaseValue = -1;
+    r.CorrectedOffsetX = -3;
+    r.CorrectedOffsetY = -2147483647 - 1;
+    EXPECT_EQ(compact(struct_to_json_VideoInputVGAParameter(&r)),
+              "{\"InterfaceName\":\"VGA1\",\"BlackEdgeIsSelfCorrection\":0,\"CorrectedPhaseValue\":-1,"
+              "\"CorrectedOffsetX\":-3,\"CorrectedOffsetY\":-2147483648}");
+}
+
+TEST(VideoInputVGAParameter, KeyedUpdateComparesInterfaceNameOverAtMost64Characters) {
+    const std::string name70(70, 'n');
+    VideoInputVGAParameter a[2] = {};
+    std::memcpy(a[0].InterfaceName, std::string(62, 'n').c_str(), 63);  // 62 characters: no match
+    std::memcpy(a[1].InterfaceName, name70.c_str(), 63);                 // the first 63
+    uint32_t n = 2;
+    Tree list(one_string("InterfaceName", name70));
+    cJSON_AddIntToObject(cJSON_GetArrayItem(list.p, 0), "CorrectedOffsetY", 11);
+    ASSERT_EQ(c2s_array_update_VideoInputVGAParameter(list.p, a, &n), 0);
+    EXPECT_EQ(n, 1u);
+    EXPECT_EQ(a[0].CorrectedOffsetY, 0);
+    EXPECT_EQ(a[1].CorrectedOffsetY, 11);
+    EXPECT_EQ(std::string(a[1].InterfaceName), name70.substr(0, 63));
+}
+
+TEST(VideoInputVGAParameter, KeywordReadersCopyInterfaceNameWithCapacity64) {
+    VideoInputVGAParameterKeyword kw;
+    std::memset(&kw, 'x', sizeof kw);
+    Tree obj(cJSON_CreateObject());
+    cJSON_AddStringToObject(obj.p, "InterfaceName", std::string(80, 'i').c_str());
+    EXPECT_EQ(json_to_struct_VideoInputVGAParameterKeyword(&kw, obj.p), 1);
+    EXPECT_EQ(std::string(kw.InterfaceName), std::string(63, 'i'));
+    char name[64];
+    EXPECT_EQ(json_to_struct_GetVideoInputVGAParameterKeyword(name, obj.p), 1);
+    EXPECT_EQ(std::string(name), std::string(63, 'i'));
+}
+
+TEST(VideoInputStatus, GetKeywordReaderPicksInterfaceNameAndRequiresAString) {
+    char name[64] = "unchanged";
+    Tree ok(cJSON_Parse("{\"CableIsPlugged\":1,\"InterfaceName\":\"HDMI2\"}"));
+    EXPECT_EQ(json_to_struct_GetVideoInputStatusKeyword(name, ok.p), 1);
+    EXPECT_STREQ(name, "HDMI2");
+    Tree number(cJSON_Parse("{\"InterfaceName\":2}"));
+    EXPECT_EQ(json_to_struct_GetVideoInputStatusKeyword(name, number.p), 0);
+    Tree absent(cJSON_Parse("{\"SignalIsValid\":1}"));
+    EXPECT_EQ(json_to_struct_GetVideoInputStatusKeyword(name, absent.p), 0);
+    EXPECT_STREQ(name, "HDMI2");
+}
+
+TEST(VideoInputParameter, KeywordReadersRequireChannelAsAnInteger) {
+    VideoInputParameterKeyword kw{99};
+    uint32_t ch = 99;
+    Tree ok(cJSON_Parse("{\"Channel\":3}"));
+    EXPECT_EQ(json_to_struct_VideoInputParameterKeyword(&kw, ok.p), 1);
+    EXPECT_EQ(kw.Channel, 3u);
+    EXPECT_EQ(json_to_struct_GetVideoInputParameterKeyword(&ch, ok.p), 1);
+    EXPECT_EQ(ch, 3u);
+    Tree str(cJSON_Parse("{\"Channel\":\"3\"}"));
+    EXPECT_EQ(json_to_struct_VideoInputParameterKeyword(&kw, str.p), 0);
+    EXPECT_EQ(json_to_struct_GetVideoInputParameterKeyword(&ch, str.p), 0);
+}
+
+TEST(VideoInputParameter, KeyedUpdateByChannelChangesOnlyThatChannel) {
+    VideoInputParameter a[3] = {};
+    for (uint32_t i = 0; i < 3; ++i) {
+        a[i].Channel = i;
+        a[i].Brightness = 50;
+    }
+    uint32_t n = 3;
+    ASSERT_EQ(j2s_array_update_VideoInputParameter("[{\"Channel\":2,\"Brightness\":70,\"ScanningFrequencyInteger\":30}]", a, &n), 0);
+    EXPECT_EQ(n, 1u);
+    EXPECT_EQ(a[0].Brightness, 50u);
+    EXPECT_EQ(a[1].Brightness, 50u);
+    EXPECT_EQ(a[2].Brightness, 70u);
+    EXPECT_EQ(a[2].ScanningFrequencyInteger, 30);
+}
+
+TEST(VideoInputCapabilitySet, PictureAdjustmentMaximaAreUnsignedAndTheFlagSigned) {
+    VideoInputCapabilitySet r{};
+    r.SupportImageColorAdjust = -1;
+    r.MaxImageHue = 0xFFFFFFFFu;
+    const std::string text = compact(struct_to_json_VideoInputCapabilitySet(&r));
+    EXPECT_TRUE(contains(text, "\"SupportImageColorAdjust\":-1,"));
+    EXPECT_TRUE(contains(text, "\"MaxImageHue\":4294967295}"));
+}
+
+// =============================================================================
+// Video encoding
+// =============================================================================
+
+TEST(VideoEncodeParameter, FrameRate25Over0IsEmittedBetweenHeightAndCodec) {
+    VideoEncodeParameter r{};
+    r.Height = 1080;
+    r.FramerateInteger = 25;
+    r.FramerateDecimal = 0;
+    std::strcpy(r.Codec, "H.264");
+    EXPECT_TRUE(contains(compact(struct_to_json_VideoEncodeParameter(&r)),
+                         "\"Height\":1080,\"FramerateInteger\":25,\"FramerateDecimal\":0,\"Codec\":\"H.264\","));
+}
+
+TEST(VideoEncodeParameter, FramerateDecimalOf65537StoresOne) {
+    VideoEncodeParameter r[1] = {};
+    uint32_t n = 1;
+    ASSERT_EQ(j2s_array_VideoEncodeParameter("[{\"FramerateDecimal\":65537}]", r, &n), 0);
+    EXPECT_EQ(r[0].FramerateDecimal, 1);
+    EXPECT_EQ(r[0].FramerateInteger, 0);
+}
+
+TEST(VideoEncodeParameter, FrameRateOf65535IsEmittedUnsigned) {
+    VideoEncodeParameter r{};
+    r.FramerateInteger = 65535;
+    r.FramerateDecimal = 65535;
+    const std::string text = compact(struct_to_json_VideoEncodeParameter(&r));
+    EXPECT_TRUE(contains(text, "\"FramerateInteger\":65535,\"FramerateDecimal\":65535,"));
+}
+
+TEST(VideoEncodeParameter, FrameRateStoresLow16BitsOf30And65536And70000AndMinusOne) {
+    const struct {
+        const char *text;
+        uint16_t want;
+    } cases[] = {{"30", 30}, {"65536", 0}, {"70000", 4464}, {"-1", 65535}};
+    for (const auto &c : cases) {
+        VideoEncodeParameter r[1] = {};
+        r[0].FramerateDecimal = 7;
+        uint32_t n = 1;
+        const std::string json = std::string("[{\"FramerateInteger\":") + c.text + "}]";
+        ASSERT_EQ(j2s_array_VideoEncodeParameter(json.c_str(), r, &n), 0) << c.text;
+        EXPECT_EQ(r[0].FramerateInteger, c.want) << c.text;
+        EXPECT_EQ(r[0].FramerateDecimal, 7) << c.text;  // the neighbouring half is not touched
+    }
+}
+
+TEST(VideoEncodeParameter, FrameRateOfAnotherJsonTypeFailsTheReader) {
+    for (const char *json : {"[{\"FramerateInteger\":\"25\"}]", "[{\"FramerateInteger\":25.5}]", "[{\"FramerateDecimal\":true}]"}) {
+        VideoEncodeParameter r[1] = {};
+        uint32_t n = 1;
+        StderrCapture err;
+        EXPECT_EQ(j2s_array_VideoEncodeParameter(json, r, &n), -1) << json;
+        EXPECT_EQ(err.text(), reader_diag_c2s_array("VideoEncodeParameter")) << json;
+    }
+}
+
+TEST(VideoEncodeParameter, ArrayOfThreeWrittenAndReadBackKeepsKeysAndCropOffsetBaseInPlace) {
+    VideoEncodeParameter a[3] = {};
+    for (uint32_t i = 0; i < 3; ++i) {
+        a[i].Channel = 10 + i;
+        a[i].StreamIndex = 20 + i;
+        a[i].FramerateInteger = static_cast<uint16_t>(24 + i);
+        a[i].FramerateDecimal = static_cast<uint16_t>(i);
+        a[i].CropOffsetBase = 1000 * (i + 1);
+    }
+    Text text(s2j_array_VideoEncodeParameter(a, 3, 1));
+    ASSERT_NE(text.p, nullptr);
+    VideoEncodeParameter b[3] = {};
+    uint32_t n = 3;
+    ASSERT_EQ(j2s_array_VideoEncodeParameter(text.p, b, &n), 0);
+    EXPECT_EQ(n, 3u);
+    for (uint32_t i = 0; i < 3; ++i) {
+        EXPECT_EQ(b[i].Channel, 10 + i);
+        EXPECT_EQ(b[i].StreamIndex, 20 + i);
+        EXPECT_EQ(b[i].CropOffsetBase, 1000 * (i + 1));
+        EXPECT_EQ(b[i].FramerateInteger, 24 + i);
+    }
+    EXPECT_EQ(std::memcmp(a, b, sizeof a), 0);
+}
+
+TEST(VideoEncodeParameter, CodecProfileAndBitrateControlOf64OrMoreAreStoredAsFirst63) {
+    for (const char *key : {"Codec", "Profile", "BitrateControl"}) {
+        VideoEncodeParameter r[1] = {};
+        uint32_t n = 1;
+        Tree list(one_string(key, std::string(64, 'c')));
+        ASSERT_EQ(c2s_array_VideoEncodeParameter(list.p, r, &n), 0);
+        const char *field = std::strcmp(key, "Codec") == 0     ? r[0].Codec
+                            : std::strcmp(key, "Profile") == 0 ? r[0].Profile
+                                                               : r[0].BitrateControl;
+        EXPECT_EQ(std::string(field), std::string(63, 'c')) << key;
+    }
+}
+
+TEST(VideoEncodeCapabilitySet, SizeListOf2048OrMoreKeeps2047AndOtherListsKeep255) {
+    VideoEncodeCapabilitySet r[1] = {};
+    uint32_t n = 1;
+    Tree list(one_string("SupportedVideoEncodeSizeList", k2100));
+    cJSON *obj = cJSON_GetArrayItem(list.p, 0);
+    const char *lists[] = {"SupportedVideoCodecList", "SupportedH264CodecProfileList", "SupportedH265CodecProfileList",
+                           "SupportedBitrateControlAlgorithmList"};
+    for (const char *k : lists) cJSON_AddStringToObject(obj, k, std::string(256, 'L').c_str());
+    ASSERT_EQ(c2s_array_VideoEncodeCapabilitySet(list.p, r, &n), 0);
+    EXPECT_EQ(std::string(r[0].SupportedVideoEncodeSizeList), k2100.substr(0, 2047));
+    EXPECT_EQ(std::string(r[0].SupportedVideoCodecList), std::string(255, 'L'));
+    EXPECT_EQ(std::string(r[0].SupportedH264CodecProfileList), std::string(255, 'L'));
+    EXPECT_EQ(std::string(r[0].SupportedH265CodecProfileList), std::string(255, 'L'));
+    EXPECT_EQ(std::string(r[0].SupportedBitrateControlAlgorithmList), std::string(255, 'L'));
+}
+
+TEST(VideoEncodeParameter, KeyedUpdateWithChannelButNoStreamIndexFailsThoughGetKeywordAcceptsIt) {
+    VideoEncodeParameter a[2] = {};
+    a[0].Channel = 1;
+    a[1].Channel = 1;
+    a[1].StreamIndex = 1;
+    const char *json = "[{\"Channel\":1,\"Bitrate\":4000}]";
+    uint32_t n = 2;
+    StderrCapture err;
+    EXPECT_EQ(j2s_array_update_VideoEncodeParameter(json, a, &n), -2);
+    EXPECT_EQ(err.text(), keyword_diag("VideoEncodeParameter"));
+    EXPECT_EQ(n, 2u);
+    EXPECT_EQ(a[0].Bitrate, 0u);
+    EXPECT_EQ(a[1].Bitrate, 0u);
+    Tree list(cJSON_Parse(json));
+    uint32_t channel = 0;
+    EXPECT_EQ(json_to_struct_GetVideoEncodeParameterKeyword(&channel, cJSON_GetArrayItem(list.p, 0)), 1);
+    EXPECT_EQ(channel, 1u);
+    VideoEncodeParameterKeyword kw{};
+    EXPECT_EQ(json_to_struct_VideoEncodeParameterKeyword(&kw, cJSON_GetArrayItem(list.p, 0)), 0);
+}
+
+TEST(VideoEncodeParameter, SameChannelWithDifferentStreamIndexAreDistinctForKeyedUpdate) {
+    VideoEncodeParameter a[4] = {};
+    for (uint32_t i = 0; i < 4; ++i) {
+        a[i].Channel = i / 2;  // channels 0, 0, 1, 1
+        a[i].StreamIndex = i % 2;
+        a[i].Bitrate = 100;
+    }
+    uint32_t n = 4;
+    ASSERT_EQ(j2s_array_update_VideoEncodeParameter(
+                  "[{\"Channel\":0,\"StreamIndex\":1,\"Bitrate\":512},{\"Channel\":1,\"StreamIndex\":0,\"Bitrate\":6000}]",
+                  a, &n),
+              0);
+    EXPECT_EQ(n, 2u);
+    EXPECT_EQ(a[0].Bitrate, 100u);
+    EXPECT_EQ(a[1].Bitrate, 512u);
+    EXPECT_EQ(a[2].Bitrate, 6000u);
+    EXPECT_EQ(a[3].Bitrate, 100u);
+}
+
+TEST(VideoEncodeParameter, KeyedUpdateSkipsElementWhoseStreamIndexMatchesNoRecord) {
+    VideoEncodeParameter a[2] = {};
+    a[0].Channel = 0;
+    a[1].Channel = 0;
+    a[1].StreamIndex = 1;
+    uint32_t n = 2;
+    ASSERT_EQ(j2s_array_update_VideoEncodeParameter("[{\"Channel\":0,\"StreamIndex\":2,\"GOP\":50}]", a, &n), 0);
+    EXPECT_EQ(n, 0u);
+    EXPECT_EQ(a[0].GOP, 0u);
+    EXPECT_EQ(a[1].GOP, 0u);
+}
+
+TEST(VideoEncodeParameter, KeywordReaderRequiresChannelThenStreamIndexAsIntegers) {
+    VideoEncodeParameterKeyword kw{77, 77};
+    Tree both(cJSON_Parse("{\"StreamIndex\":2,\"Channel\":5}"));
+    EXPECT_EQ(json_to_struct_VideoEncodeParameterKeyword(&kw, both.p), 1);
+    EXPECT_EQ(kw.Channel, 5u);
+    EXPECT_EQ(kw.StreamIndex, 2u);
+    VideoEncodeParameterKeyword partial{77, 77};
+    Tree bad_second(cJSON_Parse("{\"Channel\":6,\"StreamIndex\":\"1\"}"));
+    EXPECT_EQ(json_to_struct_VideoEncodeParameterKeyword(&partial, bad_second.p), 0);
+    EXPECT_EQ(partial.Channel, 6u);  // keys read before the failing one stay written
+    EXPECT_EQ(partial.StreamIndex, 77u);
+    Tree no_channel(cJSON_Parse("{\"StreamIndex\":1}"));
+    EXPECT_EQ(json_to_struct_VideoEncodeParameterKeyword(&partial, no_channel.p), 0);
+    uint32_t channel = 0;
+    EXPECT_EQ(json_to_struct_GetVideoEncodeParameterKeyword(&channel, no_channel.p), 0);
+}
+
+TEST(VideoEncodeParameter, RotateOfMinus90IsStoredAsItsBitsAndEmittedUnsigned) {
+    VideoEncodeParameter r[1] = {};
+    uint32_t n = 1;
+    ASSERT_EQ(j2s_array_VideoEncodeParameter("[{\"Rotate\":-90}]", r, &n), 0);
+    EXPECT_EQ(r[0].Rotate, 4294967206u);
+    EXPECT_TRUE(contains(compact(struct_to_json_VideoEncodeParameter(&r[0])), "\"Rotate\":4294967206,"));
+}
+
+TEST(VideoEncodeCapabilitySet, RotateOfMinus90IsEmittedSigned) {
+    VideoEncodeCapabilitySet r[1] = {};
+    uint32_t n = 1;
+    ASSERT_EQ(j2s_array_VideoEncodeCapabilitySet("[{\"Rotate\":-90}]", r, &n), 0);
+    EXPECT_EQ(r[0].Rotate, -90);
+    EXPECT_TRUE(contains(compact(struct_to_json_VideoEncodeCapabilitySet(&r[0])), "\"Rotate\":-90,"));
+}
+
+TEST(RequestIDRParameter, TextRoundTripAndNoFileOrArrayFamily) {
+    RequestIDRParameter r{2, 1}, back{};
+    Text t(s2j_RequestIDRParameter(&r, 1));
+    ASSERT_EQ(j2s_RequestIDRParameter(t.p, &back), 0);
+    EXPECT_EQ(back.Channel, 2u);
+    EXPECT_EQ(back.StreamIndex, 1u);
+    StderrCapture err;
+    EXPECT_EQ(j2s_RequestIDRParameter_with_len("{", 1, &back), -2);
+    EXPECT_EQ(err.text(), diag(text_list_file(), lines_of("RequestIDRParameter").j2s, "j2s_RequestIDRParameter_with_len",
+                               "cJSON_ParseWithLength({, 1) failed! reason: {"));
+}
+
+// =============================================================================
+// Encoder OSD
+// =============================================================================
+
+// Items (channel, index): (0,0) (0,1) (1,0) (1,1).
+void osd_items(VideoEncodeOSDParameter (&a)[4]) {
+    std::memset(a, 0, sizeof a);
+    for (uint32_t i = 0; i < 4; ++i) {
+        a[i].Channel = i / 2;
+        a[i].Index = i % 2;
+        a[i].Visible = 1;
+    }
+}
+
+TEST(VideoEncodeOSDParameter, KeyedUpdateWithChannelAndIndexUpdatesOnlyTheItemWithBoth) {
+    VideoEncodeOSDParameter a[4];
+    osd_items(a);
+    uint32_t n = 4;
+    ASSERT_EQ(j2s_array_update_VideoEncodeOSDParameter("[{\"Channel\":1,\"Index\":0,\"Visible\":0,\"Content\":\"LIVE\"}]", a, &n), 0);
+    EXPECT_EQ(n, 1u);
+    for (uint32_t i = 0; i < 4; ++i) EXPECT_EQ(a[i].Visible, i == 2 ? 0 : 1) << i;
+    EXPECT_STREQ(a[2].Content, "LIVE");
+}
+
+TEST(VideoEncodeOSDParameter, KeyedUpdateWithChannelAloneFailsWithKeywordMessage) {
+    VideoEncodeOSDParameter a[4];
+    osd_items(a);
+    uint32_t n = 4;
+    StderrCapture err;
+    EXPECT_EQ(j2s_array_update_VideoEncodeOSDParameter("[{\"Channel\":0,\"Visible\":0}]", a, &n), -2);
+    EXPECT_EQ(err.text(), keyword_diag("VideoEncodeOSDParameter"));
+    EXPECT_EQ(n, 4u);
+    for (uint32_t i = 0; i < 4; ++i) EXPECT_EQ(a[i].Visible, 1);
+}
+
+TEST(VideoEncodeOSDParameter, IndexZeroAndOneOfOneChannelAndSameIndexOnTwoChannelsAreDistinct) {
+    VideoEncodeOSDParameter a[4];
+    osd_items(a);
+    uint32_t n = 4;
+    ASSERT_EQ(j2s_array_update_VideoEncodeOSDParameter(
+                  "[{\"Channel\":0,\"Index\":1,\"XCoordinate\":11},{\"Channel\":1,\"Index\":1,\"XCoordinate\":22}]", a, &n),
+              0);
+    EXPECT_EQ(n, 2u);
+    EXPECT_EQ(a[0].XCoordinate, 0u);
+    EXPECT_EQ(a[1].XCoordinate, 11u);
+    EXPECT_EQ(a[2].XCoordinate, 0u);
+    EXPECT_EQ(a[3].XCoordinate, 22u);
+}
+
+TEST(VideoEncodeOSDParameter, ContentOf256OrMoreKeeps255AndColoursOf64OrMoreKeep63) {
+    VideoEncodeOSDParameter r[1] = {};
+    uint32_t n = 1;
+    Tree list(one_string("Content", std::string(256, 'c')));
+    cJSON *obj = cJSON_GetArrayItem(list.p, 0);
+    cJSON_AddStringToObject(obj, "ForeColor", std::string(64, 'f').c_str());
+    cJSON_AddStringToObject(obj, "BackColor", std::string(90, 'b').c_str());
+    ASSERT_EQ(c2s_array_VideoEncodeOSDParameter(list.p, r, &n), 0);
+    EXPECT_EQ(std::string(r[0].Content), std::string(255, 'c'));
+    EXPECT_EQ(std::string(r[0].ForeColor), std::string(63, 'f'));
+    EXPECT_EQ(std::string(r[0].BackColor), std::string(63, 'b'));
+}
+
+TEST(VideoEncodeOSDParameter, XCoordinateOfMinusOneIsStoredAsItsBitsAndEmittedUnsigned) {
+    VideoEncodeOSDParameter r[1] = {};
+    uint32_t n = 1;
+    ASSERT_EQ(j2s_array_VideoEncodeOSDParameter("[{\"XCoordinate\":-1}]", r, &n), 0);
+    EXPECT_EQ(r[0].XCoordinate, 0xFFFFFFFFu);
+    EXPECT_TRUE(contains(compact(struct_to_json_VideoEncodeOSDParameter(&r[0])), "\"XCoordinate\":4294967295,"));
+}
+
+TEST(VideoEncodeOSDParameter, KeywordReaderReadsChannelThenIndexAndGetReadsChannelAlone) {
+    Tree item(cJSON_Parse("{\"Index\":3,\"Channel\":2}"));
+    VideoEncodeOSDParameterKeyword kw{};
+    EXPECT_EQ(json_to_struct_VideoEncodeOSDParameterKeyword(&kw, item.p), 1);
+    EXPECT_EQ(kw.Channel, 2u);
+    EXPECT_EQ(kw.Index, 3u);
+    Tree channel_only(cJSON_Parse("{\"Channel\":4}"));
+    VideoEncodeOSDParameterKeyword partial{0, 9};
+    EXPECT_EQ(json_to_struct_VideoEncodeOSDParameterKeyword(&partial, channel_only.p), 0);
+    EXPECT_EQ(partial.Channel, 4u);
+    EXPECT_EQ(partial.Index, 9u);
+    uint32_t channel = 0;
+    EXPECT_EQ(json_to_struct_GetVideoEncodeOSDParameterKeyword(&channel, channel_only.p), 1);
+    EXPECT_EQ(channel, 4u);
+}
+
+TEST(VideoEncodeOSDCapabilitySet, LoadsFromAFileAndRoundTripsAsText) {
+    const std::string path = temp_dir() + "/osdcap.json";
+    write_file(path, "{\"OSDNumberPerChannel\":8,\"SupportDynamicText\":-1,\"SupportPicture\":1}");
+    VideoEncodeOSDCapabilitySet r{};
+    ASSERT_EQ(f2s_VideoEncodeOSDCapabilitySet(path.c_str(), &r), 0);
+    EXPECT_EQ(r.OSDNumberPerChannel, 8u);
+    EXPECT_EQ(r.SupportDynamicText, -1);
+    EXPECT_EQ(r.SupportPicture, 1);
+    Text t(s2j_VideoEncodeOSDCapabilitySet(&r, 0));
+    EXPECT_EQ(t.str(), "{\"OSDNumberPerChannel\":8,\"SupportDynamicText\":-1,\"SupportPicture\":1}");
+}
+
+// =============================================================================
+// Audio input and encoding
+// =============================================================================
+
+TEST(AudioGain, GainOfMinus12IsEmittedAsMinus12InEveryRecordThatHasIt) {
+    AudioInputInterfaceParameter a{};
+    a.Gain = -12;
+    AudioInputParameter b{};
+    b.Gain = -12;
+    AudioInputStatus c{};
+    c.Gain = -12;
+    EXPECT_TRUE(contains(compact(struct_to_json_AudioInputInterfaceParameter(&a)), "\"Gain\":-12}"));
+    EXPECT_TRUE(contains(compact(struct_to_json_AudioInputParameter(&b)), "\"Gain\":-12}"));
+    EXPECT_TRUE(contains(compact(struct_to_json_AudioInputStatus(&c)), "\"Gain\":-12}"));
+}
+
+TEST(AudioVolume, VolumeOfMinusOneIsStoredAsItsBitsAndEmittedAs4294967295) {
+    const char *json = "[{\"Volume\":-1,\"Gain\":-12}]";
+    uint32_t n = 1;
+    AudioInputInterfaceParameter a[1] = {};
+    ASSERT_EQ(j2s_array_AudioInputInterfaceParameter(json, a, &n), 0);
+    EXPECT_EQ(a[0].Volume, 0xFFFFFFFFu);
+    EXPECT_EQ(a[0].Gain, -12);
+    EXPECT_TRUE(contains(compact(struct_to_json_AudioInputInterfaceParameter(&a[0])), "\"Volume\":4294967295,\"Gain\":-12"));
+    n = 1;
+    AudioInputParameter b[1] = {};
+    ASSERT_EQ(j2s_array_AudioInputParameter(json, b, &n), 0);
+    EXPECT_EQ(b[0].Volume, 0xFFFFFFFFu);
+    EXPECT_TRUE(contains(compact(struct_to_json_AudioInputParameter(&b[0])), "\"Volume\":4294967295,\"Gain\":-12"));
+    n = 1;
+    AudioInputStatus c[1] = {};
+    ASSERT_EQ(j2s_array_AudioInputStatus(json, c, &n), 0);
+    EXPECT_EQ(c[0].Volume, 0xFFFFFFFFu);
+    EXPECT_TRUE(contains(compact(struct_to_json_AudioInputStatus(&c[0])), "\"Volume\":4294967295,\"Gain\":-12"));
+}
+
+TEST(AudioInputCapabilitySet, GainsAreSignedAndVolumesUnsigned) {
+    AudioInputCapabilitySet r{};
+    r.MinVolume = 0xFFFFFFFFu;
+    r.MaxVolume = 0xFFFFFFFEu;
+    r.MinGain = -40;
+    r.MaxGain = -1;
+    const std::string text = compact(struct_to_json_AudioInputCapabilitySet(&r));
+    EXPECT_TRUE(contains(text, "\"MinVolume\":4294967295,\"MaxVolume\":4294967294,"));
+    EXPECT_TRUE(contains(text, "\"MinGain\":-40,\"MaxGain\":-1}"));
+}
+
+TEST(AudioInputInterface, GainsAreSignedAndVolumesUnsigned) {
+    AudioInputInterface r{};
+    r.MinVolume = 0xFFFFFFFFu;
+    r.MaxVolume = 0xFFFFFFFEu;
+    r.MinGain = -40;
+    r.MaxGain = -1;
+    const std::string text = compact(struct_to_json_AudioInputInterface(&r));
+    EXPECT_TRUE(contains(text, "\"MinVolume\":4294967295,\"MaxVolume\":4294967294,"));
+    EXPECT_TRUE(contains(text, "\"MinGain\":-40,\"MaxGain\":-1}"));
+}
+
+TEST(AudioInputStatus, InputTimingDetailsOf2048OrMoreIsStoredAsFirst2047) {
+    AudioInputStatus r[1] = {};
+    uint32_t n = 1;
+    Tree list(one_string("InputTimingDetails", k2100));
+    ASSERT_EQ(c2s_array_AudioInputStatus(list.p, r, &n), 0);
+    EXPECT_EQ(std::string(r[0].InputTimingDetails), k2100.substr(0, 2047));
+}
+
+TEST(AudioEncodeCapabilitySet, EachOfTheNineListsKeepsAtMost255) {
+    const char *lists[] = {"SupportedAudioCodecList",     "AacLcSupportedSamplerateList", "HeAacSupportedSamplerateList",
+                           "HeAacV2SupportedSamplerateList", "G711SupportedSamplerateList", "AacLcSupportedBitrateList",
+                           "HeAacSupportedBitrateList",   "HeAacV2SupportedBitrateList",  "G711SupportedBitrateList"};
+    Tree obj(cJSON_CreateObject());
+    for (int i = 0; i < 9; ++i) cJSON_AddStringToObject(obj.p, lists[i], std::string(256 + i, static_cast<char>('a' + i)).c_str());
+    AudioEncodeCapabilitySet r{};
+    ASSERT_EQ(c2s_AudioEncodeCapabilitySet(obj.p, &r), 0);
+    const char *fields[] = {r.SupportedAudioCodecList,     r.AacLcSupportedSamplerateList, r.HeAacSupportedSamplerateList,
+                            r.HeAacV2SupportedSamplerateList, r.G711SupportedSamplerateList, r.AacLcSupportedBitrateList,
+                            r.HeAacSupportedBitrateList,   r.HeAacV2SupportedBitrateList,  r.G711SupportedBitrateList};
+    for (int i = 0; i < 9; ++i) EXPECT_EQ(std::string(fields[i]), std::string(255, static_cast<char>('a' + i))) << lists[i];
+}
+
+TEST(AudioInputInterfaceParameter, KeyedUpdateWithNumericInterfaceNameFailsWithKeywordMessage) {
+    AudioInputInterfaceParameter a[1] = {};
+    std::strcpy(a[0].InterfaceName, "1");
+    a[0].Volume = 50;
+    uint32_t n = 1;
+    StderrCapture err;
+    EXPECT_EQ(j2s_array_update_AudioInputInterfaceParameter("[{\"InterfaceName\":1,\"Volume\":90}]", a, &n), -2);
+    EXPECT_EQ(err.text(), keyword_diag("AudioInputInterfaceParameter"));
+    EXPECT_EQ(n, 1u);
+    EXPECT_EQ(a[0].Volume, 50u);
+}
+
+TEST(AudioEncodeCapabilitySet, BooleanSupportResampleFailsTheReaderAfterTheNineListsAreStored) {
+    AudioEncodeCapabilitySet r{};
+    r.SupportResample = 5;
+    const char *json =
+        "{\"SupportedAudioCodecList\":\"AAC-LC,G.711A\",\"AacLcSupportedSamplerateList\":\"48000\","
+        "\"HeAacSupportedSamplerateList\":\"44100\",\"HeAacV2SupportedSamplerateList\":\"32000\","
+        "\"G711SupportedSamplerateList\":\"8000\",\"AacLcSupportedBitrateList\":\"128000\","
+        "\"HeAacSupportedBitrateList\":\"64000\",\"HeAacV2SupportedBitrateList\":\"32000\","
+        "\"G711SupportedBitrateList\":\"64000\",\"SupportResample\":true}";
+    StderrCapture err;
+    EXPECT_EQ(j2s_AudioEncodeCapabilitySet(json, &r), -1);
+    EXPECT_EQ(err.text(), diag(text_list_file(), lines_of("AudioEncodeCapabilitySet").c2s, "c2s_AudioEncodeCapabilitySet",
+                               "json_to_struct_AudioEncodeCapabilitySet failed!\n"));
+    EXPECT_STREQ(r.SupportedAudioCodecList, "AAC-LC,G.711A");
+    EXPECT_STREQ(r.AacLcSupportedSamplerateList, "48000");
+    EXPECT_STREQ(r.HeAacSupportedSamplerateList, "44100");
+    EXPECT_STREQ(r.HeAacV2SupportedSamplerateList, "32000");
+    EXPECT_STREQ(r.G711SupportedSamplerateList, "8000");
+    EXPECT_STREQ(r.AacLcSupportedBitrateList, "128000");
+    EXPECT_STREQ(r.HeAacSupportedBitrateList, "64000");
+    EXPECT_STREQ(r.HeAacV2SupportedBitrateList, "32000");
+    EXPECT_STREQ(r.G711SupportedBitrateList, "64000");
+    EXPECT_EQ(r.SupportResample, 5);
+}
+
+TEST(AudioInputInterfaceParameter, KeywordReadersRequireAStringAndCopyAtMost63) {
+    Tree obj(cJSON_CreateObject());
+    cJSON_AddStringToObject(obj.p, "InterfaceName", std::string(70, 'k').c_str());
+    AudioInputInterfaceParameterKeyword kw{};
+    EXPECT_EQ(json_to_struct_AudioInputInterfaceParameterKeyword(&kw, obj.p), 1);
+    EXPECT_EQ(std::string(kw.InterfaceName), std::string(63, 'k'));
+    char name[64] = {};
+    EXPECT_EQ(json_to_struct_GetAudioInputInterfaceParameterKeyword(name, obj.p), 1);
+    EXPECT_EQ(std::string(name), std::string(63, 'k'));
+    Tree number(cJSON_Parse("{\"InterfaceName\":3}"));
+    EXPECT_EQ(json_to_struct_AudioInputInterfaceParameterKeyword(&kw, number.p), 0);
+    EXPECT_EQ(json_to_struct_GetAudioInputInterfaceParameterKeyword(name, number.p), 0);
+}
+
+TEST(AudioInputStatus, GetKeywordReaderPicksAnInterfaceOutOfAJsonArrayByName) {
+    Tree list(cJSON_Parse("[{\"InterfaceName\":\"LINE-IN1\",\"Gain\":-3},{\"InterfaceName\":\"MIC1\"}]"));
+    char name[64] = {};
+    EXPECT_EQ(json_to_struct_GetAudioInputStatusKeyword(name, cJSON_GetArrayItem(list.p, 1)), 1);
+    EXPECT_STREQ(name, "MIC1");
+    Tree number(cJSON_Parse("{\"InterfaceName\":1}"));
+    EXPECT_EQ(json_to_struct_GetAudioInputStatusKeyword(name, number.p), 0);
+    EXPECT_STREQ(name, "MIC1");
+}
+
+TEST(AudioChannelKeys, AudioInputParameterAndAudioEncodeParameterKeywordReadersRequireIntegerChannel) {
+    Tree ok(cJSON_Parse("{\"Channel\":2}"));
+    Tree str(cJSON_Parse("{\"Channel\":\"2\"}"));
+    AudioInputParameterKeyword a{};
+    AudioEncodeParameterKeyword e{};
+    uint32_t ch = 0;
+    EXPECT_EQ(json_to_struct_AudioInputParameterKeyword(&a, ok.p), 1);
+    EXPECT_EQ(a.Channel, 2u);
+    EXPECT_EQ(json_to_struct_GetAudioInputParameterKeyword(&ch, ok.p), 1);
+    EXPECT_EQ(ch, 2u);
+    EXPECT_EQ(json_to_struct_AudioEncodeParameterKeyword(&e, ok.p), 1);
+    EXPECT_EQ(e.Channel, 2u);
+    ch = 0;
+    EXPECT_EQ(json_to_struct_GetAudioEncodeParameterKeyword(&ch, ok.p), 1);
+    EXPECT_EQ(ch, 2u);
+    EXPECT_EQ(json_to_struct_AudioInputParameterKeyword(&a, str.p), 0);
+    EXPECT_EQ(json_to_struct_GetAudioInputParameterKeyword(&ch, str.p), 0);
+    EXPECT_EQ(json_to_struct_AudioEncodeParameterKeyword(&e, str.p), 0);
+    EXPECT_EQ(json_to_struct_GetAudioEncodeParameterKeyword(&ch, str.p), 0);
+}
+
+TEST(AudioEncodeParameter, KeyedUpdateByChannelChangesCodecOfThatChannelOnly) {
+    AudioEncodeParameter a[2] = {};
+    a[0].Channel = 0;
+    a[1].Channel = 1;
+    std::strcpy(a[0].Codec, "AAC-LC");
+    std::strcpy(a[1].Codec, "AAC-LC");
+    uint32_t n = 2;
+    ASSERT_EQ(j2s_array_update_AudioEncodeParameter("[{\"Channel\":1,\"Codec\":\"G.711A\",\"Samplerate\":8000}]", a, &n), 0);
+    EXPECT_EQ(n, 1u);
+    EXPECT_STREQ(a[0].Codec, "AAC-LC");
+    EXPECT_STREQ(a[1].Codec, "G.711A");
+    EXPECT_EQ(a[1].Samplerate, 8000u);
+}
+
+TEST(AudioInputParameter, KeyedUpdateByChannelLeavesOtherChannels) {
+    AudioInputParameter a[2] = {};
+    a[0].Channel = 5;
+    a[1].Channel = 6;
+    uint32_t n = 2;
+    ASSERT_EQ(j2s_array_update_AudioInputParameter("[{\"Channel\":5,\"InterfaceName\":\"MIC1\",\"Gain\":-6}]", a, &n), 0);
+    EXPECT_EQ(n, 1u);
+    EXPECT_STREQ(a[0].InterfaceName, "MIC1");
+    EXPECT_EQ(a[0].Gain, -6);
+    EXPECT_STREQ(a[1].InterfaceName, "");
+    EXPECT_EQ(a[1].Gain, 0);
+}
+
+// =============================================================================
+// Example files
+// =============================================================================
+
+// Loads an array example with the type's array reader (through its file
+// reader where it has one), checks 2 to 4 elements and that the library
+// writes the same text back.
+template <class T>
+void expect_array_example(const char *type, int (*f2s_array)(const char *, T *, uint32_t *),
+                          int (*j2s_array)(const char *, T *, uint32_t *),
+                          char *(*s2j_array)(const T *, uint32_t, int)) {
+    T recs[4];
+    std::memset(recs, 0, sizeof recs);
+    uint32_t n = 4;
+    const std::string text = example(type);
+    if (f2s_array)
+        ASSERT_EQ(f2s_array(example_path(type).c_str(), recs, &n), 0) << type;
+    else
+        ASSERT_EQ(j2s_array(text.c_str(), recs, &n), 0) << type;
+    uint32_t total = 0;
+    ASSERT_EQ(j2s_array(text.c_str(), nullptr, &total), 0) << type;
+    EXPECT_GE(total, 2u) << type;
+    EXPECT_LE(total, 4u) << type;
+    EXPECT_EQ(n, total) << type;
+    Text again(s2j_array(recs, n, 1));
+    EXPECT_EQ(again.str(), text) << type;
+}
+
+TEST(MediaExamples, EveryArrayExampleLoadsWithItsTypesReader) {
+    expect_array_example<VideoInputCapabilitySet>("VideoInputCapabilitySet", f2s_array_VideoInputCapabilitySet,
+                                                  j2s_array_VideoInputCapabilitySet, s2j_array_VideoInputCapabilitySet);
+    expect_array_example<VideoInputInterface>("VideoInputInterface", f2s_array_VideoInputInterface,
+                                              j2s_array_VideoInputInterface, s2j_array_VideoInputInterface);
+    expect_array_example<VideoInputParameter>("VideoInputParameter", f2s_array_VideoInputParameter,
+                                              j2s_array_VideoInputParameter, s2j_array_VideoInputParameter);
+    expect_array_example<VideoInputStatus>("VideoInputStatus", nullptr, j2s_array_VideoInputStatus,
+                                           s2j_array_VideoInputStatus);
+    expect_array_example<VideoInputVGAParameter>("VideoInputVGAParameter", nullptr, j2s_array_VideoInputVGAParameter,
+                                                 s2j_array_VideoInputVGAParameter);
+    expect_array_example<VideoEncodeCapabilitySet>("VideoEncodeCapabilitySet", f2s_array_VideoEncodeCapabilitySet,
+                                                   j2s_array_VideoEncodeCapabilitySet, s2j_array_VideoEncodeCapabilitySet);
+    expect_array_example<VideoEncodeParameter>("VideoEncodeParameter", f2s_array_VideoEncodeParameter,
+                                               j2s_array_VideoEncodeParameter, s2j_array_VideoEncodeParameter);
+    expect_array_example<VideoEncodeOSDParameter>("VideoEncodeOSDParameter", f2s_array_VideoEncodeOSDParameter,
+                                                  j2s_array_VideoEncodeOSDParameter, s2j_array_VideoEncodeOSDParameter);
+    expect_array_example<AudioInputCapabilitySet>("AudioInputCapabilitySet", f2s_array_AudioInputCapabilitySet,
+                                                  j2s_array_AudioInputCapabilitySet, s2j_array_AudioInputCapabilitySet);
+    expect_array_example<AudioInputInterface>("AudioInputInterface", f2s_array_AudioInputInterface,
+                                              j2s_array_AudioInputInterface, s2j_array_AudioInputInterface);
+    expect_array_example<AudioInputInterfaceParameter>("AudioInputInterfaceParameter",
+                                                       f2s_array_AudioInputInterfaceParameter,
+                                                       j2s_array_AudioInputInterfaceParameter,
+                                                       s2j_array_AudioInputInterfaceParameter);
+    expect_array_example<AudioInputParameter>("AudioInputParameter", f2s_array_AudioInputParameter,
+                                              j2s_array_AudioInputParameter, s2j_array_AudioInputParameter);
+    expect_array_example<AudioInputStatus>("AudioInputStatus", nullptr, j2s_array_AudioInputStatus,
+                                           s2j_array_AudioInputStatus);
+    expect_array_example<AudioEncodeParameter>("AudioEncodeParameter", f2s_array_AudioEncodeParameter,
+                                               j2s_array_AudioEncodeParameter, s2j_array_AudioEncodeParameter);
+}
+
+TEST(MediaExamples, EverySingleRecordExampleLoadsWithItsTypesReader) {
+    {
+        RequestIDRParameter r{};
+        ASSERT_EQ(j2s_RequestIDRParameter(example("RequestIDRParameter").c_str(), &r), 0);
+        Text again(s2j_RequestIDRParameter(&r, 1));
+        EXPECT_EQ(again.str(), example("RequestIDRParameter"));
+    }
+    {
+        VideoEncodeOSDCapabilitySet r{};
+        ASSERT_EQ(f2s_VideoEncodeOSDCapabilitySet(example_path("VideoEncodeOSDCapabilitySet").c_str(), &r), 0);
+        EXPECT_GT(r.OSDNumberPerChannel, 0u);
+        Text again(s2j_VideoEncodeOSDCapabilitySet(&r, 1));
+        EXPECT_EQ(again.str(), example("VideoEncodeOSDCapabilitySet"));
+    }
+    {
+        AudioEncodeCapabilitySet r{};
+        ASSERT_EQ(f2s_AudioEncodeCapabilitySet(example_path("AudioEncodeCapabilitySet").c_str(), &r), 0);
+        EXPECT_STRNE(r.SupportedAudioCodecList, "");
+        Text again(s2j_AudioEncodeCapabilitySet(&r, 1));
+        EXPECT_EQ(again.str(), example("AudioEncodeCapabilitySet"));
+    }
+}
+
+}  // namespace
