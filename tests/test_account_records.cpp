@@ -91,8 +91,11 @@ std::string compact(cJSON *tree) {
     return t.str();
 }
 
+// An example file holds the text as the library writes it, and a final newline.
 std::string example(const std::string &type) {
-    return read_file(std::string(APP_S2J_SOURCE_DIR) + "/examples/" + type + ".json");
+    std::string text = read_file(std::string(APP_S2J_SOURCE_DIR) + "/examples/" + type + ".json");
+    if (!text.empty() && text.back() == '\n') text.pop_back();
+    return text;
 }
 
 // ---- Family sets -------------------------------------------------------------

@@ -84,6 +84,14 @@ void fill(const TypeInfo *t, char *rec, uint32_t seed) {
 }
 
 bool same(const TypeInfo *t, const void *a, const void *b) { return std::memcmp(a, b, t->desc->size) == 0; }
+bool same_values(const TypeInfo *t, const char *a, const char *b) {
+    for (uint32_t i = 0; i < t->desc->field_count; ++i) {
+        const Field &f = t->desc->fields[i];
+        int d = f.kind == Kind::Str ? std::strncmp(a + f.offset, b + f.offset, f.size) : std::memcmp(a + f.offset, b + f.offset, f.size);
+        if (d != 0) return false;
+    }
+    return true;
+}
 
 class EveryType : public ::testing::TestWithParam<const TypeInfo *> {};
 
@@ -159,7 +167,7 @@ TEST_P(EveryType, MemberOfWrongTypeStopsReaderThereLeavingEarlierFieldsWritten) 
         for (uint32_t i = 0; i < t->desc->field_count; ++i) {
             const Field &f = t->desc->fields[i];
             const char *want = (i < bad ? src : before).at(0, t) + f.offset;
-            EXPECT_EQ(std::memcmp(dst.at(0, t) + f.offset, want, f.size), 0) << "bad " << bf.key << ", field " << f.key;
+            EXPECT_EQ(f.kind == Kind::Str ? std::strncmp(dst.at(0, t) + f.offset, want, f.size) : std::memcmp(dst.at(0, t) + f.offset, want, f.size), 0) << "bad " << bf.key << ", field " << f.key;
         }
     }
 }
@@ -275,7 +283,7 @@ TEST_P(EveryType, KeyedUpdateAppliesElementToTheRecordWithItsKeys) {
         uint32_t n = 3;
         EXPECT_EQ(f.c2s_array_update(list, b.p(), &n), 0);
         EXPECT_EQ(n, 1u);
-        EXPECT_EQ(b.bytes, want.bytes);
+        for (uint32_t i = 0; i < 3; ++i) EXPECT_TRUE(same_values(t, b.at(i, t), want.at(i, t)));
     }
     {
         Rec b(t, 3);
@@ -283,7 +291,7 @@ TEST_P(EveryType, KeyedUpdateAppliesElementToTheRecordWithItsKeys) {
         uint32_t n = 3;
         EXPECT_EQ(f.j2s_array_update(text.p, b.p(), &n), 0);
         EXPECT_EQ(n, 1u);
-        EXPECT_EQ(b.bytes, want.bytes);
+        for (uint32_t i = 0; i < 3; ++i) EXPECT_TRUE(same_values(t, b.at(i, t), want.at(i, t)));
     }
     {
         Rec b(t, 3);
@@ -291,7 +299,7 @@ TEST_P(EveryType, KeyedUpdateAppliesElementToTheRecordWithItsKeys) {
         uint32_t n = 3;
         EXPECT_EQ(f.j2s_array_update_with_len(text.p, std::strlen(text.p), b.p(), &n), 0);
         EXPECT_EQ(n, 1u);
-        EXPECT_EQ(b.bytes, want.bytes);
+        for (uint32_t i = 0; i < 3; ++i) EXPECT_TRUE(same_values(t, b.at(i, t), want.at(i, t)));
     }
     {  // an element without its keys is refused before anything changes
         StderrCapture err;

@@ -214,7 +214,12 @@ cJSON *one_string(const char *key, const std::string &text) {
 }
 
 std::string example_path(const std::string &type) { return std::string(APP_S2J_SOURCE_DIR) + "/examples/" + type + ".json"; }
-std::string example(const std::string &type) { return read_file(example_path(type)); }
+// An example file holds the text as the library writes it, and a final newline.
+std::string example(const std::string &type) {
+    std::string text = read_file(example_path(type));
+    if (!text.empty() && text.back() == '\n') text.pop_back();
+    return text;
+}
 
 const std::string k2100(2100, 'q');
 
