@@ -336,6 +336,126 @@ APP_S2J_DECLARE_S2F_ARRAY(AudioEncodeParameter)
  * Streaming records
  * ====================================================================== */
 
+/* Capability sets are loaded from files and never saved. */
+
+APP_S2J_DECLARE_RECORD(StreamingOutputCapabilitySet)
+APP_S2J_DECLARE_TEXT(StreamingOutputCapabilitySet)
+APP_S2J_DECLARE_F2S(StreamingOutputCapabilitySet)
+
+APP_S2J_DECLARE_RECORD(RtspCapabilitySet)
+APP_S2J_DECLARE_TEXT(RtspCapabilitySet)
+APP_S2J_DECLARE_F2S(RtspCapabilitySet)
+
+APP_S2J_DECLARE_RECORD(RtmpCapabilitySet)
+APP_S2J_DECLARE_TEXT(RtmpCapabilitySet)
+APP_S2J_DECLARE_F2S(RtmpCapabilitySet)
+
+APP_S2J_DECLARE_RECORD(UdpCapabilitySet)
+APP_S2J_DECLARE_TEXT(UdpCapabilitySet)
+APP_S2J_DECLARE_F2S(UdpCapabilitySet)
+
+APP_S2J_DECLARE_RECORD(HttpStreamingCapabilitySet)
+APP_S2J_DECLARE_TEXT(HttpStreamingCapabilitySet)
+APP_S2J_DECLARE_F2S(HttpStreamingCapabilitySet)
+
+APP_S2J_DECLARE_RECORD(SrtStreamingCapabilitySet)
+APP_S2J_DECLARE_TEXT(SrtStreamingCapabilitySet)
+APP_S2J_DECLARE_F2S(SrtStreamingCapabilitySet)
+
+APP_S2J_DECLARE_RECORD(StreamingOutputParameter)
+APP_S2J_DECLARE_TEXT(StreamingOutputParameter)
+APP_S2J_DECLARE_F2S(StreamingOutputParameter)
+APP_S2J_DECLARE_S2F(StreamingOutputParameter)
+
+/* Protocol streams exist only as array elements, keyed by Channel and Index. */
+
+APP_S2J_DECLARE_RECORD(RtspStreamingParameter)
+APP_S2J_DECLARE_ARRAY(RtspStreamingParameter)
+APP_S2J_DECLARE_UPDATE(RtspStreamingParameter)
+APP_S2J_DECLARE_KEYWORD(RtspStreamingParameter)
+APP_S2J_DECLARE_GET_INT_KEYWORD(RtspStreamingParameter, uint32_t, Channel)
+APP_S2J_DECLARE_F2S_ARRAY(RtspStreamingParameter)
+APP_S2J_DECLARE_S2F_ARRAY(RtspStreamingParameter)
+
+APP_S2J_DECLARE_RECORD(RtmpStreamingParameter)
+APP_S2J_DECLARE_ARRAY(RtmpStreamingParameter)
+APP_S2J_DECLARE_UPDATE(RtmpStreamingParameter)
+APP_S2J_DECLARE_KEYWORD(RtmpStreamingParameter)
+APP_S2J_DECLARE_GET_INT_KEYWORD(RtmpStreamingParameter, uint32_t, Channel)
+APP_S2J_DECLARE_F2S_ARRAY(RtmpStreamingParameter)
+APP_S2J_DECLARE_S2F_ARRAY(RtmpStreamingParameter)
+
+APP_S2J_DECLARE_RECORD(UdpStreamingParameter)
+APP_S2J_DECLARE_ARRAY(UdpStreamingParameter)
+APP_S2J_DECLARE_UPDATE(UdpStreamingParameter)
+APP_S2J_DECLARE_KEYWORD(UdpStreamingParameter)
+APP_S2J_DECLARE_GET_INT_KEYWORD(UdpStreamingParameter, uint32_t, Channel)
+APP_S2J_DECLARE_F2S_ARRAY(UdpStreamingParameter)
+APP_S2J_DECLARE_S2F_ARRAY(UdpStreamingParameter)
+
+APP_S2J_DECLARE_RECORD(HttpStreamingParameter)
+APP_S2J_DECLARE_ARRAY(HttpStreamingParameter)
+APP_S2J_DECLARE_UPDATE(HttpStreamingParameter)
+APP_S2J_DECLARE_KEYWORD(HttpStreamingParameter)
+APP_S2J_DECLARE_GET_INT_KEYWORD(HttpStreamingParameter, uint32_t, Channel)
+APP_S2J_DECLARE_F2S_ARRAY(HttpStreamingParameter)
+APP_S2J_DECLARE_S2F_ARRAY(HttpStreamingParameter)
+
+APP_S2J_DECLARE_RECORD(SrtStreamingParameter)
+APP_S2J_DECLARE_ARRAY(SrtStreamingParameter)
+APP_S2J_DECLARE_UPDATE(SrtStreamingParameter)
+APP_S2J_DECLARE_KEYWORD(SrtStreamingParameter)
+APP_S2J_DECLARE_GET_INT_KEYWORD(SrtStreamingParameter, uint32_t, Channel)
+APP_S2J_DECLARE_F2S_ARRAY(SrtStreamingParameter)
+APP_S2J_DECLARE_S2F_ARRAY(SrtStreamingParameter)
+
+APP_S2J_DECLARE_RECORD(RtspServerParameter)
+APP_S2J_DECLARE_TEXT(RtspServerParameter)
+APP_S2J_DECLARE_F2S(RtspServerParameter)
+APP_S2J_DECLARE_S2F(RtspServerParameter)
+
+APP_S2J_DECLARE_RECORD(HttpStreamingServerParameter)
+APP_S2J_DECLARE_TEXT(HttpStreamingServerParameter)
+APP_S2J_DECLARE_F2S(HttpStreamingServerParameter)
+APP_S2J_DECLARE_S2F(HttpStreamingServerParameter)
+
+APP_S2J_DECLARE_RECORD(OnvifServerParameter)
+APP_S2J_DECLARE_TEXT(OnvifServerParameter)
+APP_S2J_DECLARE_F2S(OnvifServerParameter)
+APP_S2J_DECLARE_S2F(OnvifServerParameter)
+
+APP_S2J_DECLARE_RECORD(WebServerParameter)
+APP_S2J_DECLARE_TEXT(WebServerParameter)
+APP_S2J_DECLARE_F2S(WebServerParameter)
+APP_S2J_DECLARE_S2F(WebServerParameter)
+
+APP_S2J_DECLARE_RECORD(StreamingInputCapabilitySet)
+APP_S2J_DECLARE_TEXT(StreamingInputCapabilitySet)
+APP_S2J_DECLARE_F2S(StreamingInputCapabilitySet)
+
+APP_S2J_DECLARE_RECORD(StreamingInputParameter)
+APP_S2J_DECLARE_ARRAY(StreamingInputParameter)
+APP_S2J_DECLARE_UPDATE(StreamingInputParameter)
+APP_S2J_DECLARE_KEYWORD(StreamingInputParameter)
+APP_S2J_DECLARE_GET_INT_KEYWORD(StreamingInputParameter, uint32_t, Index)
+APP_S2J_DECLARE_F2S_ARRAY(StreamingInputParameter)
+APP_S2J_DECLARE_S2F_ARRAY(StreamingInputParameter)
+
+/* A status: no keyed update and no file. */
+APP_S2J_DECLARE_RECORD(StreamingInputStatus)
+APP_S2J_DECLARE_ARRAY(StreamingInputStatus)
+APP_S2J_DECLARE_GET_INT_KEYWORD(StreamingInputStatus, uint32_t, Index)
+
+APP_S2J_DECLARE_RECORD(StreamingInputStatusChange)
+APP_S2J_DECLARE_TEXT(StreamingInputStatusChange)
+
+/* json_to_struct_StreamingInputUseCountKeyword reads the whole record as
+ * json_to_struct_StreamingInputUseCount does, but with every key required:
+ * an absent key fails like one of the wrong JSON type.  No family calls it. */
+APP_S2J_DECLARE_RECORD(StreamingInputUseCount)
+APP_S2J_DECLARE_TEXT(StreamingInputUseCount)
+int json_to_struct_StreamingInputUseCountKeyword(StreamingInputUseCount *struct_ptr, const cJSON *json);
+
 /* ======================================================================
  * Network and serial records
  * ====================================================================== */

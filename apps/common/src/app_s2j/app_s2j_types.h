@@ -444,6 +444,241 @@ typedef struct {
  * Streaming records
  * ====================================================================== */
 
+/* Streaming output and what each transport can do. */
+
+typedef struct {
+    int32_t SupportRtspStreaming;
+    int32_t SupportRtmpStreaming;
+    int32_t SupportUdpStreaming;
+    int32_t SupportHttpStreaming;
+    int32_t SupportSrtStreaming;
+    uint32_t MaxStreamingNumber;
+    uint32_t MaxStreamingBandwidth;
+    uint32_t SupportStreamingProtocolNumber;
+} StreamingOutputCapabilitySet;
+
+typedef struct {
+    int32_t SupportRtspOverHttp;
+    int32_t SupportAuthentication;
+    uint32_t StreamingNumberPerChannel;
+    char SupportedStreamTypeList[256];
+} RtspCapabilitySet;
+
+typedef struct {
+    int32_t SupportEncryptedData;
+    int32_t SupportTunneledTraffic;
+    int32_t SupportRtmpOverSSL;
+    int32_t SupportH265Codec;
+    int32_t SupportRtmpServer;
+    uint32_t StreamingNumberPerChannel;
+} RtmpCapabilitySet;
+
+/* The list comes first here, unlike in the other capability sets. */
+typedef struct {
+    char SupportedStreamTypeList[256];
+    int32_t SupportRtpPacket;
+    uint32_t StreamingNumberPerChannel;
+    int32_t SupportBandwidthControl;
+} UdpCapabilitySet;
+
+typedef struct {
+    uint32_t StreamingNumberPerChannel;
+    int32_t SupportTSOverHttp;
+    int32_t SupportFLVOverHttp;
+    int32_t SupportHLS;
+    uint32_t MaxHLSCacheFileNumber;
+    uint32_t MaxHLSCacheFileDuration;
+    uint32_t MaxHLSTotalCacheDuration;
+} HttpStreamingCapabilitySet;
+
+typedef struct {
+    uint32_t StreamingNumberPerChannel;
+    char SupportedModeList[256];
+} SrtStreamingCapabilitySet;
+
+typedef struct {
+    int32_t RtspStreamingEnable;
+    int32_t RtmpStreamingEnable;
+    int32_t UdpStreamingEnable;
+    int32_t HttpStreamingEnable;
+    int32_t SrtStreamingEnable;
+} StreamingOutputParameter;
+
+/* Protocol streams: array elements keyed by Channel and Index. */
+
+typedef struct {
+    uint32_t Channel;
+    uint32_t Index;
+    int32_t Enable;
+    uint32_t StreamIndex;
+    uint32_t StreamType;
+    char StreamPath[256];
+} RtspStreamingParameter;
+
+typedef struct {
+    uint32_t Channel;
+    uint32_t Index;
+} RtspStreamingParameterKeyword;
+
+typedef struct {
+    uint32_t Channel;
+    uint32_t Index;
+    int32_t Enable;
+    uint32_t StreamIndex;
+    uint32_t StreamType;
+    char StreamPath[256];
+} RtmpStreamingParameter;
+
+typedef struct {
+    uint32_t Channel;
+    uint32_t Index;
+} RtmpStreamingParameterKeyword;
+
+typedef struct {
+    uint32_t Channel;
+    uint32_t Index;
+    int32_t Enable;
+    uint32_t StreamIndex;
+    uint32_t StreamType;
+    int32_t RtpPacket;
+    char DestinationIP[48];
+    uint32_t DestinationPort;
+    int32_t BandwidthControlEnable;
+    uint32_t BandwidthControlLimit;
+    uint32_t BandwidthControlWindowSize;
+    uint32_t BandwidthControlPriority;
+    uint32_t BandwidthControlSmoothTime;
+    uint32_t BandwidthControlSmoothSize;
+} UdpStreamingParameter;
+
+typedef struct {
+    uint32_t Channel;
+    uint32_t Index;
+} UdpStreamingParameterKeyword;
+
+/* No Enable and no StreamType: three delivery enables instead. */
+typedef struct {
+    uint32_t Channel;
+    uint32_t Index;
+    int32_t FLVEnable;
+    int32_t TSEnable;
+    int32_t HLSEnable;
+    uint32_t StreamIndex;
+    uint32_t HLSCacheFileNumber;
+    uint32_t HLSCacheFileDuration;
+    uint32_t HLSTotalCacheDuration;
+    char SessionName[256];
+} HttpStreamingParameter;
+
+typedef struct {
+    uint32_t Channel;
+    uint32_t Index;
+} HttpStreamingParameterKeyword;
+
+typedef struct {
+    uint32_t Channel;
+    uint32_t Index;
+    int32_t Enable;
+    uint32_t StreamIndex;
+    uint32_t Mode;
+    uint32_t Port;
+    char TargetIP[48];
+    uint32_t BandwidthOverheadPercent;
+    char StreamKeyName[256];
+    char Passphrase[64];
+    uint32_t AESKeySize;
+    char TargetURL[2048];
+} SrtStreamingParameter;
+
+typedef struct {
+    uint32_t Channel;
+    uint32_t Index;
+} SrtStreamingParameterKeyword;
+
+/* Servers. */
+
+/* The two ports are 16-bit: a JSON value is stored as its low 16 bits. */
+typedef struct {
+    int32_t Enable;
+    uint16_t Port;
+    uint16_t RtspOverHttpPort;
+    int32_t AuthenticationEnable;
+    int32_t AuthUseSystemDatabase;
+    char AuthUsername[16];
+    char AuthPassword[16];
+    char AuthRealmName[64];
+    uint32_t ClientLivenessTimeout;
+} RtspServerParameter;
+
+typedef struct {
+    int32_t Enable;
+    uint32_t Port;
+} HttpStreamingServerParameter;
+
+/* Port is signed here, unlike every other Port. */
+typedef struct {
+    int32_t Enable;
+    char UserList[2048];
+    int32_t Port;
+    char ScopeName[64];
+    char ScopeLocationCountry[64];
+    char ScopeLocationCity[64];
+} OnvifServerParameter;
+
+typedef struct {
+    uint32_t Port;
+} WebServerParameter;
+
+/* Streaming inputs. */
+
+typedef struct {
+    int32_t SupportRtspStreaming;
+    int32_t SupportRtmpStreaming;
+    int32_t SupportUdpStreaming;
+    int32_t SupportHttpStreaming;
+    int32_t SupportSrtStreaming;
+    uint32_t MaxStreamingNumber;
+    uint32_t MaxStreamingBandwidth;
+} StreamingInputCapabilitySet;
+
+typedef struct {
+    uint32_t Index;
+    char URL[256];
+    char Alias[64];
+    char AuthUsername[16];
+    char AuthPassword[16];
+} StreamingInputParameter;
+
+typedef struct {
+    uint32_t Index;
+} StreamingInputParameterKeyword;
+
+typedef struct {
+    uint32_t Index;
+    int32_t IsEnabled;
+    int32_t IsConnected;
+    uint32_t RealtimeBandwidth;
+    uint32_t AverageBandwidth;
+    char ErrorMessage[256];
+} StreamingInputStatus;
+
+typedef struct {
+    uint32_t Index;
+    char URL[256];
+    char Alias[64];
+    int32_t IsEnabled;
+    int32_t IsConnected;
+} StreamingInputStatusChange;
+
+/* Two parallel lists of 256 entries each, carried as JSON arrays of
+ * integers; StreamingNumber is the caller's and bounds nothing. */
+typedef struct {
+    uint32_t OperationType;
+    uint32_t StreamingNumber;
+    uint32_t IndexList[256];
+    uint32_t UseCountList[256];
+} StreamingInputUseCount;
+
 
 /* ======================================================================
  * Network and serial records

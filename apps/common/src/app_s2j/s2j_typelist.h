@@ -49,7 +49,28 @@
     X(AudioEncodeParameter)
 
 // Streaming output, protocol streams, servers and streaming inputs.
-#define S2J_TYPES_STREAMING(X)
+#define S2J_TYPES_STREAMING(X)      \
+    X(StreamingOutputCapabilitySet) \
+    X(RtspCapabilitySet)            \
+    X(RtmpCapabilitySet)            \
+    X(UdpCapabilitySet)             \
+    X(HttpStreamingCapabilitySet)   \
+    X(SrtStreamingCapabilitySet)    \
+    X(StreamingOutputParameter)     \
+    X(RtspStreamingParameter)       \
+    X(RtmpStreamingParameter)       \
+    X(UdpStreamingParameter)        \
+    X(HttpStreamingParameter)       \
+    X(SrtStreamingParameter)        \
+    X(RtspServerParameter)          \
+    X(HttpStreamingServerParameter) \
+    X(OnvifServerParameter)         \
+    X(WebServerParameter)           \
+    X(StreamingInputCapabilitySet)  \
+    X(StreamingInputParameter)      \
+    X(StreamingInputStatus)         \
+    X(StreamingInputStatusChange)   \
+    X(StreamingInputUseCount)
 
 // Network, wireless and serial.
 #define S2J_TYPES_NETWORK(X)
