@@ -460,9 +460,146 @@ int json_to_struct_StreamingInputUseCountKeyword(StreamingInputUseCount *struct_
  * Network and serial records
  * ====================================================================== */
 
+APP_S2J_DECLARE_RECORD(NetworkCapabilitySet)
+APP_S2J_DECLARE_TEXT(NetworkCapabilitySet)
+APP_S2J_DECLARE_F2S(NetworkCapabilitySet)
+
+APP_S2J_DECLARE_RECORD(NetworkInterface)
+APP_S2J_DECLARE_ARRAY(NetworkInterface)
+APP_S2J_DECLARE_F2S_ARRAY(NetworkInterface)
+
+APP_S2J_DECLARE_RECORD(NetworkInterfaceStatus)
+APP_S2J_DECLARE_ARRAY(NetworkInterfaceStatus)
+APP_S2J_DECLARE_GET_STR_KEYWORD(NetworkInterfaceStatus, InterfaceName)
+
+APP_S2J_DECLARE_RECORD(NetworkLANParameter)
+APP_S2J_DECLARE_ARRAY(NetworkLANParameter)
+APP_S2J_DECLARE_UPDATE(NetworkLANParameter)
+APP_S2J_DECLARE_KEYWORD(NetworkLANParameter)
+APP_S2J_DECLARE_GET_STR_KEYWORD(NetworkLANParameter, InterfaceName)
+APP_S2J_DECLARE_F2S_ARRAY(NetworkLANParameter)
+APP_S2J_DECLARE_S2F_ARRAY(NetworkLANParameter)
+
+APP_S2J_DECLARE_RECORD(NetworkRouteParameter)
+APP_S2J_DECLARE_TEXT(NetworkRouteParameter)
+APP_S2J_DECLARE_F2S(NetworkRouteParameter)
+APP_S2J_DECLARE_S2F(NetworkRouteParameter)
+
+APP_S2J_DECLARE_RECORD(NetworkWIFIParameter)
+APP_S2J_DECLARE_ARRAY(NetworkWIFIParameter)
+APP_S2J_DECLARE_UPDATE(NetworkWIFIParameter)
+APP_S2J_DECLARE_KEYWORD(NetworkWIFIParameter)
+APP_S2J_DECLARE_GET_STR_KEYWORD(NetworkWIFIParameter, InterfaceName)
+APP_S2J_DECLARE_F2S_ARRAY(NetworkWIFIParameter)
+APP_S2J_DECLARE_S2F_ARRAY(NetworkWIFIParameter)
+
+/* A scan request arrives as a tree only. */
+APP_S2J_DECLARE_RECORD(ScanWIFIHotspotParameter)
+APP_S2J_DECLARE_C2S(ScanWIFIHotspotParameter)
+
+APP_S2J_DECLARE_RECORD(WIFIHotspot)
+APP_S2J_DECLARE_ARRAY(WIFIHotspot)
+APP_S2J_DECLARE_F2S_ARRAY(WIFIHotspot)
+
+APP_S2J_DECLARE_RECORD(SerialPortInterface)
+APP_S2J_DECLARE_ARRAY(SerialPortInterface)
+APP_S2J_DECLARE_F2S_ARRAY(SerialPortInterface)
+
+APP_S2J_DECLARE_RECORD(SerialPortParameter)
+APP_S2J_DECLARE_ARRAY(SerialPortParameter)
+APP_S2J_DECLARE_UPDATE(SerialPortParameter)
+APP_S2J_DECLARE_KEYWORD(SerialPortParameter)
+APP_S2J_DECLARE_GET_STR_KEYWORD(SerialPortParameter, InterfaceName)
+APP_S2J_DECLARE_F2S_ARRAY(SerialPortParameter)
+APP_S2J_DECLARE_S2F_ARRAY(SerialPortParameter)
+
+APP_S2J_DECLARE_RECORD(SerialPortNetworkTransferParameter)
+APP_S2J_DECLARE_ARRAY(SerialPortNetworkTransferParameter)
+APP_S2J_DECLARE_UPDATE(SerialPortNetworkTransferParameter)
+APP_S2J_DECLARE_KEYWORD(SerialPortNetworkTransferParameter)
+APP_S2J_DECLARE_GET_STR_KEYWORD(SerialPortNetworkTransferParameter, InterfaceName)
+APP_S2J_DECLARE_F2S_ARRAY(SerialPortNetworkTransferParameter)
+APP_S2J_DECLARE_S2F_ARRAY(SerialPortNetworkTransferParameter)
+
 /* ======================================================================
  * Storage, recording and snapshot records
  * ====================================================================== */
+
+/* Emitter and reader only. */
+APP_S2J_DECLARE_RECORD(StorageInterface)
+
+APP_S2J_DECLARE_RECORD(StorageDevice)
+APP_S2J_DECLARE_ARRAY(StorageDevice)
+APP_S2J_DECLARE_F2S_ARRAY(StorageDevice)
+
+APP_S2J_DECLARE_RECORD(StorageDeviceStatus)
+APP_S2J_DECLARE_ARRAY(StorageDeviceStatus)
+APP_S2J_DECLARE_GET_STR_KEYWORD(StorageDeviceStatus, StorageDeviceName)
+
+APP_S2J_DECLARE_RECORD(DiskGroupCapabilitySet)
+APP_S2J_DECLARE_TEXT(DiskGroupCapabilitySet)
+APP_S2J_DECLARE_F2S(DiskGroupCapabilitySet)
+
+APP_S2J_DECLARE_RECORD(DiskGroupParameter)
+APP_S2J_DECLARE_ARRAY(DiskGroupParameter)
+APP_S2J_DECLARE_UPDATE(DiskGroupParameter)
+APP_S2J_DECLARE_KEYWORD(DiskGroupParameter)
+APP_S2J_DECLARE_GET_STR_KEYWORD(DiskGroupParameter, StorageDeviceName)
+APP_S2J_DECLARE_F2S_ARRAY(DiskGroupParameter)
+APP_S2J_DECLARE_S2F_ARRAY(DiskGroupParameter)
+
+/* Requests: read from a tree or text, never made into text. */
+APP_S2J_DECLARE_RECORD(FormatDiskParameter)
+APP_S2J_DECLARE_C2S(FormatDiskParameter)
+APP_S2J_DECLARE_J2S(FormatDiskParameter)
+
+APP_S2J_DECLARE_RECORD(FormatDiskProgress)
+APP_S2J_DECLARE_TEXT(FormatDiskProgress)
+APP_S2J_DECLARE_GET_STR_KEYWORD(FormatDiskProgress, StorageDeviceName)
+
+APP_S2J_DECLARE_RECORD(RemoveStorageDeviceParameter)
+APP_S2J_DECLARE_C2S(RemoveStorageDeviceParameter)
+APP_S2J_DECLARE_J2S(RemoveStorageDeviceParameter)
+
+APP_S2J_DECLARE_RECORD(RecordCapabilitySet)
+APP_S2J_DECLARE_TEXT(RecordCapabilitySet)
+APP_S2J_DECLARE_F2S(RecordCapabilitySet)
+
+APP_S2J_DECLARE_RECORD(RecordParameter)
+APP_S2J_DECLARE_ARRAY(RecordParameter)
+APP_S2J_DECLARE_UPDATE(RecordParameter)
+APP_S2J_DECLARE_KEYWORD(RecordParameter)
+APP_S2J_DECLARE_GET_INT_KEYWORD(RecordParameter, uint32_t, Channel)
+APP_S2J_DECLARE_F2S_ARRAY(RecordParameter)
+APP_S2J_DECLARE_S2F_ARRAY(RecordParameter)
+
+APP_S2J_DECLARE_RECORD(RecordStatus)
+APP_S2J_DECLARE_ARRAY(RecordStatus)
+APP_S2J_DECLARE_GET_INT_KEYWORD(RecordStatus, uint32_t, Channel)
+
+APP_S2J_DECLARE_RECORD(SnapshotCapabilitySet)
+APP_S2J_DECLARE_ARRAY(SnapshotCapabilitySet)
+APP_S2J_DECLARE_F2S_ARRAY(SnapshotCapabilitySet)
+
+APP_S2J_DECLARE_RECORD(SnapshotParameter)
+APP_S2J_DECLARE_ARRAY(SnapshotParameter)
+APP_S2J_DECLARE_UPDATE(SnapshotParameter)
+APP_S2J_DECLARE_KEYWORD(SnapshotParameter)
+APP_S2J_DECLARE_GET_INT_KEYWORD(SnapshotParameter, uint32_t, Channel)
+APP_S2J_DECLARE_F2S_ARRAY(SnapshotParameter)
+APP_S2J_DECLARE_S2F_ARRAY(SnapshotParameter)
+
+APP_S2J_DECLARE_RECORD(SnapshotStatus)
+APP_S2J_DECLARE_ARRAY(SnapshotStatus)
+APP_S2J_DECLARE_GET_INT_KEYWORD(SnapshotStatus, uint32_t, Channel)
+
+/* The single-picture request is read from a tree only; its answer is only
+ * made into text. */
+APP_S2J_DECLARE_RECORD(SnapshotInputParameter)
+APP_S2J_DECLARE_C2S(SnapshotInputParameter)
+
+APP_S2J_DECLARE_RECORD(SnapshotResult)
+APP_S2J_DECLARE_S2J(SnapshotResult)
 
 /* ======================================================================
  * Output and display records

@@ -73,10 +73,37 @@
     X(StreamingInputUseCount)
 
 // Network, wireless and serial.
-#define S2J_TYPES_NETWORK(X)
+#define S2J_TYPES_NETWORK(X)             \
+    X(NetworkCapabilitySet)              \
+    X(NetworkInterface)                  \
+    X(NetworkInterfaceStatus)            \
+    X(NetworkLANParameter)               \
+    X(NetworkRouteParameter)             \
+    X(NetworkWIFIParameter)              \
+    X(ScanWIFIHotspotParameter)          \
+    X(WIFIHotspot)                       \
+    X(SerialPortInterface)               \
+    X(SerialPortParameter)               \
+    X(SerialPortNetworkTransferParameter)
 
 // Storage, recording and snapshots.
-#define S2J_TYPES_STORAGE(X)
+#define S2J_TYPES_STORAGE(X)        \
+    X(StorageInterface)             \
+    X(StorageDevice)                \
+    X(StorageDeviceStatus)          \
+    X(DiskGroupCapabilitySet)       \
+    X(DiskGroupParameter)           \
+    X(FormatDiskParameter)          \
+    X(FormatDiskProgress)           \
+    X(RemoveStorageDeviceParameter) \
+    X(RecordCapabilitySet)          \
+    X(RecordParameter)              \
+    X(RecordStatus)                 \
+    X(SnapshotCapabilitySet)        \
+    X(SnapshotParameter)            \
+    X(SnapshotStatus)               \
+    X(SnapshotInputParameter)       \
+    X(SnapshotResult)
 
 // Output, display, sources, audio output, screenshots, OSD and watermarks.
 #define S2J_TYPES_OUTPUT(X)             \

@@ -1,0 +1,746 @@
+// Network interfaces and LAN, wireless, serial ports: the layout of every
+// record, the functions each type has (and those it has not), and the rules
+// that are particular to these records: the 16-bit MTUSize of the LAN record
+// beside the 32-bit one of the wireless record, the key spellings
+// "Removeable", "MacAddress" and "MACAddress", string keys (one of them not
+// the record's first field) and the single-key reader of the interface
+// status.
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "record_checks.h"
+
+using namespace testing_support;
+using namespace record_checks;
+
+namespace {
+
+// ---- Layout ---------------------------------------------------------------
+
+static_assert(sizeof(NetworkCapabilitySet) == 32, "eight int32 flags");
+static_assert(offsetof(NetworkCapabilitySet, SupportIoTCloud) == 28, "");
+static_assert(MEMBER_IS(NetworkCapabilitySet, SupportIPv6, int32_t), "");
+
+static_assert(sizeof(NetworkInterface) == 536, "");
+static_assert(CAPACITY(NetworkInterface, Name) == 64 && CAPACITY(NetworkInterface, SupportStandardList) == 256, "");
+static_assert(offsetof(NetworkInterface, SupportStandardList) == 256, "");
+static_assert(offsetof(NetworkInterface, Removeable) == 516, "");
+static_assert(offsetof(NetworkInterface, MaxTransmissionRate) == 532, "");
+static_assert(MEMBER_IS(NetworkInterface, Removeable, int32_t) && MEMBER_IS(NetworkInterface, MaxReceptionRate, uint32_t), "");
+
+static_assert(sizeof(NetworkInterfaceStatus) == 84, "");
+static_assert(offsetof(NetworkInterfaceStatus, IsPlugged) == 64, "");
+static_assert(offsetof(NetworkInterfaceStatus, InternetIsConnected) == 80, "");
+static_assert(MEMBER_IS(NetworkInterfaceStatus, ReceptionRate, uint32_t), "");
+
+static_assert(sizeof(NetworkLANParameter) == 372, "MTUSize fills the last two bytes without padding");
+static_assert(offsetof(NetworkLANParameter, IPv4Address) == 68, "");
+static_assert(offsetof(NetworkLANParameter, IPv6Enable) == 148, "");
+static_assert(offsetof(NetworkLANParameter, IPv6SubnetPrefixLength) == 252, "");
+static_assert(offsetof(NetworkLANParameter, MACAddress) == 352, "");
+static_assert(offsetof(NetworkLANParameter, MTUSize) == 370, "MTUSize directly after MACAddress");
+static_assert(CAPACITY(NetworkLANParameter, IPv4Address) == 16 && CAPACITY(NetworkLANParameter, IPv6Address) == 48, "");
+static_assert(CAPACITY(NetworkLANParameter, MACAddress) == 18, "");
+static_assert(MEMBER_IS(NetworkLANParameter, MTUSize, uint16_t), "the LAN MTU is 16 bits wide");
+static_assert(sizeof(NetworkLANParameterKeyword) == 64 && CAPACITY(NetworkLANParameterKeyword, InterfaceName) == 64, "");
+
+static_assert(sizeof(NetworkRouteParameter) == 64, "");
+static_assert(CAPACITY(NetworkRouteParameter, PrimaryNetworkInterface) == 64, "");
+
+static_assert(sizeof(NetworkWIFIParameter) == 652, "");
+static_assert(offsetof(NetworkWIFIParameter, SSID) == 68, "");
+static_assert(offsetof(NetworkWIFIParameter, SecurityKey) == 140, "");
+static_assert(offsetof(NetworkWIFIParameter, IPv4DHCPEnable) == 204, "");
+static_assert(offsetof(NetworkWIFIParameter, MACAddress) == 492, "");
+static_assert(offsetof(NetworkWIFIParameter, MTUSize) == 512, "a 32-bit MTUSize is aligned after MACAddress");
+static_assert(offsetof(NetworkWIFIParameter, AccessPointSSID) == 516, "");
+static_assert(offsetof(NetworkWIFIParameter, AccessPointSecurityKey) == 588, "");
+static_assert(MEMBER_IS(NetworkWIFIParameter, MTUSize, uint32_t), "the wireless MTU is 32 bits wide");
+static_assert(MEMBER_IS(NetworkWIFIParameter, WorkMode, uint32_t), "");
+static_assert(sizeof(NetworkWIFIParameterKeyword) == 64, "");
+
+static_assert(sizeof(ScanWIFIHotspotParameter) == 68, "");
+static_assert(offsetof(ScanWIFIHotspotParameter, Rescan) == 64, "");
+
+static_assert(sizeof(WIFIHotspot) == 664, "");
+static_assert(offsetof(WIFIHotspot, MacAddress) == 128 && CAPACITY(WIFIHotspot, MacAddress) == 18, "");
+static_assert(offsetof(WIFIHotspot, SupportSecurityTypeList) == 402, "");
+static_assert(offsetof(WIFIHotspot, SignalStrength) == 660, "");
+static_assert(MEMBER_IS(WIFIHotspot, SignalStrength, int32_t), "signal levels are signed");
+
+static_assert(sizeof(SerialPortInterface) == 1604, "");
+static_assert(offsetof(SerialPortInterface, Removable) == 320, "");
+static_assert(offsetof(SerialPortInterface, SupportedFlowControlList) == 1348, "");
+static_assert(CAPACITY(SerialPortInterface, Level) == 64 && CAPACITY(SerialPortInterface, SupportedBaudrateList) == 256, "");
+
+static_assert(sizeof(SerialPortParameter) == 208, "");
+static_assert(offsetof(SerialPortParameter, Baudrate) == 68, "");
+static_assert(offsetof(SerialPortParameter, FlowControl) == 144, "");
+static_assert(sizeof(SerialPortParameterKeyword) == 64, "");
+
+static_assert(sizeof(SerialPortNetworkTransferParameter) == 348, "");
+static_assert(offsetof(SerialPortNetworkTransferParameter, Enable) == 0, "");
+static_assert(offsetof(SerialPortNetworkTransferParameter, InterfaceName) == 4, "the key is the second field");
+static_assert(offsetof(SerialPortNetworkTransferParameter, PeerAddress) == 80, "");
+static_assert(CAPACITY(SerialPortNetworkTransferParameter, PeerAddress) == 256, "");
+static_assert(offsetof(SerialPortNetworkTransferParameter, TCPServerSupportMultiAccess) == 344, "");
+static_assert(sizeof(SerialPortNetworkTransferParameterKeyword) == 64, "the keyword record is the name alone");
+
+// A LAN record with every field set.
+NetworkLANParameter lan(const char *name, uint16_t mtu) {
+    NetworkLANParameter r = {};
+    std::snprintf(r.InterfaceName, sizeof r.InterfaceName, "%s", name);
+    r.IPv4DHCPEnable = 1;
+    std::strcpy(r.IPv4Address, "192.168.1.120");
+    std::strcpy(r.IPv4Gateway, "192.168.1.1");
+    std::strcpy(r.IPv4Netmask, "255.255.255.0");
+    std::strcpy(r.IPv4PrimaryDNS, "192.168.1.1");
+    std::strcpy(r.IPv4SecondaryDNS, "8.8.4.4");
+    r.IPv6Enable = 1;
+    r.IPv6DHCPEnable = 0;
+    std::strcpy(r.IPv6Address, "fd00:1:2::120");
+    std::strcpy(r.IPv6Gateway, "fd00:1:2::1");
+    r.IPv6SubnetPrefixLength = 64;
+    std::strcpy(r.IPv6PrimaryDNS, "fd00:1:2::1");
+    std::strcpy(r.IPv6SecondaryDNS, "2001:4860:4860::8888");
+    std::strcpy(r.MACAddress, "00:1A:2B:3C:4D:5E");
+    r.MTUSize = mtu;
+    return r;
+}
+
+TEST(NetworkExamples, EveryExampleFileLoadsWithItsReaderAndIsTheEmittersOwnText) {
+    std::vector<NetworkCapabilitySet> caps;
+    expect_example_reads("NetworkCapabilitySet", false, struct_to_json_NetworkCapabilitySet,
+                         json_to_struct_NetworkCapabilitySet, &caps);
+    NetworkCapabilitySet cap = {};
+    EXPECT_EQ(f2s_NetworkCapabilitySet(example("NetworkCapabilitySet").c_str(), &cap), 0);
+    EXPECT_EQ(std::memcmp(&cap, &caps[0], sizeof cap), 0);
+
+    std::vector<NetworkInterface> ifs;
+    expect_example_reads("NetworkInterface", true, struct_to_json_NetworkInterface, json_to_struct_NetworkInterface, &ifs);
+    expect_f2s_array("NetworkInterface", f2s_array_NetworkInterface, ifs);
+
+    std::vector<NetworkInterfaceStatus> st;
+    expect_example_reads("NetworkInterfaceStatus", true, struct_to_json_NetworkInterfaceStatus,
+                         json_to_struct_NetworkInterfaceStatus, &st);
+    uint32_t n = 4;
+    NetworkInterfaceStatus st_arr[4] = {};
+    EXPECT_EQ(j2s_array_NetworkInterfaceStatus(read_file(example("NetworkInterfaceStatus")).c_str(), st_arr, &n), 0);
+    EXPECT_EQ(n, st.size());
+
+    std::vector<NetworkLANParameter> lans;
+    expect_example_reads("NetworkLANParameter", true, struct_to_json_NetworkLANParameter,
+                         json_to_struct_NetworkLANParameter, &lans);
+    expect_f2s_array("NetworkLANParameter", f2s_array_NetworkLANParameter, lans);
+
+    std::vector<NetworkRouteParameter> routes;
+    expect_example_reads("NetworkRouteParameter", false, struct_to_json_NetworkRouteParameter,
+                         json_to_struct_NetworkRouteParameter, &routes);
+    NetworkRouteParameter route = {};
+    EXPECT_EQ(f2s_NetworkRouteParameter(example("NetworkRouteParameter").c_str(), &route), 0);
+    EXPECT_STREQ(route.PrimaryNetworkInterface, routes[0].PrimaryNetworkInterface);
+
+    std::vector<NetworkWIFIParameter> wifis;
+    expect_example_reads("NetworkWIFIParameter", true, struct_to_json_NetworkWIFIParameter,
+                         json_to_struct_NetworkWIFIParameter, &wifis);
+    expect_f2s_array("NetworkWIFIParameter", f2s_array_NetworkWIFIParameter, wifis);
+
+    expect_example_reads("ScanWIFIHotspotParameter", false, struct_to_json_ScanWIFIHotspotParameter,
+                         json_to_struct_ScanWIFIHotspotParameter);
+    Tree scan(cJSON_Parse(read_file(example("ScanWIFIHotspotParameter")).c_str()));
+    ScanWIFIHotspotParameter req = {};
+    EXPECT_EQ(c2s_ScanWIFIHotspotParameter(scan.p, &req), 0);
+    EXPECT_STREQ(req.InterfaceName, "wlan0");
+
+    std::vector<WIFIHotspot> spots;
+    expect_example_reads("WIFIHotspot", true, struct_to_json_WIFIHotspot, json_to_struct_WIFIHotspot, &spots);
+    expect_f2s_array("WIFIHotspot", f2s_array_WIFIHotspot, spots);
+
+    std::vector<SerialPortInterface> ports;
+    expect_example_reads("SerialPortInterface", true, struct_to_json_SerialPortInterface,
+                         json_to_struct_SerialPortInterface, &ports);
+    expect_f2s_array("SerialPortInterface", f2s_array_SerialPortInterface, ports);
+
+    std::vector<SerialPortParameter> lines;
+    expect_example_reads("SerialPortParameter", true, struct_to_json_SerialPortParameter,
+                         json_to_struct_SerialPortParameter, &lines);
+    expect_f2s_array("SerialPortParameter", f2s_array_SerialPortParameter, lines);
+
+    std::vector<SerialPortNetworkTransferParameter> links;
+    expect_example_reads("SerialPortNetworkTransferParameter", true, struct_to_json_SerialPortNetworkTransferParameter,
+                         json_to_struct_SerialPortNetworkTransferParameter, &links);
+    expect_f2s_array("SerialPortNetworkTransferParameter", f2s_array_SerialPortNetworkTransferParameter, links);
+}
+
+// ---- Function sets ----------------------------------------------------------
+
+TEST(NetworkFunctions, CapabilitySetHasTextFamiliesAndALoaderButNoSaver) {
+    expect_exactly("NetworkCapabilitySet", {"s2j", "c2s", "j2s", "f2s"});
+}
+
+TEST(NetworkFunctions, InterfaceArraysLoadFromFilesButHaveNoSaverAndNoKeywordReaders) {
+    expect_exactly("NetworkInterface", {"s2j_array", "c2s_array", "j2s_array", "f2s_array"});
+}
+
+TEST(NetworkFunctions, InterfaceStatusHasArraysAndOnlyTheSingleKeyReader) {
+    expect_exactly("NetworkInterfaceStatus", {"s2j_array", "c2s_array", "j2s_array", "get"});
+}
+
+TEST(NetworkFunctions, LANParameterHasArraysKeyedUpdateBothKeywordReadersAndArrayFiles) {
+    expect_exactly("NetworkLANParameter",
+                   {"s2j_array", "c2s_array", "j2s_array", "update", "keyword", "get", "f2s_array", "s2f_array"});
+}
+
+TEST(NetworkFunctions, RouteParameterHasTextFamiliesAndBothFileFunctions) {
+    expect_exactly("NetworkRouteParameter", {"s2j", "c2s", "j2s", "f2s", "s2f"});
+}
+
+TEST(NetworkFunctions, WIFIParameterHasArraysKeyedUpdateBothKeywordReadersAndArrayFiles) {
+    expect_exactly("NetworkWIFIParameter",
+                   {"s2j_array", "c2s_array", "j2s_array", "update", "keyword", "get", "f2s_array", "s2f_array"});
+}
+
+TEST(NetworkFunctions, ScanRequestHasOnlyC2s) { expect_exactly("ScanWIFIHotspotParameter", {"c2s"}); }
+
+TEST(NetworkFunctions, HotspotArraysLoadFromFilesButAreNeverSaved) {
+    expect_exactly("WIFIHotspot", {"s2j_array", "c2s_array", "j2s_array", "f2s_array"});
+}
+
+TEST(NetworkFunctions, SerialPortInterfaceArraysLoadFromFilesButAreNeverSaved) {
+    expect_exactly("SerialPortInterface", {"s2j_array", "c2s_array", "j2s_array", "f2s_array"});
+}
+
+TEST(NetworkFunctions, SerialPortSettingsHaveArraysKeyedUpdateBothKeywordReadersAndArrayFiles) {
+    for (const char *T : {"SerialPortParameter", "SerialPortNetworkTransferParameter"})
+        expect_exactly(T, {"s2j_array", "c2s_array", "j2s_array", "update", "keyword", "get", "f2s_array", "s2f_array"});
+}
+
+// ---- Network interfaces and LAN ---------------------------------------------
+
+TEST(NetworkLANParameter, MACAddressOf17CharactersIsKeptWhole) {
+    NetworkLANParameter r = {};
+    Tree tree(cJSON_Parse("{\"MACAddress\":\"00:1A:2B:3C:4D:5E\"}"));
+    ASSERT_EQ(json_to_struct_NetworkLANParameter(&r, tree.p), 1);
+    EXPECT_STREQ(r.MACAddress, "00:1A:2B:3C:4D:5E");
+}
+
+TEST(NetworkLANParameter, MACAddressOf18OrMoreCharactersIsStoredAsItsFirst17) {
+    for (const char *mac : {"00:1A:2B:3C:4D:5EF", "00:1A:2B:3C:4D:5E:6F:70"}) {
+        NetworkLANParameter r = {};
+        std::memset(r.MACAddress, '#', sizeof r.MACAddress);
+        Tree tree(cJSON_CreateObject());
+        cJSON_AddStringToObject(tree.p, "MACAddress", mac);
+        ASSERT_EQ(json_to_struct_NetworkLANParameter(&r, tree.p), 1);
+        EXPECT_EQ(std::string(r.MACAddress), "00:1A:2B:3C:4D:5E") << mac;
+    }
+}
+
+TEST(NetworkLANParameter, IPv4AddressOf16OrMoreCharactersIsStoredAsItsFirst15) {
+    for (size_t len : {16u, 40u}) {
+        NetworkLANParameter r = {};
+        Tree tree(cJSON_CreateObject());
+        cJSON_AddStringToObject(tree.p, "IPv4Address", chars(len, '1').c_str());
+        ASSERT_EQ(json_to_struct_NetworkLANParameter(&r, tree.p), 1);
+        EXPECT_EQ(std::string(r.IPv4Address), chars(15, '1'));
+    }
+    NetworkLANParameter r = {};
+    Tree tree(cJSON_Parse("{\"IPv4Address\":\"255.255.255.255\"}"));  // 15 characters fit
+    ASSERT_EQ(json_to_struct_NetworkLANParameter(&r, tree.p), 1);
+    EXPECT_STREQ(r.IPv4Address, "255.255.255.255");
+}
+
+TEST(NetworkLANParameter, IPv6AddressOf48OrMoreCharactersIsStoredAsItsFirst47) {
+    for (size_t len : {48u, 100u}) {
+        NetworkLANParameter r = {};
+        Tree tree(cJSON_CreateObject());
+        cJSON_AddStringToObject(tree.p, "IPv6Address", chars(len, 'f').c_str());
+        ASSERT_EQ(json_to_struct_NetworkLANParameter(&r, tree.p), 1);
+        EXPECT_EQ(std::string(r.IPv6Address), chars(47, 'f'));
+    }
+}
+
+TEST(NetworkLANParameter, MTUSizeOf70000IsReadBackAs4464) {
+    NetworkLANParameter r = lan("eth0", 1500);
+    Tree tree(cJSON_Parse("{\"MTUSize\":70000}"));
+    ASSERT_EQ(json_to_struct_NetworkLANParameter(&r, tree.p), 1);
+    EXPECT_EQ(r.MTUSize, 4464);
+    Tree back(struct_to_json_NetworkLANParameter(&r));
+    EXPECT_EQ(cJSON_GetObjectItem(back.p, "MTUSize")->valuedouble, 4464.0);
+}
+
+TEST(NetworkLANParameter, MTUSizeKeepsOnlyTheLow16BitsWithoutRangeCheck) {
+    const struct {
+        const char *json;
+        uint16_t want;
+    } cases[] = {{"1500", 1500}, {"65535", 65535}, {"65536", 0}, {"70000", 4464}, {"-1", 65535}, {"4294967297", 1}};
+    for (const auto &c : cases) {
+        NetworkLANParameter r = {};
+        std::string json = std::string("[{\"InterfaceName\":\"eth0\",\"MTUSize\":") + c.json + "}]";
+        uint32_t n = 1;
+        ASSERT_EQ(j2s_array_NetworkLANParameter(json.c_str(), &r, &n), 0) << c.json;
+        EXPECT_EQ(r.MTUSize, c.want) << c.json;
+    }
+}
+
+TEST(NetworkLANParameter, MTUSizeOf65535IsEmittedUnsigned) {
+    NetworkLANParameter r = lan("eth0", 65535);
+    Text text(s2j_array_NetworkLANParameter(&r, 1, 0));
+    EXPECT_NE(text.str().find("\"MACAddress\":\"00:1A:2B:3C:4D:5E\",\"MTUSize\":65535}"), std::string::npos) << text.str();
+}
+
+TEST(NetworkLANParameter, MTUSizeGivenAsTextFailsAfterEveryEarlierFieldIsWritten) {
+    NetworkLANParameter src = lan("eth1", 9000), dst = lan("old", 1400);
+    std::strcpy(dst.IPv4Address, "10.1.1.1");
+    std::strcpy(dst.MACAddress, "AA:BB:CC:DD:EE:FF");
+    Tree tree(struct_to_json_NetworkLANParameter(&src));
+    cJSON_ReplaceItemInObjectCaseSensitive(tree.p, "MTUSize", cJSON_CreateString("9000"));
+    EXPECT_EQ(json_to_struct_NetworkLANParameter(&dst, tree.p), 0);
+    EXPECT_EQ(std::memcmp(&dst, &src, offsetof(NetworkLANParameter, MTUSize)), 0);
+    EXPECT_EQ(dst.MTUSize, 1400);
+}
+
+TEST(NetworkLANParameter, MTUSizeGivenAsTextFailsTheArrayReaderWithItsDiagnostic) {
+    NetworkLANParameter arr[2] = {lan("eth0", 1500), lan("eth1", 1500)};
+    uint32_t n = 2;
+    StderrCapture err;
+    EXPECT_EQ(j2s_array_NetworkLANParameter("[{\"InterfaceName\":\"wan\",\"MTUSize\":\"1500\"}]", arr, &n), -1);
+    EXPECT_EQ(err.text(), d(fam("NetworkLANParameter").line.c2s_array, "c2s_array_NetworkLANParameter",
+                            "json_to_struct_NetworkLANParameter failed!\n"));
+    EXPECT_EQ(n, 2u);
+    EXPECT_STREQ(arr[0].InterfaceName, "wan");
+}
+
+// The array families step through the records by their size, 16-bit field
+// included: every element keeps its own MTU.
+TEST(NetworkLANParameter, ArraysOfRecordsWithThe16BitFieldRoundTripElementByElement) {
+    NetworkLANParameter arr[3] = {lan("eth0", 1500), lan("eth1", 9000), lan("eth2", 65535)};
+    Text text(s2j_array_NetworkLANParameter(arr, 3, 1));
+    NetworkLANParameter back[3];
+    std::memset(back, 0x5A, sizeof back);
+    uint32_t n = 3;
+    ASSERT_EQ(j2s_array_NetworkLANParameter(text.p, back, &n), 0);
+    ASSERT_EQ(n, 3u);
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_STREQ(back[i].InterfaceName, arr[i].InterfaceName);
+        EXPECT_EQ(back[i].MTUSize, arr[i].MTUSize);
+        EXPECT_STREQ(back[i].MACAddress, arr[i].MACAddress);
+    }
+}
+
+TEST(NetworkLANParameter, KeyedUpdateMatchesTheInterfaceByName) {
+    NetworkLANParameter arr[3] = {lan("eth0", 1500), lan("eth1", 1500), lan("wlan0", 1500)};
+    uint32_t n = 3;
+    ASSERT_EQ(j2s_array_update_NetworkLANParameter(
+                  "[{\"InterfaceName\":\"eth1\",\"IPv4Address\":\"10.0.0.7\",\"MTUSize\":9000},"
+                  "{\"InterfaceName\":\"eth9\",\"MTUSize\":1280}]",
+                  arr, &n),
+              0);
+    EXPECT_EQ(n, 1u);
+    EXPECT_STREQ(arr[1].IPv4Address, "10.0.0.7");
+    EXPECT_EQ(arr[1].MTUSize, 9000);
+    EXPECT_EQ(arr[0].MTUSize, 1500);
+    EXPECT_EQ(arr[2].MTUSize, 1500);
+    EXPECT_STREQ(arr[0].IPv4Address, "192.168.1.120");
+}
+
+TEST(NetworkLANParameter, KeyedUpdateWithNameOf64OrMoreCharactersMatchesOnTheFirst63) {
+    std::string name70 = chars(60, 'n') + "0123456789";  // 70 characters
+    NetworkLANParameter arr[2] = {lan("eth0", 1500), lan(name70.c_str(), 1500)};
+    ASSERT_EQ(std::strlen(arr[1].InterfaceName), 63u);
+    std::string json = "[{\"InterfaceName\":\"" + name70 + "\",\"MTUSize\":1400}]";
+    uint32_t n = 2;
+    ASSERT_EQ(j2s_array_update_NetworkLANParameter(json.c_str(), arr, &n), 0);
+    EXPECT_EQ(n, 1u);
+    EXPECT_EQ(arr[1].MTUSize, 1400);
+    EXPECT_EQ(arr[0].MTUSize, 1500);
+
+    std::string name64 = chars(64, 'm');
+    NetworkLANParameterKeyword kw;
+    Tree tree(cJSON_CreateObject());
+    cJSON_AddStringToObject(tree.p, "InterfaceName", name64.c_str());
+    ASSERT_EQ(json_to_struct_NetworkLANParameterKeyword(&kw, tree.p), 1);
+    EXPECT_EQ(std::string(kw.InterfaceName), chars(63, 'm'));
+    char get[64];
+    ASSERT_EQ(json_to_struct_GetNetworkLANParameterKeyword(get, tree.p), 1);
+    EXPECT_EQ(std::string(get), chars(63, 'm'));
+}
+
+TEST(NetworkLANParameter, KeyedUpdateDoesNotMatchANameThatOnlyBeginsLikeTheKey) {
+    NetworkLANParameter arr[1] = {lan("eth10", 1500)};
+    uint32_t n = 1;
+    ASSERT_EQ(j2s_array_update_NetworkLANParameter("[{\"InterfaceName\":\"eth1\",\"MTUSize\":576}]", arr, &n), 0);
+    EXPECT_EQ(n, 0u);
+    EXPECT_EQ(arr[0].MTUSize, 1500);
+}
+
+TEST(NetworkInterfaceStatus, SingleKeyReaderReadsTheInterfaceName) {
+    Tree tree(cJSON_Parse("{\"IsPlugged\":1,\"InterfaceName\":\"eth0\"}"));
+    char name[64];
+    std::memset(name, '#', sizeof name);
+    EXPECT_EQ(json_to_struct_GetNetworkInterfaceStatusKeyword(name, tree.p), 1);
+    EXPECT_STREQ(name, "eth0");
+}
+
+TEST(NetworkInterfaceStatus, SingleKeyReaderRefusesAnElementWithoutInterfaceName) {
+    Tree tree(cJSON_Parse("{\"IsPlugged\":1,\"ReceptionRate\":100}"));
+    char name[64] = "kept";
+    EXPECT_EQ(json_to_struct_GetNetworkInterfaceStatusKeyword(name, tree.p), 0);
+    EXPECT_STREQ(name, "kept");
+}
+
+TEST(NetworkInterfaceStatus, SingleKeyReaderRefusesANumericInterfaceName) {
+    Tree tree(cJSON_Parse("{\"InterfaceName\":0}"));
+    char name[64] = "kept";
+    EXPECT_EQ(json_to_struct_GetNetworkInterfaceStatusKeyword(name, tree.p), 0);
+    EXPECT_STREQ(name, "kept");
+}
+
+TEST(NetworkInterfaceStatus, RatesAreUnsignedAndFlagsSigned) {
+    NetworkInterfaceStatus s = {};
+    std::strcpy(s.InterfaceName, "eth0");
+    s.IsPlugged = -1;
+    s.ReceptionRate = 4294967295u;
+    s.TransmissionRate = 2147483648u;
+    Text text(s2j_array_NetworkInterfaceStatus(&s, 1, 0));
+    EXPECT_EQ(text.str(),
+              "[{\"InterfaceName\":\"eth0\",\"IsPlugged\":-1,\"NetworkIsConnected\":0,\"ReceptionRate\":4294967295,"
+              "\"TransmissionRate\":2147483648,\"InternetIsConnected\":0}]");
+}
+
+TEST(NetworkInterface, RemoveableIsTheOnlySpellingAccepted) {
+    NetworkInterface r = {};
+    r.Removeable = 7;
+    Tree without_e(cJSON_Parse("{\"Removable\":1}"));
+    ASSERT_EQ(json_to_struct_NetworkInterface(&r, without_e.p), 1);
+    EXPECT_EQ(r.Removeable, 7);
+    Tree with_e(cJSON_Parse("{\"Removeable\":1}"));
+    ASSERT_EQ(json_to_struct_NetworkInterface(&r, with_e.p), 1);
+    EXPECT_EQ(r.Removeable, 1);
+}
+
+TEST(NetworkInterface, EmitterWritesRemoveable) {
+    NetworkInterface r = {};
+    r.Removeable = 1;
+    Tree tree(struct_to_json_NetworkInterface(&r));
+    EXPECT_NE(cJSON_GetObjectItemCaseSensitive(tree.p, "Removeable"), nullptr);
+    EXPECT_EQ(cJSON_GetObjectItem(tree.p, "Removable"), nullptr);
+}
+
+TEST(NetworkRouteParameter, TextAndFileRoundTrip) {
+    NetworkRouteParameter r = {};
+    std::strcpy(r.PrimaryNetworkInterface, "eth1");
+    Text text(s2j_NetworkRouteParameter(&r, 0));
+    EXPECT_EQ(text.str(), "{\"PrimaryNetworkInterface\":\"eth1\"}");
+    std::string path = temp_dir() + "/route.json";
+    ASSERT_EQ(s2f_NetworkRouteParameter(path.c_str(), &r), 0);
+    EXPECT_EQ(read_file(path), "{\n\t\"PrimaryNetworkInterface\":\t\"eth1\"\n}");
+    NetworkRouteParameter back = {};
+    ASSERT_EQ(f2s_NetworkRouteParameter(path.c_str(), &back), 0);
+    EXPECT_STREQ(back.PrimaryNetworkInterface, "eth1");
+}
+
+// ---- Wireless ----------------------------------------------------------------
+
+TEST(WIFIHotspot, DocumentWithMACAddressFillsMacAddressByCaseInsensitiveLookup) {
+    WIFIHotspot r = {};
+    Tree tree(cJSON_Parse("{\"MACAddress\":\"F4:92:BF:A1:22:10\"}"));
+    ASSERT_EQ(json_to_struct_WIFIHotspot(&r, tree.p), 1);
+    EXPECT_STREQ(r.MacAddress, "F4:92:BF:A1:22:10");
+}
+
+TEST(NetworkWIFIParameter, DocumentWithMacAddressFillsMACAddressByCaseInsensitiveLookup) {
+    NetworkWIFIParameter r = {};
+    Tree tree(cJSON_Parse("{\"MacAddress\":\"70:B3:D5:12:34:56\"}"));
+    ASSERT_EQ(json_to_struct_NetworkWIFIParameter(&r, tree.p), 1);
+    EXPECT_STREQ(r.MACAddress, "70:B3:D5:12:34:56");
+}
+
+TEST(WIFIHotspot, EachEmitterWritesOnlyItsOwnSpellingOfTheMacKey) {
+    WIFIHotspot h = {};
+    std::strcpy(h.MacAddress, "F4:92:BF:A1:22:10");
+    Tree ht(struct_to_json_WIFIHotspot(&h));
+    EXPECT_NE(cJSON_GetObjectItemCaseSensitive(ht.p, "MacAddress"), nullptr);
+    EXPECT_EQ(cJSON_GetObjectItemCaseSensitive(ht.p, "MACAddress"), nullptr);
+    NetworkWIFIParameter w = {};
+    std::strcpy(w.MACAddress, "70:B3:D5:12:34:56");
+    Tree wt(struct_to_json_NetworkWIFIParameter(&w));
+    EXPECT_NE(cJSON_GetObjectItemCaseSensitive(wt.p, "MACAddress"), nullptr);
+    EXPECT_EQ(cJSON_GetObjectItemCaseSensitive(wt.p, "MacAddress"), nullptr);
+    NetworkLANParameter l = {};
+    Tree lt(struct_to_json_NetworkLANParameter(&l));
+    EXPECT_NE(cJSON_GetObjectItemCaseSensitive(lt.p, "MACAddress"), nullptr);
+    EXPECT_EQ(cJSON_GetObjectItemCaseSensitive(lt.p, "MacAddress"), nullptr);
+}
+
+TEST(NetworkWIFIParameter, MTUSizeOf70000IsKeptAs70000) {
+    NetworkWIFIParameter r = {};
+    Tree tree(cJSON_Parse("{\"MTUSize\":70000}"));
+    ASSERT_EQ(json_to_struct_NetworkWIFIParameter(&r, tree.p), 1);
+    EXPECT_EQ(r.MTUSize, 70000u);
+    Text text(s2j_array_NetworkWIFIParameter(&r, 1, 0));
+    EXPECT_NE(text.str().find("\"MTUSize\":70000,"), std::string::npos);
+}
+
+TEST(NetworkWIFIParameter, TheSameMTUSizeDocumentIsCutTo16BitsOnlyByTheLANRecord) {
+    const char *json = "[{\"InterfaceName\":\"x\",\"MTUSize\":4294967295}]";
+    NetworkWIFIParameter w = {};
+    NetworkLANParameter l = {};
+    uint32_t n = 1, m = 1;
+    ASSERT_EQ(j2s_array_NetworkWIFIParameter(json, &w, &n), 0);
+    ASSERT_EQ(j2s_array_NetworkLANParameter(json, &l, &m), 0);
+    EXPECT_EQ(w.MTUSize, 4294967295u);
+    EXPECT_EQ(l.MTUSize, 65535);
+}
+
+TEST(NetworkWIFIParameter, SSIDOf64OrMoreCharactersIsStoredAsItsFirst63) {
+    NetworkWIFIParameter r = {};
+    Tree tree(cJSON_CreateObject());
+    cJSON_AddStringToObject(tree.p, "SSID", chars(64, 's').c_str());
+    ASSERT_EQ(json_to_struct_NetworkWIFIParameter(&r, tree.p), 1);
+    EXPECT_EQ(std::string(r.SSID), chars(63, 's'));
+}
+
+TEST(NetworkWIFIParameter, SecurityKeysOf64OrMoreCharactersAreStoredAsTheirFirst63) {
+    NetworkWIFIParameter r = {};
+    Tree tree(cJSON_CreateObject());
+    cJSON_AddStringToObject(tree.p, "SecurityKey", chars(64, 'k').c_str());
+    cJSON_AddStringToObject(tree.p, "AccessPointSecurityKey", chars(200, 'p').c_str());
+    cJSON_AddStringToObject(tree.p, "AccessPointSSID", chars(63, 'a').c_str());
+    ASSERT_EQ(json_to_struct_NetworkWIFIParameter(&r, tree.p), 1);
+    EXPECT_EQ(std::string(r.SecurityKey), chars(63, 'k'));
+    EXPECT_EQ(std::string(r.AccessPointSecurityKey), chars(63, 'p'));
+    EXPECT_EQ(std::string(r.AccessPointSSID), chars(63, 'a'));
+}
+
+TEST(WIFIHotspot, NegativeSignalStrengthIsStoredAndEmittedWithItsSign) {
+    WIFIHotspot r = {};
+    uint32_t n = 1;
+    ASSERT_EQ(j2s_array_WIFIHotspot("[{\"SSID\":\"Guest\",\"SignalStrength\":-70}]", &r, &n), 0);
+    EXPECT_EQ(r.SignalStrength, -70);
+    Text text(s2j_array_WIFIHotspot(&r, 1, 0));
+    EXPECT_NE(text.str().find("\"SignalStrength\":-70}"), std::string::npos) << text.str();
+}
+
+TEST(NetworkWIFIParameter, KeyedUpdateOfAnElementWithoutInterfaceNameIsRefused) {
+    NetworkWIFIParameter arr[2] = {};
+    std::strcpy(arr[0].InterfaceName, "wlan0");
+    std::strcpy(arr[1].InterfaceName, "wlan1");
+    uint32_t n = 2;
+    StderrCapture err;
+    EXPECT_EQ(j2s_array_update_NetworkWIFIParameter(
+                  "[{\"InterfaceName\":\"wlan1\",\"SSID\":\"Studio\"},{\"SSID\":\"Lobby\"}]", arr, &n),
+              -2);
+    EXPECT_EQ(err.text(), d(fam("NetworkWIFIParameter").line.c2s_array_update, "c2s_array_update_NetworkWIFIParameter",
+                            "The keyword is not contained in an object of the json array!\n"));
+    EXPECT_EQ(n, 2u);
+    EXPECT_STREQ(arr[1].SSID, "Studio");  // the element before the refused one stays applied
+    EXPECT_STREQ(arr[0].SSID, "");
+}
+
+TEST(NetworkWIFIParameter, KeyedUpdateOfAnElementWithNumericInterfaceNameIsRefused) {
+    NetworkWIFIParameter arr[1] = {};
+    std::strcpy(arr[0].InterfaceName, "0");
+    uint32_t n = 1;
+    StderrCapture err;
+    EXPECT_EQ(j2s_array_update_NetworkWIFIParameter("[{\"InterfaceName\":0,\"SSID\":\"x\"}]", arr, &n), -2);
+    EXPECT_EQ(err.text(), d(fam("NetworkWIFIParameter").line.c2s_array_update, "c2s_array_update_NetworkWIFIParameter",
+                            "The keyword is not contained in an object of the json array!\n"));
+    EXPECT_STREQ(arr[0].SSID, "");
+    Tree tree(cJSON_Parse("{\"InterfaceName\":0}"));
+    NetworkWIFIParameterKeyword kw = {};
+    char get[64] = {};
+    EXPECT_EQ(json_to_struct_NetworkWIFIParameterKeyword(&kw, tree.p), 0);
+    EXPECT_EQ(json_to_struct_GetNetworkWIFIParameterKeyword(get, tree.p), 0);
+}
+
+TEST(NetworkWIFIParameter, KeyedUpdateChangesClientAndAccessPointSettingsOfTheNamedInterface) {
+    NetworkWIFIParameter arr[2] = {};
+    std::strcpy(arr[0].InterfaceName, "wlan0");
+    std::strcpy(arr[1].InterfaceName, "wlan1");
+    uint32_t n = 2;
+    const char *json =
+        "[{\"InterfaceName\":\"wlan1\",\"WorkMode\":1,\"AccessPointSSID\":\"Field-AP\",\"MTUSize\":100000}]";
+    ASSERT_EQ(j2s_array_update_NetworkWIFIParameter_with_len(json, std::strlen(json), arr, &n), 0);
+    EXPECT_EQ(n, 1u);
+    EXPECT_EQ(arr[1].WorkMode, 1u);
+    EXPECT_STREQ(arr[1].AccessPointSSID, "Field-AP");
+    EXPECT_EQ(arr[1].MTUSize, 100000u);
+    EXPECT_EQ(arr[0].WorkMode, 0u);
+}
+
+TEST(ScanWIFIHotspotParameter, RequestIsReadFromATree) {
+    Tree tree(cJSON_Parse("{\"InterfaceName\":\"wlan0\",\"Rescan\":1}"));
+    ScanWIFIHotspotParameter r = {};
+    EXPECT_EQ(c2s_ScanWIFIHotspotParameter(tree.p, &r), 0);
+    EXPECT_STREQ(r.InterfaceName, "wlan0");
+    EXPECT_EQ(r.Rescan, 1);
+}
+
+TEST(ScanWIFIHotspotParameter, C2sReportsATreeThatIsNotAnObjectOnItsLine) {
+    Tree tree(cJSON_Parse("[]"));
+    ScanWIFIHotspotParameter r = {};
+    StderrCapture err;
+    EXPECT_EQ(c2s_ScanWIFIHotspotParameter(tree.p, &r), -2);
+    EXPECT_EQ(err.text(), d(fam("ScanWIFIHotspotParameter").line.c2s, "c2s_ScanWIFIHotspotParameter",
+                            "the cJSON pointer is not an object!\n"));
+}
+
+TEST(ScanWIFIHotspotParameter, C2sReportsAMistypedFieldAsReaderFailure) {
+    Tree tree(cJSON_Parse("{\"InterfaceName\":\"wlan0\",\"Rescan\":true}"));
+    ScanWIFIHotspotParameter r = {};
+    StderrCapture err;
+    EXPECT_EQ(c2s_ScanWIFIHotspotParameter(tree.p, &r), -1);
+    EXPECT_EQ(err.text(), d(fam("ScanWIFIHotspotParameter").line.c2s, "c2s_ScanWIFIHotspotParameter",
+                            "json_to_struct_ScanWIFIHotspotParameter failed!\n"));
+    EXPECT_STREQ(r.InterfaceName, "wlan0");
+}
+
+TEST(ScanWIFIHotspotParameter, EmitterExistsThoughNoTextFamilyDoes) {
+    ScanWIFIHotspotParameter r = {};
+    std::strcpy(r.InterfaceName, "wlan0");
+    r.Rescan = 1;
+    EXPECT_EQ(emitted(struct_to_json_ScanWIFIHotspotParameter, r), "{\"InterfaceName\":\"wlan0\",\"Rescan\":1}");
+}
+
+// ---- Serial ports --------------------------------------------------------------
+
+TEST(SerialPortNetworkTransferParameter, PeerAddressOf256OrMoreCharactersIsStoredAsItsFirst255) {
+    for (size_t len : {256u, 300u}) {
+        SerialPortNetworkTransferParameter r = {};
+        Tree tree(cJSON_CreateObject());
+        cJSON_AddStringToObject(tree.p, "PeerAddress", chars(len, 'h').c_str());
+        ASSERT_EQ(json_to_struct_SerialPortNetworkTransferParameter(&r, tree.p), 1);
+        EXPECT_EQ(std::string(r.PeerAddress), chars(255, 'h'));
+    }
+}
+
+TEST(SerialPortParameter, BaudrateGivenAsTextFailsAfterInterfaceNameAndEnableAreWritten) {
+    SerialPortParameter r = {};
+    std::strcpy(r.InterfaceName, "COM9");
+    r.Enable = 0;
+    r.Baudrate = 9600;
+    r.Databits = 7;
+    std::strcpy(r.ParityType, "Odd");
+    Tree tree(cJSON_Parse("{\"InterfaceName\":\"COM1\",\"Enable\":1,\"Baudrate\":\"115200\",\"Databits\":8,"
+                          "\"ParityType\":\"None\"}"));
+    EXPECT_EQ(json_to_struct_SerialPortParameter(&r, tree.p), 0);
+    EXPECT_STREQ(r.InterfaceName, "COM1");
+    EXPECT_EQ(r.Enable, 1);
+    EXPECT_EQ(r.Baudrate, 9600u);
+    EXPECT_EQ(r.Databits, 7u);
+    EXPECT_STREQ(r.ParityType, "Odd");
+}
+
+TEST(SerialPortParameter, BaudrateGivenAsTextFailsTheArrayReaderWithItsDiagnostic) {
+    SerialPortParameter arr[1] = {};
+    uint32_t n = 1;
+    StderrCapture err;
+    const char *json = "[{\"Baudrate\":\"9600\"}]";
+    EXPECT_EQ(j2s_array_SerialPortParameter_with_len(json, std::strlen(json), arr, &n), -1);
+    EXPECT_EQ(err.text(), d(fam("SerialPortParameter").line.c2s_array, "c2s_array_SerialPortParameter",
+                            "json_to_struct_SerialPortParameter failed!\n"));
+}
+
+TEST(SerialPortInterface, DocumentWithRemoveableLeavesRemovableUnchanged) {
+    SerialPortInterface r = {};
+    r.Removable = 3;
+    Tree tree(cJSON_Parse("{\"Removeable\":1}"));
+    ASSERT_EQ(json_to_struct_SerialPortInterface(&r, tree.p), 1);
+    EXPECT_EQ(r.Removable, 3);
+    Tree right(cJSON_Parse("{\"Removable\":1}"));
+    ASSERT_EQ(json_to_struct_SerialPortInterface(&r, right.p), 1);
+    EXPECT_EQ(r.Removable, 1);
+}
+
+TEST(NetworkInterface, DocumentWithRemovableLeavesRemoveableUnchanged) {
+    NetworkInterface r = {};
+    r.Removeable = 3;
+    Tree tree(cJSON_Parse("[{\"Name\":\"eth0\",\"Removable\":1}]"));
+    uint32_t n = 1;
+    ASSERT_EQ(c2s_array_NetworkInterface(tree.p, &r, &n), 0);
+    EXPECT_STREQ(r.Name, "eth0");
+    EXPECT_EQ(r.Removeable, 3);
+}
+
+TEST(SerialPortInterface, EmitterWritesRemovable) {
+    SerialPortInterface r = {};
+    r.Removable = 1;
+    Tree tree(struct_to_json_SerialPortInterface(&r));
+    EXPECT_NE(cJSON_GetObjectItemCaseSensitive(tree.p, "Removable"), nullptr);
+    EXPECT_EQ(cJSON_GetObjectItem(tree.p, "Removeable"), nullptr);
+}
+
+TEST(SerialPortNetworkTransferParameter, KeyedUpdateOfAnElementWithEnableButNoInterfaceNameIsRefused) {
+    SerialPortNetworkTransferParameter arr[1] = {};
+    arr[0].Enable = 0;
+    std::strcpy(arr[0].InterfaceName, "COM1");
+    uint32_t n = 1;
+    StderrCapture err;
+    EXPECT_EQ(j2s_array_update_SerialPortNetworkTransferParameter("[{\"Enable\":1,\"LocalPort\":4001}]", arr, &n), -2);
+    EXPECT_EQ(err.text(), d(fam("SerialPortNetworkTransferParameter").line.c2s_array_update,
+                            "c2s_array_update_SerialPortNetworkTransferParameter",
+                            "The keyword is not contained in an object of the json array!\n"));
+    EXPECT_EQ(arr[0].Enable, 0);
+    EXPECT_EQ(arr[0].LocalPort, 0u);
+    EXPECT_EQ(n, 1u);
+    SerialPortNetworkTransferParameterKeyword kw;
+    Tree tree(cJSON_Parse("{\"Enable\":1}"));
+    EXPECT_EQ(json_to_struct_SerialPortNetworkTransferParameterKeyword(&kw, tree.p), 0);
+}
+
+TEST(SerialPortNetworkTransferParameter, KeyedUpdateMatchesTheSecondFieldNotTheFirst) {
+    SerialPortNetworkTransferParameter arr[2] = {};
+    arr[0].Enable = 1;
+    std::strcpy(arr[0].InterfaceName, "COM1");
+    arr[1].Enable = 1;
+    std::strcpy(arr[1].InterfaceName, "COM2");
+    uint32_t n = 2;
+    ASSERT_EQ(j2s_array_update_SerialPortNetworkTransferParameter(
+                  "[{\"InterfaceName\":\"COM2\",\"Enable\":0,\"PeerAddress\":\"10.1.2.3\",\"PeerPort\":5002}]", arr, &n),
+              0);
+    EXPECT_EQ(n, 1u);
+    EXPECT_EQ(arr[1].Enable, 0);
+    EXPECT_STREQ(arr[1].PeerAddress, "10.1.2.3");
+    EXPECT_EQ(arr[1].PeerPort, 5002u);
+    EXPECT_EQ(arr[0].Enable, 1);
+    EXPECT_STREQ(arr[0].PeerAddress, "");
+}
+
+TEST(SerialPortNetworkTransferParameter, KeywordReadersReadTheNameWhereverItStandsInTheObject) {
+    Tree tree(cJSON_Parse("{\"Enable\":1,\"InterfaceName\":\"COM2\",\"LocalPort\":4002}"));
+    SerialPortNetworkTransferParameterKeyword kw;
+    std::memset(&kw, '#', sizeof kw);
+    ASSERT_EQ(json_to_struct_SerialPortNetworkTransferParameterKeyword(&kw, tree.p), 1);
+    EXPECT_STREQ(kw.InterfaceName, "COM2");
+    char name[64];
+    ASSERT_EQ(json_to_struct_GetSerialPortNetworkTransferParameterKeyword(name, tree.p), 1);
+    EXPECT_STREQ(name, "COM2");
+}
+
+TEST(SerialPortParameter, KeyedUpdateAndArrayFilesKeepThePortSettings) {
+    SerialPortParameter arr[2] = {};
+    std::strcpy(arr[0].InterfaceName, "COM1");
+    arr[0].Baudrate = 9600;
+    std::strcpy(arr[1].InterfaceName, "COM2");
+    arr[1].Baudrate = 2400;
+    uint32_t n = 2;
+    ASSERT_EQ(j2s_array_update_SerialPortParameter(
+                  "[{\"InterfaceName\":\"COM1\",\"Baudrate\":115200,\"FlowControl\":\"Hardware\"}]", arr, &n),
+              0);
+    EXPECT_EQ(n, 1u);
+    std::string path = temp_dir() + "/serial.json";
+    ASSERT_EQ(s2f_array_SerialPortParameter(path.c_str(), arr, 2), 0);
+    SerialPortParameter back[2] = {};
+    uint32_t m = 2;
+    ASSERT_EQ(f2s_array_SerialPortParameter(path.c_str(), back, &m), 0);
+    EXPECT_EQ(m, 2u);
+    EXPECT_EQ(back[0].Baudrate, 115200u);
+    EXPECT_STREQ(back[0].FlowControl, "Hardware");
+    EXPECT_EQ(back[1].Baudrate, 2400u);
+}
+
+}  // namespace

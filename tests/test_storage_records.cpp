@@ -1,0 +1,731 @@
+// Storage devices and disk groups, recording, snapshots: the layout of every
+// record, the functions each type has (and those it has not: a record with
+// an emitter and a reader only, requests read only, an answer written only,
+// capability sets loaded but never saved, states without files), and the
+// rules particular to these records: the signed and unsigned fields, the
+// string key StorageDeviceName, the integer key Channel, the single-key
+// readers of the status records, the spelling "SupportPictrueFormatList" and
+// the one behaviour of the RecordStatus and SnapshotStatus emitters.
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "record_checks.h"
+
+using namespace testing_support;
+using namespace record_checks;
+
+namespace {
+
+// ---- Layout ---------------------------------------------------------------
+
+static_assert(sizeof(StorageInterface) == 340, "");
+static_assert(offsetof(StorageInterface, Removable) == 192 && offsetof(StorageInterface, Expansible) == 196, "");
+static_assert(offsetof(StorageInterface, ProtocolType) == 264, "");
+static_assert(offsetof(StorageInterface, BusID) == 336, "");
+static_assert(MEMBER_IS(StorageInterface, BusBandwidth, uint32_t) && MEMBER_IS(StorageInterface, Removable, int32_t), "");
+
+static_assert(sizeof(StorageDevice) == 456, "");
+static_assert(offsetof(StorageDevice, SupportedFileSystemTypeList) == 196, "");
+static_assert(CAPACITY(StorageDevice, SupportedFileSystemTypeList) == 256, "");
+static_assert(offsetof(StorageDevice, SupportQuickFormat) == 452, "");
+
+static_assert(sizeof(StorageDeviceStatus) == 600, "");
+static_assert(offsetof(StorageDeviceStatus, FileSystemType) == 72, "");
+static_assert(offsetof(StorageDeviceStatus, MountPoint) == 140 && CAPACITY(StorageDeviceStatus, MountPoint) == 256, "");
+static_assert(offsetof(StorageDeviceStatus, TotalCapacity) == 396, "");
+static_assert(offsetof(StorageDeviceStatus, UUID) == 536 && CAPACITY(StorageDeviceStatus, UUID) == 64, "");
+static_assert(MEMBER_IS(StorageDeviceStatus, TotalCapacity, uint32_t) && MEMBER_IS(StorageDeviceStatus, FreeCapacity, uint32_t), "");
+
+static_assert(sizeof(DiskGroupCapabilitySet) == 4, "");
+static_assert(MEMBER_IS(DiskGroupCapabilitySet, MaxDiskGroupNumber, uint32_t), "");
+
+static_assert(sizeof(DiskGroupParameter) == 68, "");
+static_assert(offsetof(DiskGroupParameter, GroupID) == 64, "");
+static_assert(MEMBER_IS(DiskGroupParameter, GroupID, int32_t), "GroupID is signed");
+static_assert(sizeof(DiskGroupParameterKeyword) == 64 && CAPACITY(DiskGroupParameterKeyword, StorageDeviceName) == 64, "");
+
+static_assert(sizeof(FormatDiskParameter) == 200, "");
+static_assert(offsetof(FormatDiskParameter, PartitionName) == 128, "");
+static_assert(offsetof(FormatDiskParameter, AllocationUnitSize) == 196, "");
+
+static_assert(sizeof(FormatDiskProgress) == 132, "");
+static_assert(offsetof(FormatDiskProgress, FormatDiskProgressPercent) == 64, "");
+static_assert(offsetof(FormatDiskProgress, PartitionName) == 68, "");
+static_assert(MEMBER_IS(FormatDiskProgress, FormatDiskProgressPercent, int32_t), "the percentage is signed");
+
+static_assert(sizeof(RemoveStorageDeviceParameter) == 64, "");
+
+static_assert(sizeof(RecordCapabilitySet) == 524, "");
+static_assert(offsetof(RecordCapabilitySet, MaxFileDuration) == 256, "");
+static_assert(offsetof(RecordCapabilitySet, SupportedRecordTypeList) == 264, "");
+static_assert(offsetof(RecordCapabilitySet, SupportRecord) == 520, "");
+
+static_assert(sizeof(RecordParameter) == 2396, "");
+static_assert(offsetof(RecordParameter, FileFormat) == 16, "");
+static_assert(offsetof(RecordParameter, FilePath) == 84, "");
+static_assert(offsetof(RecordParameter, ScheduleTable) == 340 && CAPACITY(RecordParameter, ScheduleTable) == 2048, "");
+static_assert(offsetof(RecordParameter, DiskGroupID) == 2388, "");
+static_assert(MEMBER_IS(RecordParameter, Channel, uint32_t) && MEMBER_IS(RecordParameter, DiskGroupID, int32_t), "");
+static_assert(sizeof(RecordParameterKeyword) == 4 && MEMBER_IS(RecordParameterKeyword, Channel, uint32_t), "");
+
+static_assert(sizeof(RecordStatus) == 12, "three uint32 words");
+static_assert(offsetof(RecordStatus, State) == 4 && offsetof(RecordStatus, FreeCapacity) == 8, "");
+static_assert(MEMBER_IS(RecordStatus, Channel, uint32_t) && MEMBER_IS(RecordStatus, FreeCapacity, uint32_t), "");
+
+static_assert(sizeof(SnapshotCapabilitySet) == 284, "");
+static_assert(offsetof(SnapshotCapabilitySet, MaxWidth) == 256, "");
+static_assert(offsetof(SnapshotCapabilitySet, MaxFramerate) == 272, "");
+static_assert(MEMBER_IS(SnapshotCapabilitySet, MinFramerate, int32_t), "");
+
+static_assert(sizeof(SnapshotParameter) == 2340, "");
+static_assert(offsetof(SnapshotParameter, Framerate) == 16 && MEMBER_IS(SnapshotParameter, Framerate, int32_t), "");
+static_assert(offsetof(SnapshotParameter, FilePath) == 24, "");
+static_assert(offsetof(SnapshotParameter, ScheduleTable) == 280, "");
+static_assert(offsetof(SnapshotParameter, ImageQuality) == 2336, "");
+static_assert(sizeof(SnapshotParameterKeyword) == 4, "");
+
+static_assert(sizeof(SnapshotStatus) == sizeof(RecordStatus), "");
+static_assert(offsetof(SnapshotStatus, State) == offsetof(RecordStatus, State), "");
+static_assert(offsetof(SnapshotStatus, FreeCapacity) == offsetof(RecordStatus, FreeCapacity), "");
+
+static_assert(sizeof(SnapshotInputParameter) == 16, "");
+static_assert(offsetof(SnapshotInputParameter, PictureHeight) == 12, "");
+
+static_assert(sizeof(SnapshotResult) == 264, "");
+static_assert(offsetof(SnapshotResult, ImageURL) == 4 && CAPACITY(SnapshotResult, ImageURL) == 256, "");
+static_assert(offsetof(SnapshotResult, ImageRetentionTime) == 260, "");
+static_assert(MEMBER_IS(SnapshotResult, ImageRetentionTime, int32_t), "");
+
+// ---- Example files --------------------------------------------------------
+
+TEST(StorageExamples, EveryExampleFileLoadsWithItsReaderAndIsTheEmittersOwnText) {
+    expect_example_reads("StorageInterface", false, struct_to_json_StorageInterface, json_to_struct_StorageInterface);
+
+    std::vector<StorageDevice> devs;
+    expect_example_reads("StorageDevice", true, struct_to_json_StorageDevice, json_to_struct_StorageDevice, &devs);
+    expect_f2s_array("StorageDevice", f2s_array_StorageDevice, devs);
+
+    std::vector<StorageDeviceStatus> st;
+    expect_example_reads("StorageDeviceStatus", true, struct_to_json_StorageDeviceStatus,
+                         json_to_struct_StorageDeviceStatus, &st);
+
+    std::vector<DiskGroupCapabilitySet> caps;
+    expect_example_reads("DiskGroupCapabilitySet", false, struct_to_json_DiskGroupCapabilitySet,
+                         json_to_struct_DiskGroupCapabilitySet, &caps);
+    DiskGroupCapabilitySet cap = {};
+    EXPECT_EQ(f2s_DiskGroupCapabilitySet(example("DiskGroupCapabilitySet").c_str(), &cap), 0);
+    EXPECT_EQ(cap.MaxDiskGroupNumber, caps[0].MaxDiskGroupNumber);
+
+    std::vector<DiskGroupParameter> groups;
+    expect_example_reads("DiskGroupParameter", true, struct_to_json_DiskGroupParameter,
+                         json_to_struct_DiskGroupParameter, &groups);
+    expect_f2s_array("DiskGroupParameter", f2s_array_DiskGroupParameter, groups);
+
+    expect_example_reads("FormatDiskParameter", false, struct_to_json_FormatDiskParameter,
+                         json_to_struct_FormatDiskParameter);
+    FormatDiskParameter fmt = {};
+    EXPECT_EQ(j2s_FormatDiskParameter(read_file(example("FormatDiskParameter")).c_str(), &fmt), 0);
+    EXPECT_STREQ(fmt.StorageDeviceName, "mmcblk1");
+
+    expect_example_reads("FormatDiskProgress", false, struct_to_json_FormatDiskProgress, json_to_struct_FormatDiskProgress);
+    expect_example_reads("RemoveStorageDeviceParameter", false, struct_to_json_RemoveStorageDeviceParameter,
+                         json_to_struct_RemoveStorageDeviceParameter);
+
+    std::vector<RecordCapabilitySet> rcaps;
+    expect_example_reads("RecordCapabilitySet", false, struct_to_json_RecordCapabilitySet,
+                         json_to_struct_RecordCapabilitySet, &rcaps);
+    RecordCapabilitySet rcap = {};
+    EXPECT_EQ(f2s_RecordCapabilitySet(example("RecordCapabilitySet").c_str(), &rcap), 0);
+    EXPECT_EQ(std::memcmp(&rcap, &rcaps[0], sizeof rcap), 0);
+
+    std::vector<RecordParameter> recs;
+    expect_example_reads("RecordParameter", true, struct_to_json_RecordParameter, json_to_struct_RecordParameter, &recs);
+    expect_f2s_array("RecordParameter", f2s_array_RecordParameter, recs);
+
+    expect_example_reads("RecordStatus", true, struct_to_json_RecordStatus, json_to_struct_RecordStatus);
+
+    std::vector<SnapshotCapabilitySet> scaps;
+    expect_example_reads("SnapshotCapabilitySet", true, struct_to_json_SnapshotCapabilitySet,
+                         json_to_struct_SnapshotCapabilitySet, &scaps);
+    expect_f2s_array("SnapshotCapabilitySet", f2s_array_SnapshotCapabilitySet, scaps);
+
+    std::vector<SnapshotParameter> snaps;
+    expect_example_reads("SnapshotParameter", true, struct_to_json_SnapshotParameter, json_to_struct_SnapshotParameter,
+                         &snaps);
+    expect_f2s_array("SnapshotParameter", f2s_array_SnapshotParameter, snaps);
+
+    expect_example_reads("SnapshotStatus", true, struct_to_json_SnapshotStatus, json_to_struct_SnapshotStatus);
+    expect_example_reads("SnapshotInputParameter", false, struct_to_json_SnapshotInputParameter,
+                         json_to_struct_SnapshotInputParameter);
+    expect_example_reads("SnapshotResult", false, struct_to_json_SnapshotResult, json_to_struct_SnapshotResult);
+}
+
+// ---- Function sets ----------------------------------------------------------
+
+TEST(StorageFunctions, StorageInterfaceHasItsEmitterAndReaderAndNothingElse) {
+    expect_exactly("StorageInterface", {});
+}
+
+TEST(StorageFunctions, StorageDeviceArraysLoadFromFilesButAreNeverSaved) {
+    expect_exactly("StorageDevice", {"s2j_array", "c2s_array", "j2s_array", "f2s_array"});
+}
+
+TEST(StorageFunctions, StatusRecordsHaveArraysAndOnlyTheSingleKeyReader) {
+    for (const char *T : {"StorageDeviceStatus", "RecordStatus", "SnapshotStatus"})
+        expect_exactly(T, {"s2j_array", "c2s_array", "j2s_array", "get"});
+}
+
+TEST(StorageFunctions, CapabilitySetsLoadFromFilesButHaveNoSaver) {
+    expect_exactly("DiskGroupCapabilitySet", {"s2j", "c2s", "j2s", "f2s"});
+    expect_exactly("RecordCapabilitySet", {"s2j", "c2s", "j2s", "f2s"});
+    expect_exactly("SnapshotCapabilitySet", {"s2j_array", "c2s_array", "j2s_array", "f2s_array"});
+}
+
+TEST(StorageFunctions, KeyedSettingsHaveArraysKeyedUpdateBothKeywordReadersAndArrayFiles) {
+    for (const char *T : {"DiskGroupParameter", "RecordParameter", "SnapshotParameter"})
+        expect_exactly(T, {"s2j_array", "c2s_array", "j2s_array", "update", "keyword", "get", "f2s_array", "s2f_array"});
+}
+
+TEST(StorageFunctions, FormatAndRemoveRequestsAreReadButNeverMadeIntoText) {
+    expect_exactly("FormatDiskParameter", {"c2s", "j2s"});
+    expect_exactly("RemoveStorageDeviceParameter", {"c2s", "j2s"});
+}
+
+TEST(StorageFunctions, FormatProgressHasTextFamiliesAndTheSingleKeyReader) {
+    expect_exactly("FormatDiskProgress", {"s2j", "c2s", "j2s", "get"});
+}
+
+TEST(StorageFunctions, SnapshotRequestIsReadFromATreeOnlyAndItsAnswerOnlyMadeIntoText) {
+    expect_exactly("SnapshotInputParameter", {"c2s"});
+    expect_exactly("SnapshotResult", {"s2j"});
+}
+
+// ---- Storage devices and disk groups ------------------------------------------
+
+TEST(StorageDeviceStatus, NameOf64OrMoreCharactersIsReadAsItsFirst63) {
+    StorageDeviceStatus arr[1] = {};
+    std::string json = "[{\"StorageDeviceName\":\"" + chars(70, 'd') + "\",\"Mounted\":1}]";
+    uint32_t n = 1;
+    ASSERT_EQ(j2s_array_StorageDeviceStatus(json.c_str(), arr, &n), 0);
+    EXPECT_EQ(std::string(arr[0].StorageDeviceName), chars(63, 'd'));
+    EXPECT_EQ(arr[0].Mounted, 1);
+}
+
+TEST(StorageDeviceStatus, SingleKeyReaderTruncatesTheNameTheSameWay) {
+    Tree tree(cJSON_CreateObject());
+    cJSON_AddStringToObject(tree.p, "StorageDeviceName", chars(64, 'd').c_str());
+    char name[64];
+    ASSERT_EQ(json_to_struct_GetStorageDeviceStatusKeyword(name, tree.p), 1);
+    EXPECT_EQ(std::string(name), chars(63, 'd'));
+}
+
+TEST(StorageDeviceStatus, SingleKeyReaderRefusesAMissingOrNumericName) {
+    char name[64] = "kept";
+    Tree missing(cJSON_Parse("{\"Mounted\":1}"));
+    EXPECT_EQ(json_to_struct_GetStorageDeviceStatusKeyword(name, missing.p), 0);
+    Tree numeric(cJSON_Parse("{\"StorageDeviceName\":1}"));
+    EXPECT_EQ(json_to_struct_GetStorageDeviceStatusKeyword(name, numeric.p), 0);
+    EXPECT_STREQ(name, "kept");
+}
+
+TEST(StorageDeviceStatus, NameFillingAll64BytesIsEmittedAsExactly64Characters) {
+    StorageDeviceStatus s = {};
+    std::memset(s.StorageDeviceName, 'd', sizeof s.StorageDeviceName);
+    Text text(s2j_array_StorageDeviceStatus(&s, 1, 0));
+    std::string want = "[{\"StorageDeviceName\":\"" + chars(64, 'd') + "\",\"IsPlugged\":0,";
+    EXPECT_EQ(text.str().substr(0, want.size()), want);
+}
+
+TEST(DiskGroupParameter, NameOf64OrMoreCharactersIsReadAsItsFirst63AndItsKeywordLikewise) {
+    std::string json = "{\"StorageDeviceName\":\"" + chars(64, 'g') + "\",\"GroupID\":2}";
+    Tree tree(cJSON_Parse(json.c_str()));
+    DiskGroupParameter r = {};
+    ASSERT_EQ(json_to_struct_DiskGroupParameter(&r, tree.p), 1);
+    EXPECT_EQ(std::string(r.StorageDeviceName), chars(63, 'g'));
+    DiskGroupParameterKeyword kw;
+    ASSERT_EQ(json_to_struct_DiskGroupParameterKeyword(&kw, tree.p), 1);
+    EXPECT_EQ(std::string(kw.StorageDeviceName), chars(63, 'g'));
+    char get[64];
+    ASSERT_EQ(json_to_struct_GetDiskGroupParameterKeyword(get, tree.p), 1);
+    EXPECT_EQ(std::string(get), chars(63, 'g'));
+}
+
+TEST(DiskGroupParameter, NameFillingAll64BytesIsEmittedAsExactly64Characters) {
+    DiskGroupParameter r = {};
+    std::memset(r.StorageDeviceName, 'g', sizeof r.StorageDeviceName);
+    r.GroupID = 3;
+    Text text(s2j_array_DiskGroupParameter(&r, 1, 0));
+    EXPECT_EQ(text.str(), "[{\"StorageDeviceName\":\"" + chars(64, 'g') + "\",\"GroupID\":3}]");
+}
+
+TEST(DiskGroupParameter, KeyedUpdateWithA70CharacterNameMatchesTheDeviceHoldingItsFirst63) {
+    DiskGroupParameter arr[2] = {};
+    std::strcpy(arr[0].StorageDeviceName, "sda");
+    arr[0].GroupID = 1;
+    std::memcpy(arr[1].StorageDeviceName, chars(63, 'g').c_str(), 64);
+    arr[1].GroupID = 1;
+    std::string json = "[{\"StorageDeviceName\":\"" + chars(70, 'g') + "\",\"GroupID\":4}]";
+    uint32_t n = 2;
+    ASSERT_EQ(j2s_array_update_DiskGroupParameter(json.c_str(), arr, &n), 0);
+    EXPECT_EQ(n, 1u);
+    EXPECT_EQ(arr[1].GroupID, 4);
+    EXPECT_EQ(arr[0].GroupID, 1);
+}
+
+TEST(DiskGroupParameter, KeyedUpdateMovesTheNamedDeviceToAnotherGroupAndArrayFilesKeepIt) {
+    DiskGroupParameter arr[3] = {};
+    const char *names[] = {"sda", "sdb", "mmcblk1"};
+    for (int i = 0; i < 3; ++i) {
+        std::strcpy(arr[i].StorageDeviceName, names[i]);
+        arr[i].GroupID = 1;
+    }
+    uint32_t n = 3;
+    ASSERT_EQ(j2s_array_update_DiskGroupParameter("[{\"StorageDeviceName\":\"sdb\",\"GroupID\":-1}]", arr, &n), 0);
+    EXPECT_EQ(n, 1u);
+    EXPECT_EQ(arr[1].GroupID, -1);
+    std::string path = temp_dir() + "/groups.json";
+    ASSERT_EQ(s2f_array_DiskGroupParameter(path.c_str(), arr, 3), 0);
+    DiskGroupParameter back[3] = {};
+    uint32_t m = 3;
+    ASSERT_EQ(f2s_array_DiskGroupParameter(path.c_str(), back, &m), 0);
+    EXPECT_EQ(m, 3u);
+    EXPECT_EQ(std::memcmp(back, arr, sizeof arr), 0);
+}
+
+TEST(DiskGroupParameter, KeyedUpdateOfAnElementWithoutStorageDeviceNameIsRefused) {
+    DiskGroupParameter arr[1] = {};
+    std::strcpy(arr[0].StorageDeviceName, "sda");
+    uint32_t n = 1;
+    StderrCapture err;
+    EXPECT_EQ(j2s_array_update_DiskGroupParameter("[{\"GroupID\":2}]", arr, &n), -2);
+    EXPECT_EQ(err.text(), d(fam("DiskGroupParameter").line.c2s_array_update, "c2s_array_update_DiskGroupParameter",
+                            "The keyword is not contained in an object of the json array!\n"));
+    EXPECT_EQ(arr[0].GroupID, 0);
+    EXPECT_EQ(n, 1u);
+}
+
+TEST(StorageDeviceStatus, CapacitiesAbove2147483647AreEmittedAsPositiveNumbers) {
+    StorageDeviceStatus s = {};
+    std::strcpy(s.StorageDeviceName, "sda");
+    s.TotalCapacity = 4294967295u;
+    s.FreeCapacity = 2147483648u;
+    Text text(s2j_array_StorageDeviceStatus(&s, 1, 0));
+    EXPECT_NE(text.str().find("\"TotalCapacity\":4294967295,\"FreeCapacity\":2147483648,"), std::string::npos)
+        << text.str();
+    StorageDeviceStatus back = {};
+    uint32_t n = 1;
+    ASSERT_EQ(j2s_array_StorageDeviceStatus(text.p, &back, &n), 0);
+    EXPECT_EQ(back.TotalCapacity, 4294967295u);
+    EXPECT_EQ(back.FreeCapacity, 2147483648u);
+}
+
+TEST(FormatDiskProgress, NegativePercentKeepsItsSign) {
+    FormatDiskProgress p = {};
+    std::strcpy(p.StorageDeviceName, "sdb");
+    p.FormatDiskProgressPercent = -1;
+    std::strcpy(p.PartitionName, "sdb1");
+    Text text(s2j_FormatDiskProgress(&p, 0));
+    EXPECT_EQ(text.str(), "{\"StorageDeviceName\":\"sdb\",\"FormatDiskProgressPercent\":-1,\"PartitionName\":\"sdb1\"}");
+    FormatDiskProgress back = {};
+    ASSERT_EQ(j2s_FormatDiskProgress(text.p, &back), 0);
+    EXPECT_EQ(back.FormatDiskProgressPercent, -1);
+}
+
+TEST(DiskGroupParameter, GroupIDOfMinusOneIsEmittedAsMinusOne) {
+    DiskGroupParameter r = {};
+    std::strcpy(r.StorageDeviceName, "sda");
+    r.GroupID = -1;
+    Text text(s2j_array_DiskGroupParameter(&r, 1, 0));
+    EXPECT_EQ(text.str(), "[{\"StorageDeviceName\":\"sda\",\"GroupID\":-1}]");
+}
+
+TEST(FormatDiskProgress, SingleKeyReaderReadsTheDeviceNameOfAProgressReport) {
+    Tree tree(cJSON_Parse("{\"FormatDiskProgressPercent\":40,\"StorageDeviceName\":\"mmcblk1\"}"));
+    char name[64];
+    ASSERT_EQ(json_to_struct_GetFormatDiskProgressKeyword(name, tree.p), 1);
+    EXPECT_STREQ(name, "mmcblk1");
+    Tree none(cJSON_Parse("{\"FormatDiskProgressPercent\":40}"));
+    EXPECT_EQ(json_to_struct_GetFormatDiskProgressKeyword(name, none.p), 0);
+}
+
+TEST(StorageInterface, KeyIsRemovable) {
+    StorageInterface r = {};
+    r.Removable = 1;
+    Tree tree(struct_to_json_StorageInterface(&r));
+    EXPECT_NE(cJSON_GetObjectItemCaseSensitive(tree.p, "Removable"), nullptr);
+    EXPECT_EQ(cJSON_GetObjectItem(tree.p, "Removeable"), nullptr);
+    StorageInterface back = {};
+    Tree in(cJSON_Parse("{\"Removable\":1,\"Expansible\":1}"));
+    ASSERT_EQ(json_to_struct_StorageInterface(&back, in.p), 1);
+    EXPECT_EQ(back.Removable, 1);
+    EXPECT_EQ(back.Expansible, 1);
+    Tree other(cJSON_Parse("{\"Removeable\":0}"));
+    ASSERT_EQ(json_to_struct_StorageInterface(&back, other.p), 1);
+    EXPECT_EQ(back.Removable, 1);
+}
+
+TEST(StorageDevice, KeyIsRemovable) {
+    StorageDevice r = {};
+    r.Removable = 1;
+    Text text(s2j_array_StorageDevice(&r, 1, 0));
+    EXPECT_NE(text.str().find("\"Removable\":1"), std::string::npos);
+    EXPECT_EQ(text.str().find("Removeable"), std::string::npos);
+    StorageDevice back = {};
+    uint32_t n = 1;
+    ASSERT_EQ(j2s_array_StorageDevice("[{\"Removeable\":1}]", &back, &n), 0);
+    EXPECT_EQ(back.Removable, 0);
+    ASSERT_EQ(j2s_array_StorageDevice("[{\"Removable\":1}]", &back, &n), 0);
+    EXPECT_EQ(back.Removable, 1);
+}
+
+TEST(StorageInterface, EmitterAndReaderRoundTripWithoutAnyFamily) {
+    StorageInterface r = {};
+    std::strcpy(r.Name, "USB1");
+    std::strcpy(r.Type, "USB");
+    r.Removable = 1;
+    r.BusBandwidth = 4294967295u;
+    r.BusID = 3;
+    Tree tree(struct_to_json_StorageInterface(&r));
+    StorageInterface back = {};
+    ASSERT_EQ(json_to_struct_StorageInterface(&back, tree.p), 1);
+    EXPECT_EQ(std::memcmp(&back, &r, sizeof r), 0);
+    EXPECT_EQ(cJSON_GetObjectItem(tree.p, "BusBandwidth")->valuedouble, 4294967295.0);
+}
+
+TEST(FormatDiskParameter, ObjectWithOnlyStorageDeviceNameSucceedsAndLeavesTheOtherFieldsAsTheyWere) {
+    FormatDiskParameter r = {};
+    std::strcpy(r.StorageDeviceName, "sda");
+    std::strcpy(r.FileSystemType, "ext4");
+    std::strcpy(r.PartitionName, "sda1");
+    r.QuickFormat = 1;
+    r.AllocationUnitSize = 4096;
+    FormatDiskParameter want = r;
+    std::strcpy(want.StorageDeviceName, "mmcblk1");
+    EXPECT_EQ(j2s_FormatDiskParameter("{\"StorageDeviceName\":\"mmcblk1\"}", &r), 0);
+    EXPECT_EQ(std::memcmp(&r, &want, sizeof r), 0);
+}
+
+TEST(FormatDiskParameter, RequestIsReadFromTreeTextAndTextOfKnownLength) {
+    const char *json = "{\"StorageDeviceName\":\"sdb\",\"FileSystemType\":\"exFAT\",\"PartitionName\":\"sdb1\","
+                       "\"QuickFormat\":0,\"AllocationUnitSize\":131072}";
+    FormatDiskParameter a = {}, b = {}, c = {};
+    Tree tree(cJSON_Parse(json));
+    EXPECT_EQ(c2s_FormatDiskParameter(tree.p, &a), 0);
+    EXPECT_EQ(j2s_FormatDiskParameter(json, &b), 0);
+    EXPECT_EQ(j2s_FormatDiskParameter_with_len(json, std::strlen(json), &c), 0);
+    EXPECT_STREQ(a.FileSystemType, "exFAT");
+    EXPECT_EQ(a.AllocationUnitSize, 131072u);
+    EXPECT_EQ(std::memcmp(&a, &b, sizeof a), 0);
+    EXPECT_EQ(std::memcmp(&a, &c, sizeof a), 0);
+}
+
+TEST(RemoveStorageDeviceParameter, RequestIsReadAndAWrongTypeIsReportedOnTheC2sLine) {
+    RemoveStorageDeviceParameter r = {};
+    EXPECT_EQ(j2s_RemoveStorageDeviceParameter("{\"StorageDeviceName\":\"mmcblk1\"}", &r), 0);
+    EXPECT_STREQ(r.StorageDeviceName, "mmcblk1");
+    StderrCapture err;
+    EXPECT_EQ(j2s_RemoveStorageDeviceParameter("{\"StorageDeviceName\":7}", &r), -1);
+    EXPECT_EQ(err.text(), d(fam("RemoveStorageDeviceParameter").line.c2s, "c2s_RemoveStorageDeviceParameter",
+                            "json_to_struct_RemoveStorageDeviceParameter failed!\n"));
+    EXPECT_STREQ(r.StorageDeviceName, "mmcblk1");
+}
+
+// ---- Recording ---------------------------------------------------------------
+
+TEST(RecordParameter, ScheduleTableOf2048OrMoreCharactersIsReadAsItsFirst2047) {
+    for (size_t len : {2048u, 5000u}) {
+        RecordParameter r = {};
+        Tree tree(cJSON_CreateObject());
+        cJSON_AddStringToObject(tree.p, "ScheduleTable", chars(len, 's').c_str());
+        ASSERT_EQ(json_to_struct_RecordParameter(&r, tree.p), 1);
+        EXPECT_EQ(std::string(r.ScheduleTable), chars(2047, 's'));
+    }
+}
+
+TEST(RecordParameter, ScheduleTableFillingAll2048BytesIsEmittedAsExactly2048Characters) {
+    RecordParameter r = {};
+    std::memset(r.ScheduleTable, 's', sizeof r.ScheduleTable);
+    Text text(s2j_array_RecordParameter(&r, 1, 0));
+    Tree tree(cJSON_Parse(text.p));
+    const cJSON *table = cJSON_GetObjectItem(cJSON_GetArrayItem(tree.p, 0), "ScheduleTable");
+    ASSERT_TRUE(cJSON_IsString(table));
+    EXPECT_EQ(std::string(table->valuestring), chars(2048, 's'));
+    EXPECT_EQ(cJSON_GetObjectItem(cJSON_GetArrayItem(tree.p, 0), "DiskGroupID")->valuedouble, 0.0);
+}
+
+TEST(RecordParameter, DiskGroupIDOfMinusOneIsEmittedAsMinusOne) {
+    RecordParameter r = {};
+    r.DiskGroupID = -1;
+    Text text(s2j_array_RecordParameter(&r, 1, 0));
+    EXPECT_NE(text.str().find("\"DiskGroupID\":-1,"), std::string::npos) << text.str();
+}
+
+TEST(RecordParameter, DiskFullActionAndModeOfAllOnesAreEmittedAs4294967295) {
+    RecordParameter r = {};
+    r.Mode = 4294967295u;
+    r.DiskFullAction = 4294967295u;
+    Text text(s2j_array_RecordParameter(&r, 1, 0));
+    EXPECT_NE(text.str().find("\"Mode\":4294967295,"), std::string::npos) << text.str();
+    EXPECT_NE(text.str().find("\"DiskFullAction\":4294967295}"), std::string::npos) << text.str();
+    RecordParameter back = {};
+    uint32_t n = 1;
+    ASSERT_EQ(j2s_array_RecordParameter(text.p, &back, &n), 0);
+    EXPECT_EQ(back.Mode, 4294967295u);
+    EXPECT_EQ(back.DiskFullAction, 4294967295u);
+}
+
+TEST(RecordParameter, ElementWithoutChannelIsReadButItsKeywordReadersFail) {
+    Tree tree(cJSON_Parse("{\"StreamIndex\":1,\"FileFormat\":\"mp4\"}"));
+    RecordParameter r = {};
+    r.Channel = 5;
+    EXPECT_EQ(json_to_struct_RecordParameter(&r, tree.p), 1);
+    EXPECT_EQ(r.Channel, 5u);
+    EXPECT_EQ(r.StreamIndex, 1u);
+    EXPECT_STREQ(r.FileFormat, "mp4");
+    RecordParameterKeyword kw = {77};
+    EXPECT_EQ(json_to_struct_RecordParameterKeyword(&kw, tree.p), 0);
+    uint32_t channel = 77;
+    EXPECT_EQ(json_to_struct_GetRecordParameterKeyword(&channel, tree.p), 0);
+    EXPECT_EQ(channel, 77u);
+}
+
+TEST(RecordParameter, KeywordReadersRequireAnIntegerChannel) {
+    RecordParameterKeyword kw = {};
+    uint32_t channel = 0;
+    Tree text_channel(cJSON_Parse("{\"Channel\":\"1\"}"));
+    EXPECT_EQ(json_to_struct_RecordParameterKeyword(&kw, text_channel.p), 0);
+    EXPECT_EQ(json_to_struct_GetRecordParameterKeyword(&channel, text_channel.p), 0);
+    Tree fraction(cJSON_Parse("{\"Channel\":1.5}"));
+    EXPECT_EQ(json_to_struct_RecordParameterKeyword(&kw, fraction.p), 0);
+    Tree ok(cJSON_Parse("{\"Channel\":3}"));
+    EXPECT_EQ(json_to_struct_RecordParameterKeyword(&kw, ok.p), 1);
+    EXPECT_EQ(kw.Channel, 3u);
+    EXPECT_EQ(json_to_struct_GetRecordParameterKeyword(&channel, ok.p), 1);
+    EXPECT_EQ(channel, 3u);
+}
+
+TEST(RecordParameter, KeyedUpdateWithoutChannelIsRefusedOnTheUpdateLine) {
+    RecordParameter arr[1] = {};
+    uint32_t n = 1;
+    StderrCapture err;
+    EXPECT_EQ(j2s_array_update_RecordParameter("[{\"StreamIndex\":1}]", arr, &n), -2);
+    EXPECT_EQ(err.text(), d(fam("RecordParameter").line.c2s_array_update, "c2s_array_update_RecordParameter",
+                            "The keyword is not contained in an object of the json array!\n"));
+    EXPECT_EQ(arr[0].StreamIndex, 0u);
+}
+
+TEST(RecordParameter, KeyedUpdateChangesTheChannelNamedAndCountsIt) {
+    RecordParameter arr[3] = {};
+    for (uint32_t i = 0; i < 3; ++i) {
+        arr[i].Channel = i;
+        arr[i].FileDuration = 600;
+    }
+    uint32_t n = 3;
+    ASSERT_EQ(j2s_array_update_RecordParameter("[{\"Channel\":2,\"FileDuration\":1800,\"DiskGroupID\":-1},"
+                                               "{\"Channel\":9,\"FileDuration\":1}]",
+                                               arr, &n),
+              0);
+    EXPECT_EQ(n, 1u);
+    EXPECT_EQ(arr[2].FileDuration, 1800u);
+    EXPECT_EQ(arr[2].DiskGroupID, -1);
+    EXPECT_EQ(arr[0].FileDuration, 600u);
+    EXPECT_EQ(arr[1].FileDuration, 600u);
+}
+
+TEST(RecordStatus, TextIsIdenticalToThatOfASnapshotStatusWithEqualValues) {
+    const uint32_t values[][3] = {{0, 1, 702114}, {4294967295u, 2147483648u, 4294967295u}, {0, 0, 0}};
+    RecordStatus r[3];
+    SnapshotStatus s[3];
+    for (int i = 0; i < 3; ++i) {
+        r[i] = {values[i][0], values[i][1], values[i][2]};
+        s[i] = {values[i][0], values[i][1], values[i][2]};
+    }
+    for (int formatted : {0, 1}) {
+        Text rt(s2j_array_RecordStatus(r, 3, formatted)), st(s2j_array_SnapshotStatus(s, 3, formatted));
+        EXPECT_EQ(rt.str(), st.str());
+    }
+    for (int i = 0; i < 3; ++i) EXPECT_EQ(emitted(struct_to_json_RecordStatus, r[i]), emitted(struct_to_json_SnapshotStatus, s[i]));
+    Text compact(s2j_array_RecordStatus(r + 1, 1, 0));
+    EXPECT_EQ(compact.str(), "[{\"Channel\":4294967295,\"State\":2147483648,\"FreeCapacity\":4294967295}]");
+}
+
+TEST(RecordStatus, SurvivesARoundTripUnchanged) {
+    RecordStatus a[2] = {{0, 1, 702114}, {4294967295u, 4294967295u, 4294967295u}};
+    Text text(s2j_array_RecordStatus(a, 2, 1));
+    RecordStatus b[2] = {};
+    uint32_t n = 2;
+    ASSERT_EQ(j2s_array_RecordStatus(text.p, b, &n), 0);
+    EXPECT_EQ(n, 2u);
+    EXPECT_EQ(std::memcmp(a, b, sizeof a), 0);
+}
+
+TEST(RecordStatus, SingleKeyReaderReadsTheChannel) {
+    Tree tree(cJSON_Parse("{\"State\":1,\"Channel\":4294967295}"));
+    uint32_t channel = 0;
+    ASSERT_EQ(json_to_struct_GetRecordStatusKeyword(&channel, tree.p), 1);
+    EXPECT_EQ(channel, 4294967295u);
+    Tree none(cJSON_Parse("{\"State\":1}"));
+    EXPECT_EQ(json_to_struct_GetRecordStatusKeyword(&channel, none.p), 0);
+    Tree text(cJSON_Parse("{\"Channel\":\"0\"}"));
+    EXPECT_EQ(json_to_struct_GetRecordStatusKeyword(&channel, text.p), 0);
+    EXPECT_EQ(channel, 4294967295u);
+}
+
+TEST(RecordCapabilitySet, TextRoundTripAndLoadingFromAFile) {
+    RecordCapabilitySet c = {};
+    std::strcpy(c.SupportedFileFormatList, "mp4,ts");
+    c.MaxFileDuration = 3600;
+    c.MinFileDuration = 60;
+    c.SupportRecord = -1;
+    Text text(s2j_RecordCapabilitySet(&c, 1));
+    std::string path = temp_dir() + "/record_caps.json";
+    write_file(path, text.p);
+    RecordCapabilitySet back = {};
+    ASSERT_EQ(f2s_RecordCapabilitySet(path.c_str(), &back), 0);
+    EXPECT_EQ(std::memcmp(&back, &c, sizeof c), 0);
+}
+
+// ---- Snapshots ---------------------------------------------------------------
+
+TEST(SnapshotCapabilitySet, ListUnderAnyOtherKeyThanSupportPictrueFormatListIsIgnored) {
+    SnapshotCapabilitySet c = {};
+    std::strcpy(c.SupportPictrueFormatList, "JPEG");
+    uint32_t n = 1;
+    ASSERT_EQ(j2s_array_SnapshotCapabilitySet(
+                  "[{\"SupportPictureFormatList\":\"PNG\",\"SupportPictrueFormat\":\"BMP\",\"MaxWidth\":1920}]", &c, &n),
+              0);
+    EXPECT_STREQ(c.SupportPictrueFormatList, "JPEG");
+    EXPECT_EQ(c.MaxWidth, 1920u);
+    ASSERT_EQ(j2s_array_SnapshotCapabilitySet("[{\"SupportPictrueFormatList\":\"PNG\"}]", &c, &n), 0);
+    EXPECT_STREQ(c.SupportPictrueFormatList, "PNG");
+}
+
+TEST(SnapshotCapabilitySet, EmitterWritesOnlySupportPictrueFormatList) {
+    SnapshotCapabilitySet c = {};
+    std::strcpy(c.SupportPictrueFormatList, "JPEG,PNG");
+    Text text(s2j_array_SnapshotCapabilitySet(&c, 1, 0));
+    EXPECT_EQ(text.str().substr(0, 40), "[{\"SupportPictrueFormatList\":\"JPEG,PNG\",");
+    EXPECT_EQ(text.str().find("Picture"), std::string::npos);
+}
+
+TEST(SnapshotCapabilitySet, FrameratesOfMinusOneAreEmittedAsMinusOne) {
+    SnapshotCapabilitySet c = {};
+    c.MaxFramerate = -1;
+    c.MinFramerate = -1;
+    c.MaxWidth = 4294967295u;
+    Text text(s2j_array_SnapshotCapabilitySet(&c, 1, 0));
+    EXPECT_EQ(text.str(), "[{\"SupportPictrueFormatList\":\"\",\"MaxWidth\":4294967295,\"MaxHeight\":0,\"MinWidth\":0,"
+                          "\"MinHeight\":0,\"MaxFramerate\":-1,\"MinFramerate\":-1,\"SupportSnapshot\":0}]");
+}
+
+TEST(SnapshotParameter, FramerateOfMinusOneAndQualityAndFormatOfAllOnesKeepTheirSigns) {
+    SnapshotParameter p = {};
+    p.Channel = 1;
+    p.Framerate = -1;
+    p.DiskGroupID = -1;
+    p.ImageQuality = 4294967295u;
+    p.PictureFormat = 4294967295u;
+    Text text(s2j_array_SnapshotParameter(&p, 1, 0));
+    EXPECT_NE(text.str().find("\"PictureFormat\":4294967295,"), std::string::npos) << text.str();
+    EXPECT_NE(text.str().find("\"Framerate\":-1,"), std::string::npos) << text.str();
+    EXPECT_NE(text.str().find("\"DiskGroupID\":-1,"), std::string::npos) << text.str();
+    EXPECT_NE(text.str().find("\"ImageQuality\":4294967295}"), std::string::npos) << text.str();
+    SnapshotParameter back = {};
+    uint32_t n = 1;
+    ASSERT_EQ(j2s_array_SnapshotParameter(text.p, &back, &n), 0);
+    EXPECT_EQ(std::memcmp(&back, &p, sizeof p), 0);
+}
+
+TEST(SnapshotResult, RetentionTimeOfMinusOneIsEmittedAsMinusOne) {
+    SnapshotResult r = {};
+    r.Channel = 0;
+    std::strcpy(r.ImageURL, "http://192.168.1.120/snap.jpg");
+    r.ImageRetentionTime = -1;
+    Text text(s2j_SnapshotResult(&r, 0));
+    EXPECT_EQ(text.str(), "{\"Channel\":0,\"ImageURL\":\"http://192.168.1.120/snap.jpg\",\"ImageRetentionTime\":-1}");
+}
+
+TEST(SnapshotResult, ImageURLOf256CharactersWithoutNulIsEmittedWholeAndReadBackAsItsFirst255) {
+    SnapshotResult r = {};
+    std::memset(r.ImageURL, 'u', sizeof r.ImageURL);
+    r.ImageRetentionTime = 60;
+    Text text(s2j_SnapshotResult(&r, 0));
+    EXPECT_EQ(text.str(), "{\"Channel\":0,\"ImageURL\":\"" + chars(256, 'u') + "\",\"ImageRetentionTime\":60}");
+    Tree tree(cJSON_Parse(text.p));
+    SnapshotResult back = {};
+    ASSERT_EQ(json_to_struct_SnapshotResult(&back, tree.p), 1);
+    EXPECT_EQ(std::string(back.ImageURL), chars(255, 'u'));
+    EXPECT_EQ(back.ImageRetentionTime, 60);
+}
+
+TEST(SnapshotResult, S2jReportsANullRecordOnItsLine) {
+    StderrCapture err;
+    EXPECT_EQ(s2j_SnapshotResult(nullptr, 1), nullptr);
+    EXPECT_EQ(err.text(), d(fam("SnapshotResult").line.s2j, "s2j_SnapshotResult", "struct_ptr is empty!\n"));
+}
+
+TEST(SnapshotInputParameter, RequestIsReadFromATree) {
+    Tree tree(cJSON_Parse("{\"Channel\":1,\"PictureFormat\":0,\"PictureWidth\":1920,\"PictureHeight\":1080}"));
+    SnapshotInputParameter r = {9, 9, 9, 9};
+    ASSERT_EQ(c2s_SnapshotInputParameter(tree.p, &r), 0);
+    EXPECT_EQ(r.Channel, 1u);
+    EXPECT_EQ(r.PictureFormat, 0u);
+    EXPECT_EQ(r.PictureWidth, 1920u);
+    EXPECT_EQ(r.PictureHeight, 1080u);
+}
+
+TEST(SnapshotInputParameter, C2sReportsANullRecordAfterCheckingTheTree) {
+    Tree tree(cJSON_Parse("{\"Channel\":1}"));
+    StderrCapture err;
+    EXPECT_EQ(c2s_SnapshotInputParameter(tree.p, nullptr), -2);
+    EXPECT_EQ(err.text(), d(fam("SnapshotInputParameter").line.c2s, "c2s_SnapshotInputParameter", "struct_ptr is empty!\n"));
+}
+
+TEST(SnapshotParameter, KeyedUpdateMatchesTheChannelAndArrayFilesKeepTheSettings) {
+    SnapshotParameter arr[2] = {};
+    arr[0].Channel = 0;
+    arr[0].ImageQuality = 80;
+    arr[1].Channel = 1;
+    arr[1].ImageQuality = 80;
+    uint32_t n = 2;
+    ASSERT_EQ(j2s_array_update_SnapshotParameter("[{\"Channel\":1,\"ImageQuality\":95,\"FilePath\":\"/mnt/disk0/snap\"}]",
+                                                 arr, &n),
+              0);
+    EXPECT_EQ(n, 1u);
+    EXPECT_EQ(arr[1].ImageQuality, 95u);
+    EXPECT_EQ(arr[0].ImageQuality, 80u);
+    std::string path = temp_dir() + "/snap.json";
+    ASSERT_EQ(s2f_array_SnapshotParameter(path.c_str(), arr, 2), 0);
+    SnapshotParameter back[2] = {};
+    uint32_t m = 2;
+    ASSERT_EQ(f2s_array_SnapshotParameter(path.c_str(), back, &m), 0);
+    EXPECT_EQ(std::memcmp(back, arr, sizeof arr), 0);
+}
+
+TEST(SnapshotStatus, SingleKeyReaderReadsTheChannel) {
+    Tree tree(cJSON_Parse("{\"Channel\":2,\"State\":0}"));
+    uint32_t channel = 0;
+    ASSERT_EQ(json_to_struct_GetSnapshotStatusKeyword(&channel, tree.p), 1);
+    EXPECT_EQ(channel, 2u);
+    Tree none(cJSON_Parse("{\"State\":0}"));
+    EXPECT_EQ(json_to_struct_GetSnapshotStatusKeyword(&channel, none.p), 0);
+}
+
+TEST(SnapshotParameter, KeywordReadersReadTheChannelAndRefuseAnElementWithoutIt) {
+    Tree tree(cJSON_Parse("{\"ImageQuality\":90,\"Channel\":7}"));
+    SnapshotParameterKeyword kw = {};
+    ASSERT_EQ(json_to_struct_SnapshotParameterKeyword(&kw, tree.p), 1);
+    EXPECT_EQ(kw.Channel, 7u);
+    uint32_t channel = 0;
+    ASSERT_EQ(json_to_struct_GetSnapshotParameterKeyword(&channel, tree.p), 1);
+    EXPECT_EQ(channel, 7u);
+    Tree none(cJSON_Parse("{\"ImageQuality\":90}"));
+    EXPECT_EQ(json_to_struct_SnapshotParameterKeyword(&kw, none.p), 0);
+    EXPECT_EQ(json_to_struct_GetSnapshotParameterKeyword(&channel, none.p), 0);
+}
+
+}  // namespace
