@@ -77,6 +77,22 @@ TEST(FieldCodecs, ValuesBeyondTwoToThe53AreReadExactly) {
     EXPECT_EQ(t.Minute, 0u);
 }
 
+TEST(FieldCodecs, Reading70000IntoA16BitFieldStores4464AndEmits4464) {
+    NetworkLANParameter lan = {};
+    Tree in(cJSON_Parse("{\"MTUSize\": 70000}"));
+    ASSERT_EQ(json_to_struct_NetworkLANParameter(&lan, in.p), 1);
+    EXPECT_EQ(lan.MTUSize, 4464);
+    Tree out(struct_to_json_NetworkLANParameter(&lan));
+    const cJSON *m = cJSON_GetObjectItem(out.p, "MTUSize");
+    ASSERT_TRUE(cJSON_IsInt(m));
+    EXPECT_EQ(Text(cJSON_PrintUnformatted(m)).str(), "4464");
+    Tree minus(cJSON_Parse("{\"MTUSize\": -1}"));
+    ASSERT_EQ(json_to_struct_NetworkLANParameter(&lan, minus.p), 1);
+    EXPECT_EQ(lan.MTUSize, 65535);
+    Tree back(struct_to_json_NetworkLANParameter(&lan));
+    EXPECT_EQ(Text(cJSON_PrintUnformatted(cJSON_GetObjectItem(back.p, "MTUSize"))).str(), "65535");
+}
+
 TEST(FieldCodecs, ThirdFieldOfWrongTypeLeavesFirstTwoWrittenAndLaterOnesUntouched) {
     DeviceTime t = {};
     t.Month = 77;

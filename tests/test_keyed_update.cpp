@@ -5,6 +5,7 @@
 #include <string>
 
 #include "app_s2j.h"
+#include "registry.h"
 #include "support.h"
 
 using namespace testing_support;
@@ -198,6 +199,72 @@ TEST(KeyedUpdate, WithLenReadsOnlyTheGivenBytes) {
     EXPECT_EQ(n, 1u);
     EXPECT_EQ(a.t[1].Enable, 8);
     EXPECT_EQ(a.t[2].Enable, 0);
+}
+
+TEST(KeyedUpdate, StringKeyOf70CharactersMatchesTheRecordHoldingItsFirst63) {
+    NetworkLANParameter lan[2] = {};
+    std::strcpy(lan[0].InterfaceName, "eth0");
+    std::memset(lan[1].InterfaceName, 'n', 63);
+    uint32_t n = 2;
+    std::string text = "[{\"InterfaceName\": \"" + std::string(70, 'n') + "\", \"MTUSize\": 1400}]";
+    EXPECT_EQ(j2s_array_update_NetworkLANParameter(text.c_str(), lan, &n), 0);
+    EXPECT_EQ(n, 1u);
+    EXPECT_EQ(lan[1].MTUSize, 1400);
+    EXPECT_EQ(std::string(lan[1].InterfaceName), std::string(63, 'n'));
+    EXPECT_EQ(lan[0].MTUSize, 0);
+}
+
+TEST(KeyedUpdate, StringKeysAreComparedWithLetterCase) {
+    NetworkLANParameter lan[1] = {};
+    std::strcpy(lan[0].InterfaceName, "eth0");
+    uint32_t n = 1;
+    EXPECT_EQ(j2s_array_update_NetworkLANParameter("[{\"InterfaceName\": \"ETH0\", \"MTUSize\": 1400}]", lan, &n), 0);
+    EXPECT_EQ(n, 0u);
+    EXPECT_EQ(lan[0].MTUSize, 0);
+}
+
+TEST(KeyedUpdate, TwoFieldKeyWithMatchingChannelButOtherStreamIndexIsSkipped) {
+    VideoEncodeParameter enc[2] = {};
+    enc[0].Channel = 1;
+    enc[0].StreamIndex = 0;
+    enc[1].Channel = 1;
+    enc[1].StreamIndex = 1;
+    uint32_t n = 2;
+    EXPECT_EQ(j2s_array_update_VideoEncodeParameter("[{\"Channel\": 1, \"StreamIndex\": 2, \"GOP\": 50}, "
+                                                    "{\"Channel\": 1, \"StreamIndex\": 1, \"GOP\": 25}]",
+                                                    enc, &n),
+              0);
+    EXPECT_EQ(n, 1u);
+    EXPECT_EQ(enc[0].GOP, 0u);
+    EXPECT_EQ(enc[1].GOP, 25u);
+}
+
+TEST(KeyedUpdate, TwoFieldKeyNeedsBothKeysInEveryElement) {
+    VideoEncodeParameter enc[1] = {};
+    uint32_t n = 1;
+    StderrCapture err;
+    EXPECT_EQ(j2s_array_update_VideoEncodeParameter("[{\"Channel\": 0, \"GOP\": 50}]", enc, &n), -2);
+    EXPECT_EQ(err.text(), diag(text_list_file(), s2j::find_type("VideoEncodeParameter")->fam.line.c2s_array_update,
+                               "c2s_array_update_VideoEncodeParameter",
+                               "The keyword is not contained in an object of the json array!\n"));
+    EXPECT_EQ(n, 1u);
+}
+
+TEST(KeyedUpdate, StringThenIntegerKeyMatchesOnlyWhenBoth) {
+    VideoOutputScreenSplitParameter split[2] = {};
+    std::strcpy(split[0].InterfaceName, "HDMI-OUT1");
+    split[0].UserDefinedScreenSplitModeIndex = 1;
+    std::strcpy(split[1].InterfaceName, "HDMI-OUT1");
+    split[1].UserDefinedScreenSplitModeIndex = 2;
+    uint32_t n = 2;
+    Text text(s2j_array_VideoOutputScreenSplitParameter(&split[1], 1, 0));
+    EXPECT_EQ(j2s_array_update_VideoOutputScreenSplitParameter(text.p, split, &n), 0);
+    EXPECT_EQ(n, 1u);
+    std::string other = std::string(text.p);
+    other.replace(other.find("HDMI-OUT1"), 9, "HDMI-OUT2");
+    n = 2;
+    EXPECT_EQ(j2s_array_update_VideoOutputScreenSplitParameter(other.c_str(), split, &n), 0);
+    EXPECT_EQ(n, 0u);
 }
 
 TEST(KeywordReaders, KeywordReaderReadsTheKeyAndFailsWithoutIt) {
