@@ -3,6 +3,13 @@
 # skipping the package manager when everything is already there.
 set -euo pipefail
 packages=(cmake make gcc g++ pkg-config binutils libcjson-dev libgtest-dev)
+# Extra tools: --fuzz (libFuzzer with clang), --valgrind (memory checking).
+for arg in "$@"; do
+  case "$arg" in
+    --fuzz) packages+=(clang-14 libclang-rt-14-dev) ;;
+    --valgrind) packages+=(valgrind) ;;
+  esac
+done
 missing=()
 for p in "${packages[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")

@@ -26,10 +26,16 @@ char *print(const cJSON *tree, int formatted) {
 
 // cJSON's parse-error position is process-wide: read it right after the
 // failed parse.  It is never null after a failed parse of non-null text, but
-// a null is printed as "" rather than handed to printf.
-const char *parse_error() {
+// a null is printed as "" rather than handed to printf.  Another thread's
+// failed parse may have replaced it in between; a position outside this
+// call's own text would then point into that thread's buffer, perhaps freed
+// already, so it is printed as "" too.  In one thread it always lies within
+// the text (at most at its end).
+const char *parse_error(const char *text, size_t len) {
     const char *e = cJSON_GetErrorPtr();
-    return e != nullptr ? e : "";
+    const uintptr_t at = reinterpret_cast<uintptr_t>(e), begin = reinterpret_cast<uintptr_t>(text);
+    if (e == nullptr || at < begin || at - begin > len) return "";
+    return e;
 }
 
 // Parses json_str (nul-terminated, or len bytes with_len) into a marked tree;
@@ -39,9 +45,9 @@ cJSON *parse(const Site *s, const char *json_str, size_t len, bool with_len, con
     cJSON *tree = parse_marked(json_str, len, with_len);
     if (tree != nullptr) return tree;
     if (with_len)
-        diag(s, S2J_MSG_PARSE_LEN_FAILED, json_str, len, parse_error());
+        diag(s, S2J_MSG_PARSE_LEN_FAILED, json_str, len, parse_error(json_str, len));
     else
-        diag(s, msg, json_str, parse_error());
+        diag(s, msg, json_str, parse_error(json_str, std::strlen(json_str)));
     return nullptr;
 }
 

@@ -91,7 +91,11 @@ bool is_number_char(char c) {
 }
 
 // Finds the next number literal at or after p, skipping strings (and so keys)
-// as cJSON does.  cJSON reads at most 63 characters of a number; so does this.
+// as cJSON does.  The literal is the whole run of number characters: the
+// packaged cJSON reads a number of any length, and where a parser reads
+// fewer characters the rest fails the parse inside a container and ends the
+// text at the top level, so taking the whole run never moves a later literal
+// onto the wrong item (a cap at 63 did, for a longer number before it).
 bool next_number(const char *&p, const char *end, const char **start, size_t *len) {
     while (p < end) {
         char c = *p;
@@ -104,7 +108,7 @@ bool next_number(const char *&p, const char *end, const char **start, size_t *le
         if (c == '-' || (c >= '0' && c <= '9')) {
             *start = p;
             size_t n = 0;
-            while (p < end && n < 63 && is_number_char(*p)) {
+            while (p < end && is_number_char(*p)) {
                 ++p;
                 ++n;
             }
