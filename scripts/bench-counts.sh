@@ -4,12 +4,13 @@
 # of the library, the floor (cJSON alone) and the peer (hand-written cJSON
 # code), side by side, as a Markdown table on stdout.
 #   scripts/bench-counts.sh [repetitions]     (default 10; counts are per call)
-# Builds the release configuration with the benchmarks in build-bench/.
+# Builds the release configuration (-O2) with the benchmarks in build-bench/.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 reps="${1:-10}"
 scripts/setup.sh --bench >&2
 cmake -S . -B build-bench -DCMAKE_BUILD_TYPE=Release -DAPP_S2J_BENCH=ON \
+      -DCMAKE_C_FLAGS_RELEASE="-O2 -DNDEBUG" -DCMAKE_CXX_FLAGS_RELEASE="-O2 -DNDEBUG" \
       -DAPP_S2J_TESTS=OFF -DAPP_S2J_TOOLS=OFF >/dev/null
 cmake --build build-bench -j2 --target s2j_counts >&2
 out="$(mktemp -d)"
