@@ -3,26 +3,31 @@
 // deterministic counts come from scripts/bench-counts.sh.
 #include <benchmark/benchmark.h>
 
-#include <cstdio>
+#include <cstdlib>
 #include <string>
 
 #include "workloads.h"
 
-int main(int argc, char **argv) {
-    if (!bench::prepare()) return 1;
-    size_t n = 0;
-    const bench::Op *ops = bench::ops(&n);
-    for (size_t i = 0; i < n; ++i) {
-        const bench::Op *op = &ops[i];
-        std::string name = std::string(op->workload) + "/" + op->call + "/" + op->side;
-        benchmark::RegisterBenchmark(name.c_str(), [op](benchmark::State &state) {
-            for (auto _ : state) op->run();
-        });
+namespace {
+
+// Prepares the workloads and registers one benchmark per operation before
+// the benchmark library's main runs them.
+struct Registration {
+    Registration() {
+        if (!bench::prepare()) std::exit(1);
+        std::atexit(bench::release);
+        size_t n = 0;
+        const bench::Op *ops = bench::ops(&n);
+        for (size_t i = 0; i < n; ++i) {
+            const bench::Op *op = &ops[i];
+            std::string name = std::string(op->workload) + "/" + op->call + "/" + op->side;
+            benchmark::RegisterBenchmark(name.c_str(), [op](benchmark::State &state) {
+                for (auto _ : state) op->run();
+            });
+        }
     }
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    bench::release();
-    return 0;
-}
+} registration;
+
+}  // namespace
+
+BENCHMARK_MAIN();

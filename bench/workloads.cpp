@@ -125,8 +125,10 @@ VideoEncodeParameter encoders[kN];
 CrontabParameter tasks[kN];
 NetworkLANParameter lans[kN];
 
-// Texts and trees the read side works on, made once.
-std::string device_time_text, watermark_text, encoders_text, update_text, lans_file;
+// Texts and trees the read side works on, made once (plain pointers, so that
+// they are ready before any constructor runs: the timing driver prepares the
+// workloads from one).
+char *device_time_text, *watermark_text, *encoders_text, *update_text;
 cJSON *device_time_tree, *watermark_tree, *encoders_tree;
 
 // Destinations (reset by nobody: every read overwrites the same fields).
@@ -251,11 +253,7 @@ std::string take(char *text) {
 
 // ---- File workload ------------------------------------------------------------
 
-std::string file_path() {
-    const char *dir = std::getenv("TMPDIR");
-    return std::string(dir != nullptr ? dir : "/tmp") + "/app_s2j_bench_lan.json";
-}
-std::string lan_path;
+char lan_path[512];
 
 int write_file(const char *path, const char *text) {
     if (text == nullptr) return -15;
@@ -311,8 +309,8 @@ void keep_text(char *t) {
     keep(t != nullptr ? static_cast<intptr_t>(std::strlen(t)) : -1);
     std::free(t);
 }
-void parse_delete(const std::string &text) {
-    cJSON *t = cJSON_Parse(text.c_str());
+void parse_delete(const char *text) {
+    cJSON *t = cJSON_Parse(text);
     keep(t != nullptr);
     cJSON_Delete(t);
 }
@@ -327,10 +325,10 @@ const Op kOps[] = {
     OP("DeviceTime", "s2j_formatted", "lib", keep_text(s2j_DeviceTime(&device_time, 1))),
     OP("DeviceTime", "s2j_formatted", "floor", keep_text(print(floor_emit(&device_time), true))),
     OP("DeviceTime", "s2j_formatted", "peer", keep_text(print(peer_emit(&device_time), true))),
-    OP("DeviceTime", "j2s", "lib", keep(j2s_DeviceTime(device_time_text.c_str(), &device_time_out))),
+    OP("DeviceTime", "j2s", "lib", keep(j2s_DeviceTime(device_time_text, &device_time_out))),
     OP("DeviceTime", "j2s", "floor", parse_delete(device_time_text)),
     OP("DeviceTime", "j2s", "peer", {
-        cJSON *t = cJSON_Parse(device_time_text.c_str());
+        cJSON *t = cJSON_Parse(device_time_text);
         keep(peer_read(&device_time_out, t));
         cJSON_Delete(t);
     }),
@@ -346,11 +344,11 @@ const Op kOps[] = {
     OP("WatermarkOSD", "s2j_formatted", "peer", keep_text(print(emit_array(peer_emit, &watermark, 1), true))),
     OP("WatermarkOSD", "j2s", "lib", {
         uint32_t n = 1;
-        keep(j2s_array_WatermarkOSDParameter(watermark_text.c_str(), watermark_out, &n));
+        keep(j2s_array_WatermarkOSDParameter(watermark_text, watermark_out, &n));
     }),
     OP("WatermarkOSD", "j2s", "floor", parse_delete(watermark_text)),
     OP("WatermarkOSD", "j2s", "peer", {
-        cJSON *t = cJSON_Parse(watermark_text.c_str());
+        cJSON *t = cJSON_Parse(watermark_text);
         keep(read_array(peer_read, watermark_out, 1, t));
         cJSON_Delete(t);
     }),
@@ -369,11 +367,11 @@ const Op kOps[] = {
     OP("VideoEncode64", "s2j_formatted", "peer", keep_text(print(emit_array(peer_emit, encoders, kN), true))),
     OP("VideoEncode64", "j2s", "lib", {
         uint32_t n = kN;
-        keep(j2s_array_VideoEncodeParameter(encoders_text.c_str(), encoders_out, &n));
+        keep(j2s_array_VideoEncodeParameter(encoders_text, encoders_out, &n));
     }),
     OP("VideoEncode64", "j2s", "floor", parse_delete(encoders_text)),
     OP("VideoEncode64", "j2s", "peer", {
-        cJSON *t = cJSON_Parse(encoders_text.c_str());
+        cJSON *t = cJSON_Parse(encoders_text);
         keep(read_array(peer_read, encoders_out, kN, t));
         cJSON_Delete(t);
     }),
@@ -386,28 +384,28 @@ const Op kOps[] = {
     // A keyed update of 4 elements into 64.
     OP("CrontabUpdate4of64", "update", "lib", {
         uint32_t n = kN;
-        keep(j2s_array_update_CrontabParameter(update_text.c_str(), tasks_out, &n));
+        keep(j2s_array_update_CrontabParameter(update_text, tasks_out, &n));
     }),
     OP("CrontabUpdate4of64", "update", "floor", parse_delete(update_text)),
-    OP("CrontabUpdate4of64", "update", "peer", keep(peer_update(update_text.c_str(), tasks_out, kN))),
+    OP("CrontabUpdate4of64", "update", "peer", keep(peer_update(update_text, tasks_out, kN))),
 
     // A file save and load of 64 records.
-    OP("NetworkLAN64File", "save", "lib", keep(s2f_array_NetworkLANParameter(lan_path.c_str(), lans, kN))),
-    OP("NetworkLAN64File", "save", "floor", keep(write_file(lan_path.c_str(), print(emit_array(floor_emit, lans, kN), true)) + 0)),
-    OP("NetworkLAN64File", "save", "peer", keep(write_file(lan_path.c_str(), print(emit_array(peer_emit, lans, kN), true)) + 0)),
+    OP("NetworkLAN64File", "save", "lib", keep(s2f_array_NetworkLANParameter(lan_path, lans, kN))),
+    OP("NetworkLAN64File", "save", "floor", keep(write_file(lan_path, print(emit_array(floor_emit, lans, kN), true)) + 0)),
+    OP("NetworkLAN64File", "save", "peer", keep(write_file(lan_path, print(emit_array(peer_emit, lans, kN), true)) + 0)),
     OP("NetworkLAN64File", "load", "lib", {
         uint32_t n = kN;
-        keep(f2s_array_NetworkLANParameter(lan_path.c_str(), lans_out, &n));
+        keep(f2s_array_NetworkLANParameter(lan_path, lans_out, &n));
     }),
     OP("NetworkLAN64File", "load", "floor", {
-        char *text = read_file(lan_path.c_str());
+        char *text = read_file(lan_path);
         cJSON *t = cJSON_Parse(text);
         keep(t != nullptr);
         cJSON_Delete(t);
         std::free(text);
     }),
     OP("NetworkLAN64File", "load", "peer", {
-        char *text = read_file(lan_path.c_str());
+        char *text = read_file(lan_path);
         cJSON *t = cJSON_Parse(text);
         keep(read_array(peer_read, lans_out, kN, t));
         cJSON_Delete(t);
@@ -452,7 +450,8 @@ bool outputs_agree(const char *what, char *lib, cJSON *(*floor)(const T *), cJSO
 
 bool prepare() {
     make_values();
-    lan_path = file_path();
+    const char *dir = std::getenv("TMPDIR");
+    std::snprintf(lan_path, sizeof lan_path, "%s/app_s2j_bench_lan.json", dir != nullptr ? dir : "/tmp");
     bool ok = true;
     for (int formatted = 0; formatted < 2; ++formatted) {
         ok &= outputs_agree("DeviceTime s2j", s2j_DeviceTime(&device_time, formatted), floor_emit, peer_emit,
@@ -463,12 +462,12 @@ bool prepare() {
                             floor_emit, peer_emit, encoders, kN, formatted, false);
     }
     // The read side works on the library's own compact texts.
-    device_time_text = take(s2j_DeviceTime(&device_time, 0));
-    watermark_text = take(s2j_array_WatermarkOSDParameter(&watermark, 1, 0));
-    encoders_text = take(s2j_array_VideoEncodeParameter(encoders, kN, 0));
-    device_time_tree = cJSON_Parse(device_time_text.c_str());
-    watermark_tree = cJSON_Parse(watermark_text.c_str());
-    encoders_tree = cJSON_Parse(encoders_text.c_str());
+    device_time_text = s2j_DeviceTime(&device_time, 0);
+    watermark_text = s2j_array_WatermarkOSDParameter(&watermark, 1, 0);
+    encoders_text = s2j_array_VideoEncodeParameter(encoders, kN, 0);
+    device_time_tree = cJSON_Parse(device_time_text);
+    watermark_tree = cJSON_Parse(watermark_text);
+    encoders_tree = cJSON_Parse(encoders_text);
 
     // Four elements of a request: new schedules for tasks 5, 17, 33 and 60.
     CrontabParameter changes[4];
@@ -479,20 +478,20 @@ bool prepare() {
         set(changes[i].Minute, std::to_string(7 * i));
         set(changes[i].Command, "/usr/bin/snapshot --channel " + std::to_string(i + 1));
     }
-    update_text = take(s2j_array_CrontabParameter(changes, 4, 0));
+    update_text = s2j_array_CrontabParameter(changes, 4, 0);
 
     // Each read side must give the same records.
     DeviceTime dt_peer{};
     device_time_out = {};
-    cJSON *t = cJSON_Parse(device_time_text.c_str());
+    cJSON *t = cJSON_Parse(device_time_text);
     peer_read(&dt_peer, t);
     cJSON_Delete(t);
-    ok &= j2s_DeviceTime(device_time_text.c_str(), &device_time_out) == 0;
+    ok &= j2s_DeviceTime(device_time_text, &device_time_out) == 0;
     ok &= same_records("DeviceTime j2s", &device_time_out, &dt_peer, 1) &&
           same_records("DeviceTime values", &device_time_out, &device_time, 1);
 
     uint32_t n = kN;
-    ok &= j2s_array_VideoEncodeParameter(encoders_text.c_str(), encoders_out, &n) == 0 && n == kN;
+    ok &= j2s_array_VideoEncodeParameter(encoders_text, encoders_out, &n) == 0 && n == kN;
     ok &= same_records("VideoEncode64 j2s", encoders_out, encoders, kN);
     std::memset(encoders_out, 0, sizeof encoders_out);
     ok &= read_array(peer_read, encoders_out, kN, encoders_tree) == static_cast<int>(kN);
@@ -506,27 +505,28 @@ bool prepare() {
     std::memcpy(tasks_out, tasks, sizeof tasks);
     std::memcpy(peer_tasks, tasks, sizeof tasks);
     n = kN;
-    ok &= j2s_array_update_CrontabParameter(update_text.c_str(), tasks_out, &n) == 0 && n == 4;
-    ok &= peer_update(update_text.c_str(), peer_tasks, kN) == 4;
+    ok &= j2s_array_update_CrontabParameter(update_text, tasks_out, &n) == 0 && n == 4;
+    ok &= peer_update(update_text, peer_tasks, kN) == 4;
     // Bytes after a string's NUL may differ (strncpy pads, the library does
     // not): compare what the records say.
     ok &= agree("CrontabUpdate4of64", take(s2j_array_CrontabParameter(tasks_out, kN, 0)),
                 take(s2j_array_CrontabParameter(peer_tasks, kN, 0)));
 
-    ok &= s2f_array_NetworkLANParameter(lan_path.c_str(), lans, kN) == 0;
+    ok &= s2f_array_NetworkLANParameter(lan_path, lans, kN) == 0;
     n = kN;
-    ok &= f2s_array_NetworkLANParameter(lan_path.c_str(), lans_out, &n) == 0 && n == kN;
+    ok &= f2s_array_NetworkLANParameter(lan_path, lans_out, &n) == 0 && n == kN;
     ok &= same_records("NetworkLAN64File", lans_out, lans, kN);
-    char *lib_file = read_file(lan_path.c_str());
+    char *lib_file = read_file(lan_path);
     ok &= agree("NetworkLAN64File save", take(lib_file), take(print(emit_array(peer_emit, lans, kN), true)));
     return ok;
 }
 
 void release() {
+    for (char *text : {device_time_text, watermark_text, encoders_text, update_text}) std::free(text);
     cJSON_Delete(device_time_tree);
     cJSON_Delete(watermark_tree);
     cJSON_Delete(encoders_tree);
-    std::remove(lan_path.c_str());
+    std::remove(lan_path);
 }
 
 }  // namespace bench

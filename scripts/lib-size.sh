@@ -21,7 +21,11 @@ echo "| section | bytes |"
 echo "|---|--:|"
 size -A "$stripped" | awk 'NR > 2 && $2 > 0 && $1 != "Total" { printf "| %s | %d |\n", $1, $2 }'
 echo
-echo "Largest symbols (bytes, kind: t code, r read-only data, d relocated read-only data):"
-nm -S --size-sort -C "$lib" | tail -12 | awk '{ printf "  %6d %s %s\n", strtonum("0x" $2), $3, substr($0, index($0, $4)) }'
+echo "Largest symbols (bytes, kind: t code, r read-only data, d read-only data that is relocated):"
+nm -S -t d --size-sort -C "$lib" | tail -12 | while read -r _ size kind name; do
+  printf '  %6d %s %s\n' "$((10#$size))" "$kind" "$name"
+done
 echo
-echo "Code by kind: $(nm -S -C "$lib" | awk '$3 ~ /[tT]/ { n++; b += strtonum("0x" $2) } END { print n " functions, " b " bytes" }')"
+nm -S -t d -C "$lib" | awk '{ k = tolower($3); n[k]++; b[k] += $2 }
+  END { printf "By kind: code %d symbols, %d bytes; relocated data %d, %d bytes; read-only data %d, %d bytes\n",
+        n["t"], b["t"], n["d"], b["d"], n["r"], b["r"] }'
