@@ -20,3 +20,17 @@ if [ ${#missing[@]} -gt 0 ]; then
   apt-get update -qq
   apt-get install -y -qq --no-install-recommends "${missing[@]}"
 fi
+
+# scripts/setup.sh --bench: also what the benchmarks and their counts need.
+if [ "${1:-}" = "--bench" ]; then
+  bench_missing=()
+  for p in libbenchmark-dev valgrind; do
+    dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || bench_missing+=("$p")
+  done
+  if [ ${#bench_missing[@]} -gt 0 ]; then
+    echo "setup: installing ${bench_missing[*]}"
+    export DEBIAN_FRONTEND=noninteractive
+    apt-get update -qq
+    apt-get install -y -qq --no-install-recommends "${bench_missing[@]}"
+  fi
+fi

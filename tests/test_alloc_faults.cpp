@@ -46,6 +46,7 @@ struct FaultState {
     bool fired = false;
     const void *failed_caller = nullptr;
     size_t failed_size = 0;
+    const void *callers[4096] = {};  // who asked, by allocation, for the first ones
 };
 FaultState g;
 
@@ -80,6 +81,7 @@ void untrack(void *p) {
 bool should_fail(const void *caller, size_t size) {
     if (!g.armed) return false;
     ++g.count;
+    if (g.count <= 4096) g.callers[g.count - 1] = caller;
     if (g.count != g.fail_at) return false;
     g.fired = true;
     g.failed_caller = caller;
@@ -144,6 +146,7 @@ struct FaultRun {
     Owner owner;
     size_t failed_size;
     long live;  // blocks allocated during the call and still held
+    bool first_of_library;  // the failed one was the library's first allocation of the call
 };
 
 // Runs f with the fail_at-th allocation failing (0: none fails).  f must not
@@ -165,7 +168,11 @@ FaultRun under_fault(long fail_at, F f) {
     close(saved);
     close(null_fd);
     EXPECT_FALSE(g_live_overflow);
-    return FaultRun{g.count, g.fired, g.fired ? owner_of(g.failed_caller) : Owner::Other, g.failed_size, g_live_count};
+    bool first_of_library = g.fired && g.fail_at <= 4096 && owner_of(g.failed_caller) == Owner::Library;
+    for (long i = 0; first_of_library && i + 1 < g.fail_at; ++i)
+        if (owner_of(g.callers[i]) == Owner::Library) first_of_library = false;
+    return FaultRun{g.count,       g.fired, g.fired ? owner_of(g.failed_caller) : Owner::Other, g.failed_size,
+                    g_live_count, first_of_library};
 }
 
 // ---- Records and texts ---------------------------------------------------
@@ -253,8 +260,17 @@ int members(const cJSON *tree) {
 
 // A text made under a fault: null, or the reference with what failed left
 // out.  A failed copy of an unterminated string costs exactly one member.
-void expect_partial_text(const FaultRun &r, const char *text, const std::string &reference, const std::string &what) {
+// The one allocation whose loss costs nothing is the library's first of the
+// call for a type with integers: the buffer of their decimal texts for a
+// tree that is only printed, without which the record is emitted in the
+// caller's tree form, giving the same text.
+void expect_partial_text(const FaultRun &r, const TypeInfo *t, const char *text, const std::string &reference,
+                         const std::string &what) {
     SCOPED_TRACE(what + ", allocation " + std::to_string(r.allocations));
+    if (r.owner == Owner::Library && r.first_of_library && t->desc->int_text_bytes > 0 && text != nullptr) {
+        Tree whole(cJSON_Parse(text));
+        if (whole.p != nullptr && print_plain(whole.p) == reference) return;
+    }
     if (r.owner == Owner::Library) {
         ASSERT_NE(text, nullptr) << "a failed string copy must not lose the record";
     }
@@ -346,7 +362,7 @@ TEST_P(TextWriters, s2j_and_s2j_array_lose_members_or_return_null_and_leak_nothi
                 EXPECT_EQ(std::string(text), ref);
                 break;
             }
-            expect_partial_text(r, text, ref, "s2j");
+            expect_partial_text(r, t, text, ref, "s2j");
             ++checked;
         }
     }
@@ -361,7 +377,7 @@ TEST_P(TextWriters, s2j_and_s2j_array_lose_members_or_return_null_and_leak_nothi
                 EXPECT_EQ(std::string(text), ref);
                 break;
             }
-            expect_partial_text(r, text, ref, "s2j_array");
+            expect_partial_text(r, t, text, ref, "s2j_array");
             ++checked;
         }
     }
@@ -588,7 +604,7 @@ TEST_P(FileWriters, give_minus_15_without_text_and_minus_7_when_fopen_fails) {
                     Tree got(cJSON_Parse(on_disk.c_str()));
                     EXPECT_EQ(print_plain(got.p), ref);
                 } else {
-                    expect_partial_text(r, on_disk.c_str(), ref, what);
+                    expect_partial_text(r, t, on_disk.c_str(), ref, what);
                 }
             }
         }

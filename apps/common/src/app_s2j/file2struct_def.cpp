@@ -67,9 +67,9 @@ int write_text(const char *path, char *text) {
 
 }  // namespace
 
-int file_f2s(const Site *s, const char *fine_name, void *rec, int (*j2s)(const char *, void *)) {
+int file_f2s(Site s, const char *type, const char *fine_name, void *rec, int (*j2s)(const char *, void *)) {
     if (fine_name == nullptr) {
-        diag(s, S2J_MSG_FINE_NAME_EMPTY);
+        diag(s, type, S2J_MSG_FINE_NAME_EMPTY);
         return -2;
     }
     int rc;
@@ -80,10 +80,10 @@ int file_f2s(const Site *s, const char *fine_name, void *rec, int (*j2s)(const c
     return rc;
 }
 
-int file_f2s_array(const Site *s, const char *fine_name, void *arr, uint32_t *count,
+int file_f2s_array(Site s, const char *type, const char *fine_name, void *arr, uint32_t *count,
                    int (*j2s_array)(const char *, void *, uint32_t *)) {
     if (fine_name == nullptr) {
-        diag(s, S2J_MSG_FINE_NAME_EMPTY);
+        diag(s, type, S2J_MSG_FINE_NAME_EMPTY);
         return -2;
     }
     int rc;
@@ -94,10 +94,10 @@ int file_f2s_array(const Site *s, const char *fine_name, void *arr, uint32_t *co
     return rc;
 }
 
-int file_s2f(const Site *s, const char *fine_name, char *(*make_text)(const void *, uint32_t),
+int file_s2f(Site s, const char *type, const char *fine_name, char *(*make_text)(const void *, uint32_t),
              const void *data, uint32_t count) {
     if (fine_name == nullptr) {
-        diag(s, S2J_MSG_FINE_NAME_EMPTY);
+        diag(s, type, S2J_MSG_FINE_NAME_EMPTY);
         return -2;
     }
     return write_text(fine_name, make_text(data, count));
@@ -106,10 +106,10 @@ int file_s2f(const Site *s, const char *fine_name, char *(*make_text)(const void
 }  // namespace s2j
 
 // Files always hold indented JSON: the writers ask for formatted text.
-#define S2J_DEF_F2S(T) S2J_API int f2s_##T(const char *fine_name, T *struct_ptr) { S2J_SITE("f2s_" #T); return ::s2j::file_f2s(&site, fine_name, struct_ptr, +[](const char *t, void *p) { return j2s_##T(t, static_cast<T *>(p)); }); }
-#define S2J_DEF_S2F(T) S2J_API int s2f_##T(const char *fine_name, const T *struct_ptr) { S2J_SITE("s2f_" #T); return ::s2j::file_s2f(&site, fine_name, +[](const void *p, uint32_t) { return s2j_##T(static_cast<const T *>(p), 1); }, struct_ptr, 1); }
-#define S2J_DEF_F2S_ARRAY(T) S2J_API int f2s_array_##T(const char *fine_name, T *struct_array, uint32_t *struct_array_size) { S2J_SITE("f2s_array_" #T); return ::s2j::file_f2s_array(&site, fine_name, struct_array, struct_array_size, +[](const char *t, void *p, uint32_t *n) { return j2s_array_##T(t, static_cast<T *>(p), n); }); }
-#define S2J_DEF_S2F_ARRAY(T) S2J_API int s2f_array_##T(const char *fine_name, const T *struct_array, uint32_t struct_array_size) { S2J_SITE("s2f_array_" #T); return ::s2j::file_s2f(&site, fine_name, +[](const void *p, uint32_t n) { return s2j_array_##T(static_cast<const T *>(p), n, 1); }, struct_array, struct_array_size); }
+#define S2J_DEF_F2S(T) S2J_API int f2s_##T(const char *fine_name, T *struct_ptr) { S2J_SITE(F2S); return ::s2j::file_f2s(site, #T, fine_name, struct_ptr, +[](const char *t, void *p) { return j2s_##T(t, static_cast<T *>(p)); }); }
+#define S2J_DEF_S2F(T) S2J_API int s2f_##T(const char *fine_name, const T *struct_ptr) { S2J_SITE(S2F); return ::s2j::file_s2f(site, #T, fine_name, +[](const void *p, uint32_t) { return s2j_##T(static_cast<const T *>(p), 1); }, struct_ptr, 1); }
+#define S2J_DEF_F2S_ARRAY(T) S2J_API int f2s_array_##T(const char *fine_name, T *struct_array, uint32_t *struct_array_size) { S2J_SITE(F2S_ARRAY); return ::s2j::file_f2s_array(site, #T, fine_name, struct_array, struct_array_size, +[](const char *t, void *p, uint32_t *n) { return j2s_array_##T(t, static_cast<T *>(p), n); }); }
+#define S2J_DEF_S2F_ARRAY(T) S2J_API int s2f_array_##T(const char *fine_name, const T *struct_array, uint32_t struct_array_size) { S2J_SITE(S2F_ARRAY); return ::s2j::file_s2f(site, #T, fine_name, +[](const void *p, uint32_t n) { return s2j_array_##T(static_cast<const T *>(p), n, 1); }, struct_array, struct_array_size); }
 #endif  // S2J_REGISTRY_PASS
 static_assert(__LINE__ == 114, "the instantiation list must begin on line 115");
 S2J_DEF_F2S(CrontabCapabilitySet)

@@ -1,5 +1,6 @@
 // s2j_codec.cpp - the table-driven record engines: emitter, reader, keyword
 // readers and key matching over a type's field table.
+#include <cctype>
 #include <cstdlib>
 #include <cstring>
 
@@ -9,7 +10,40 @@ namespace s2j {
 
 // ---- Record engines -----------------------------------------------------
 
-cJSON *emit_record(const TypeDesc *d, const void *rec) {
+namespace {
+
+// One integer member.  For the caller's tree an integer item under a copy of
+// the key; for a tree to be printed a raw item holding the decimal text
+// (cJSON copies a raw item's text to the output instead of formatting a
+// double through sprintf and checking it with sscanf), under the constant
+// key.  A member whose item cannot be made is left out.
+void add_int(cJSON *obj, const char *key, int64_t v, char **ints) {
+    if (ints == nullptr) {
+        cJSON_AddIntToObject(obj, key, v);
+        return;
+    }
+    cJSON *item = cJSON_CreateNull();
+    if (item == nullptr) return;
+    char *text = *ints;
+    *ints = format_int(v, text) + std::strlen(text) + 1;
+    item->type = cJSON_Raw | cJSON_IsReference;  // the text is not the item's to free
+    item->valuestring = text;
+    cJSON_AddItemToObjectCS(obj, key, item);  // cannot fail: obj, key and item are non-null
+}
+
+// A string member whose text is terminated within the field.
+void add_string(cJSON *obj, const char *key, const char *text, bool print_only) {
+    if (!print_only) {
+        cJSON_AddStringToObject(obj, key, text);
+        return;
+    }
+    cJSON *item = cJSON_CreateStringReference(text);
+    if (item != nullptr) cJSON_AddItemToObjectCS(obj, key, item);
+}
+
+}  // namespace
+
+cJSON *emit_record(const TypeDesc *d, const void *rec, char **ints) {
     cJSON *obj = cJSON_CreateObject();
     if (obj == nullptr) return nullptr;
     const char *base = static_cast<const char *>(rec);
@@ -20,24 +54,24 @@ cJSON *emit_record(const TypeDesc *d, const void *rec) {
             case Kind::I32: {
                 int32_t v;
                 std::memcpy(&v, at, sizeof v);
-                cJSON_AddIntToObject(obj, f.key, v);
+                add_int(obj, f.key, v, ints);
                 break;
             }
             case Kind::U32: {
                 uint32_t v;
                 std::memcpy(&v, at, sizeof v);
-                cJSON_AddIntToObject(obj, f.key, v);
+                add_int(obj, f.key, v, ints);
                 break;
             }
             case Kind::U16: {
                 uint16_t v;
                 std::memcpy(&v, at, sizeof v);
-                cJSON_AddIntToObject(obj, f.key, v);
+                add_int(obj, f.key, v, ints);
                 break;
             }
             case Kind::Str:
                 if (std::memchr(at, '\0', f.size) != nullptr) {
-                    cJSON_AddStringToObject(obj, f.key, at);
+                    add_string(obj, f.key, at, ints != nullptr);
                 } else {
                     // All N bytes are text: emit them whole through a terminated
                     // copy.  Without memory the member is left out (a null
@@ -89,7 +123,7 @@ bool read_list(char *at, uint32_t size, const cJSON *m) {
     uint32_t capacity = size / 4;
     uint32_t i = 0;
     for (const cJSON *c = m->child; c != nullptr && i < capacity; c = c->next, ++i) {
-        if (!cJSON_IsInt(c)) continue;
+        if (!is_int(c)) continue;
         store_u32(at + 4 * i, c);
         stored = true;
     }
@@ -100,11 +134,11 @@ bool read_field(const Field &f, char *at, const cJSON *m) {
     switch (f.kind) {
         case Kind::I32:
         case Kind::U32:
-            if (!cJSON_IsInt(m)) return false;
+            if (!is_int(m)) return false;
             store_u32(at, m);
             return true;
         case Kind::U16: {
-            if (!cJSON_IsInt(m)) return false;
+            if (!is_int(m)) return false;
             uint16_t v = static_cast<uint16_t>(static_cast<uint64_t>(int_value(m)));
             std::memcpy(at, &v, sizeof v);
             return true;
@@ -134,12 +168,70 @@ bool read_key(const Key &k, char *keyword, uint32_t offset, const cJSON *json) {
 
 }  // namespace
 
-int read_record(const TypeDesc *d, void *rec, const cJSON *json, bool strict) {
-    char *base = static_cast<char *>(rec);
+namespace {
+
+// cJSON's rule for keys: equal when every byte is equal after tolower(), up
+// to and including the NUL.  Bytes that are equal need no tolower().
+bool same_key(const char *a, const char *b) {
+    if (std::strcmp(a, b) == 0) return true;  // the usual case, and the quickest test
+    for (;; ++a, ++b) {
+        unsigned char x = static_cast<unsigned char>(*a), y = static_cast<unsigned char>(*b);
+        if (x != y && std::tolower(x) != std::tolower(y)) return false;
+        if (x == '\0') return true;
+    }
+}
+
+uint32_t key_hash(const char *s) {
+    uint32_t h = 2166136261u;
+    for (; *s != '\0'; ++s) h = (h ^ static_cast<uint32_t>(std::tolower(static_cast<unsigned char>(*s)))) * 16777619u;
+    return h;
+}
+
+// Which field a member name belongs to, for the members that do not come in
+// field order: an open-addressed table of the keys, hashed after tolower()
+// like the comparison, built on the first such member and kept for the rest
+// of the call.
+class KeyIndex {
+public:
+    explicit KeyIndex(const TypeDesc *d) : d_(d) {}
+
+    // The field whose key equals name, or -1.
+    int find(const char *name) {
+        if (!built_) build();
+        for (uint32_t h = key_hash(name) & kMask;; h = (h + 1) & kMask) {
+            int f = slot_[h] - 1;
+            if (f < 0 || same_key(name, d_->fields[f].key)) return f;
+        }
+    }
+
+private:
+    static constexpr uint32_t kSlots = 2 * kMaxFields;  // at most half full
+    static constexpr uint32_t kMask = kSlots - 1;
+
+    void build() {
+        std::memset(slot_, 0, sizeof slot_);
+        for (uint32_t f = 0; f < d_->field_count; ++f) {
+            uint32_t h = key_hash(d_->fields[f].key) & kMask;
+            while (slot_[h] != 0) h = (h + 1) & kMask;
+            slot_[h] = static_cast<uint8_t>(f + 1);
+        }
+        built_ = true;
+    }
+
+    const TypeDesc *d_;
+    bool built_ = false;
+    uint8_t slot_[kSlots];
+};
+
+static_assert(kMaxFields < 255, "field numbers are kept in bytes");
+
+// A reader that looks each key up in the object, as the record reader is
+// defined to: first match without regard to case, for every field.  Its cost
+// is the product of members and fields; it serves only types with two keys
+// equal but for case, where one member can be the match of two fields.
+int read_record_by_lookup(const TypeDesc *d, char *base, const cJSON *json, bool strict) {
     for (uint32_t i = 0; i < d->field_count; ++i) {
         const Field &f = d->fields[i];
-        // One lookup stands for cJSON_HasObjectItem + cJSON_GetObjectItem:
-        // both find the first member whose key matches without regard to case.
         const cJSON *m = cJSON_GetObjectItem(json, f.key);
         if (m == nullptr) {
             if (strict) return 0;
@@ -148,6 +240,58 @@ int read_record(const TypeDesc *d, void *rec, const cJSON *json, bool strict) {
         if (!read_field(f, base + f.offset, m)) return 0;
     }
     return 1;
+}
+
+int read_record_with(const TypeDesc *d, KeyIndex &index, void *rec, const cJSON *json, bool strict) {
+    char *base = static_cast<char *>(rec);
+    if (d->key_twins) return read_record_by_lookup(d, base, json, strict);
+    // One walk over the members finds, for every field, the first member
+    // whose name equals its key without regard to case - the member that
+    // cJSON_GetObjectItem would return.  Members usually come in field order,
+    // so the field after the last one matched is tried first.
+    const cJSON *match[kMaxFields];
+    const uint32_t n = d->field_count;
+    std::memset(match, 0, n * sizeof match[0]);
+    if (json != nullptr) {
+        uint32_t next = 0;
+        for (const cJSON *m = json->child; m != nullptr; m = m->next) {
+            if (m->string == nullptr) continue;  // array elements have no name
+            int f;
+            if (next < n && same_key(m->string, d->fields[next].key))
+                f = static_cast<int>(next);
+            else if ((f = index.find(m->string)) < 0)
+                continue;
+            if (match[f] == nullptr) match[f] = m;
+            next = static_cast<uint32_t>(f) + 1;
+        }
+    }
+    // Then the fields in table order, exactly as one lookup per field would.
+    for (uint32_t i = 0; i < n; ++i) {
+        const Field &f = d->fields[i];
+        if (match[i] == nullptr) {
+            if (strict) return 0;
+            continue;
+        }
+        if (!read_field(f, base + f.offset, match[i])) return 0;
+    }
+    return 1;
+}
+
+}  // namespace
+
+int read_record(const TypeDesc *d, void *rec, const cJSON *json, bool strict) {
+    KeyIndex index(d);
+    return read_record_with(d, index, rec, json, strict);
+}
+
+int read_records(const TypeDesc *d, void *arr, uint32_t count, const cJSON *first) {
+    KeyIndex index(d);
+    char *base = static_cast<char *>(arr);
+    const cJSON *item = first;
+    for (uint32_t i = 0; i < count; ++i, item = item->next)
+        if (!read_record_with(d, index, base + static_cast<size_t>(i) * d->size, item, false))
+            return static_cast<int>(i);
+    return -1;
 }
 
 int read_keys(const TypeDesc *d, void *keyword, const cJSON *json) {

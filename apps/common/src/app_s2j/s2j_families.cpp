@@ -2,6 +2,7 @@
 // families.  Every exported family member is a one-line call into these.
 #include <cstdarg>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 
 #include "s2j_families.h"
@@ -9,8 +10,27 @@
 
 namespace s2j {
 
-void diag(const Site *site, const char *fmt, ...) {
-    std::fprintf(stderr, S2J_DIAG_HEADER, site->file, site->line, site->func);
+namespace {
+
+struct Affixes {
+    const char *prefix, *suffix;
+};
+constexpr Affixes kAffixes[] = {
+    {"s2j_", ""}, {"c2s_", ""}, {"j2s_", ""}, {"j2s_", "_with_len"}, {"s2j_array_", ""},
+    {"c2s_array_", ""}, {"c2s_array_update_", ""}, {"j2s_array_", ""}, {"j2s_array_", "_with_len"},
+    {"j2s_array_update_", ""}, {"j2s_array_update_", "_with_len"}, {"f2s_", ""}, {"s2f_", ""},
+    {"f2s_array_", ""}, {"s2f_array_", ""},
+};
+static_assert(sizeof kAffixes / sizeof kAffixes[0] == static_cast<size_t>(Family::S2F_ARRAY) + 1,
+              "one prefix and suffix per family");
+
+}  // namespace
+
+void diag(Site site, const char *type, const char *fmt, ...) {
+    const Affixes &a = kAffixes[static_cast<size_t>(site.fam)];
+    char func[160];
+    std::snprintf(func, sizeof func, "%s%s%s", a.prefix, type, a.suffix);
+    std::fprintf(stderr, S2J_DIAG_HEADER, site.file, static_cast<int>(site.line), func);
     va_list ap;
     va_start(ap, fmt);
     std::vfprintf(stderr, fmt, ap);
@@ -22,6 +42,15 @@ namespace {
 
 char *print(const cJSON *tree, int formatted) {
     return formatted ? cJSON_Print(tree) : cJSON_PrintUnformatted(tree);
+}
+
+// The decimal texts of the integers of count records, for a tree that is
+// only printed; null when there is no room (the records are then emitted as
+// the caller's tree is, which prints the same text).
+char *int_texts(const TypeDesc *d, uint32_t count) {
+    size_t n = static_cast<size_t>(d->int_text_bytes) * count;
+    if (n == 0 || n / count != d->int_text_bytes) return nullptr;
+    return static_cast<char *>(std::malloc(n));
 }
 
 // cJSON's parse-error position is process-wide: read it right after the
@@ -41,13 +70,13 @@ const char *parse_error(const char *text, size_t len) {
 // Parses json_str (nul-terminated, or len bytes with_len) into a marked tree;
 // on failure prints the parse diagnostic (msg for cJSON_Parse) and returns
 // null.
-cJSON *parse(const Site *s, const char *json_str, size_t len, bool with_len, const char *msg) {
+cJSON *parse(Site s, const char *type, const char *json_str, size_t len, bool with_len, const char *msg) {
     cJSON *tree = parse_marked(json_str, len, with_len);
     if (tree != nullptr) return tree;
     if (with_len)
-        diag(s, S2J_MSG_PARSE_LEN_FAILED, json_str, len, parse_error(json_str, len));
+        diag(s, type, S2J_MSG_PARSE_LEN_FAILED, json_str, len, parse_error(json_str, len));
     else
-        diag(s, msg, json_str, parse_error(json_str, std::strlen(json_str)));
+        diag(s, type, msg, json_str, parse_error(json_str, std::strlen(json_str)));
     return nullptr;
 }
 
@@ -55,55 +84,59 @@ cJSON *parse(const Site *s, const char *json_str, size_t len, bool with_len, con
 
 // ---- Single records ---------------------------------------------------------
 
-char *fam_s2j(const Site *s, const TypeDesc *d, const void *rec, int formatted) {
+char *fam_s2j(Site s, const TypeDesc *d, const void *rec, int formatted) {
     if (rec == nullptr) {
-        diag(s, S2J_MSG_STRUCT_PTR_EMPTY);
+        diag(s, d->name, S2J_MSG_STRUCT_PTR_EMPTY);
         return nullptr;
     }
-    cJSON *tree = emit_record(d, rec);
+    char *ints = int_texts(d, 1);
+    char *cursor = ints;
+    cJSON *tree = emit_record(d, rec, ints != nullptr ? &cursor : nullptr);
     if (tree == nullptr) {
-        diag(s, S2J_MSG_EMITTER_FAILED, d->name);
+        std::free(ints);
+        diag(s, d->name, S2J_MSG_EMITTER_FAILED, d->name);
         return nullptr;
     }
     char *text = print(tree, formatted);
     cJSON_Delete(tree);
+    std::free(ints);
     return text;
 }
 
-int fam_c2s(const Site *s, const TypeDesc *d, const cJSON *json, void *rec) {
+int fam_c2s(Site s, const TypeDesc *d, const cJSON *json, void *rec) {
     if (!cJSON_IsObject(json)) {
-        diag(s, S2J_MSG_NOT_OBJECT);
+        diag(s, d->name, S2J_MSG_NOT_OBJECT);
         return -2;
     }
     if (rec == nullptr) {
-        diag(s, S2J_MSG_STRUCT_PTR_EMPTY);
+        diag(s, d->name, S2J_MSG_STRUCT_PTR_EMPTY);
         return -2;
     }
     if (!read_record(d, rec, json, false)) {
-        diag(s, S2J_MSG_READER_FAILED, d->name);
+        diag(s, d->name, S2J_MSG_READER_FAILED, d->name);
         return -1;
     }
     return 0;
 }
 
-int fam_j2s(const Site *s, const char *json_str, void *rec, C2sFn c2s) {
+int fam_j2s(Site s, const TypeDesc *d, const char *json_str, void *rec, C2sFn c2s) {
     if (json_str == nullptr || rec == nullptr) {
-        diag(s, S2J_MSG_J2S_ARGS);
+        diag(s, d->name, S2J_MSG_J2S_ARGS);
         return -2;
     }
-    cJSON *tree = parse(s, json_str, 0, false, S2J_MSG_PARSE_FAILED);
+    cJSON *tree = parse(s, d->name, json_str, 0, false, S2J_MSG_PARSE_FAILED);
     if (tree == nullptr) return -2;
     int rc = c2s(tree, rec);
     cJSON_Delete(tree);
     return rc;
 }
 
-int fam_j2s_with_len(const Site *s, const char *json_str, size_t len, void *rec, C2sFn c2s) {
+int fam_j2s_with_len(Site s, const TypeDesc *d, const char *json_str, size_t len, void *rec, C2sFn c2s) {
     if (json_str == nullptr || len == 0 || rec == nullptr) {
-        diag(s, S2J_MSG_J2S_LEN_ARGS);
+        diag(s, d->name, S2J_MSG_J2S_LEN_ARGS);
         return -2;
     }
-    cJSON *tree = parse(s, json_str, len, true, nullptr);
+    cJSON *tree = parse(s, d->name, json_str, len, true, nullptr);
     if (tree == nullptr) return -2;
     int rc = c2s(tree, rec);
     cJSON_Delete(tree);
@@ -112,38 +145,42 @@ int fam_j2s_with_len(const Site *s, const char *json_str, size_t len, void *rec,
 
 // ---- Record arrays ----------------------------------------------------------
 
-char *fam_s2j_array(const Site *s, const TypeDesc *d, const void *arr, uint32_t count, int formatted) {
+char *fam_s2j_array(Site s, const TypeDesc *d, const void *arr, uint32_t count, int formatted) {
     if (arr == nullptr || count == 0) {
-        diag(s, S2J_MSG_ARRAY_ARGS);
+        diag(s, d->name, S2J_MSG_ARRAY_ARGS);
         return nullptr;
     }
     cJSON *list = cJSON_CreateArray();
     if (list == nullptr) {
-        diag(s, S2J_MSG_CREATE_ARRAY_FAILED);
+        diag(s, d->name, S2J_MSG_CREATE_ARRAY_FAILED);
         return nullptr;
     }
+    char *ints = int_texts(d, count);
+    char *cursor = ints;
     const char *base = static_cast<const char *>(arr);
     for (uint32_t i = 0; i < count; ++i) {
-        cJSON *obj = emit_record(d, base + static_cast<size_t>(i) * d->size);
+        cJSON *obj = emit_record(d, base + static_cast<size_t>(i) * d->size, ints != nullptr ? &cursor : nullptr);
         if (obj == nullptr) {
-            diag(s, S2J_MSG_EMITTER_FAILED, d->name);
+            diag(s, d->name, S2J_MSG_EMITTER_FAILED, d->name);
             cJSON_Delete(list);
+            std::free(ints);
             return nullptr;
         }
         cJSON_AddItemToArray(list, obj);
     }
     char *text = print(list, formatted);
     cJSON_Delete(list);
+    std::free(ints);
     return text;
 }
 
-int fam_c2s_array(const Site *s, const TypeDesc *d, const cJSON *json, void *arr, uint32_t *count) {
+int fam_c2s_array(Site s, const TypeDesc *d, const cJSON *json, void *arr, uint32_t *count) {
     if (count == nullptr) {
-        diag(s, S2J_MSG_SIZE_EMPTY);
+        diag(s, d->name, S2J_MSG_SIZE_EMPTY);
         return -2;
     }
     if (!cJSON_IsArray(json)) {
-        diag(s, S2J_MSG_NOT_ARRAY);
+        diag(s, d->name, S2J_MSG_NOT_ARRAY);
         return -2;
     }
     uint32_t n = static_cast<uint32_t>(cJSON_GetArraySize(json));
@@ -152,39 +189,35 @@ int fam_c2s_array(const Site *s, const TypeDesc *d, const cJSON *json, void *arr
         return 0;
     }
     uint32_t filled = n < *count ? n : *count;
-    char *base = static_cast<char *>(arr);
-    // Walk the children directly: the same elements as cJSON_GetArrayItem(i)
-    // in index order, without rescanning the list for each index.
-    const cJSON *item = json->child;
-    for (uint32_t i = 0; i < filled; ++i, item = item->next) {
-        if (!read_record(d, base + static_cast<size_t>(i) * d->size, item, false)) {
-            diag(s, S2J_MSG_READER_FAILED, d->name);
-            return -1;
-        }
+    // The children in order: the same elements as cJSON_GetArrayItem(i) for
+    // each index, without rescanning the list for each.
+    if (read_records(d, arr, filled, json->child) >= 0) {
+        diag(s, d->name, S2J_MSG_READER_FAILED, d->name);
+        return -1;
     }
     *count = filled;
     return 0;
 }
 
-int fam_j2s_array(const Site *s, const char *json_str, void *arr, uint32_t *count, C2sArrayFn c2s) {
+int fam_j2s_array(Site s, const TypeDesc *d, const char *json_str, void *arr, uint32_t *count, C2sArrayFn c2s) {
     if (json_str == nullptr || count == nullptr) {
-        diag(s, S2J_MSG_J2S_ARRAY_ARGS);
+        diag(s, d->name, S2J_MSG_J2S_ARRAY_ARGS);
         return -2;
     }
-    cJSON *tree = parse(s, json_str, 0, false, S2J_MSG_PARSE_FAILED_NO_NL);
+    cJSON *tree = parse(s, d->name, json_str, 0, false, S2J_MSG_PARSE_FAILED_NO_NL);
     if (tree == nullptr) return -2;
     int rc = c2s(tree, arr, count);
     cJSON_Delete(tree);
     return rc;
 }
 
-int fam_j2s_array_with_len(const Site *s, const char *json_str, size_t len, void *arr, uint32_t *count,
+int fam_j2s_array_with_len(Site s, const TypeDesc *d, const char *json_str, size_t len, void *arr, uint32_t *count,
                            C2sArrayFn c2s) {
     if (json_str == nullptr || len == 0 || count == nullptr) {
-        diag(s, S2J_MSG_J2S_ARRAY_LEN_ARGS);
+        diag(s, d->name, S2J_MSG_J2S_ARRAY_LEN_ARGS);
         return -2;
     }
-    cJSON *tree = parse(s, json_str, len, true, nullptr);
+    cJSON *tree = parse(s, d->name, json_str, len, true, nullptr);
     if (tree == nullptr) return -2;
     int rc = c2s(tree, arr, count);
     cJSON_Delete(tree);
@@ -193,13 +226,13 @@ int fam_j2s_array_with_len(const Site *s, const char *json_str, size_t len, void
 
 // ---- Keyed update -----------------------------------------------------------
 
-int fam_c2s_array_update(const Site *s, const TypeDesc *d, const cJSON *json, void *arr, uint32_t *count) {
+int fam_c2s_array_update(Site s, const TypeDesc *d, const cJSON *json, void *arr, uint32_t *count) {
     if (arr == nullptr || count == nullptr) {
-        diag(s, S2J_MSG_ARRAY_ARGS);
+        diag(s, d->name, S2J_MSG_ARRAY_ARGS);
         return -2;
     }
     if (!cJSON_IsArray(json)) {
-        diag(s, S2J_MSG_NOT_ARRAY);
+        diag(s, d->name, S2J_MSG_NOT_ARRAY);
         return -2;
     }
     char *base = static_cast<char *>(arr);
@@ -210,7 +243,7 @@ int fam_c2s_array_update(const Site *s, const TypeDesc *d, const cJSON *json, vo
     alignas(8) char keyword[kMaxKeywordSize];
     for (const cJSON *item = json->child; item != nullptr; item = item->next) {
         if (!read_keys(d, keyword, item)) {
-            diag(s, S2J_MSG_KEYWORD_MISSING);
+            diag(s, d->name, S2J_MSG_KEYWORD_MISSING);
             return -2;
         }
         char *match = nullptr;
@@ -223,7 +256,7 @@ int fam_c2s_array_update(const Site *s, const TypeDesc *d, const cJSON *json, vo
         }
         if (match == nullptr) continue;
         if (!read_record(d, match, item, false)) {
-            diag(s, S2J_MSG_READER_FAILED, d->name);
+            diag(s, d->name, S2J_MSG_READER_FAILED, d->name);
             return -1;
         }
         ++updated;
@@ -232,25 +265,25 @@ int fam_c2s_array_update(const Site *s, const TypeDesc *d, const cJSON *json, vo
     return 0;
 }
 
-int fam_j2s_array_update(const Site *s, const char *json_str, void *arr, uint32_t *count, C2sArrayFn c2s) {
+int fam_j2s_array_update(Site s, const TypeDesc *d, const char *json_str, void *arr, uint32_t *count, C2sArrayFn c2s) {
     if (json_str == nullptr || arr == nullptr || count == nullptr) {
-        diag(s, S2J_MSG_UPDATE_ARGS);
+        diag(s, d->name, S2J_MSG_UPDATE_ARGS);
         return -2;
     }
-    cJSON *tree = parse(s, json_str, 0, false, S2J_MSG_PARSE_FAILED_NO_NL);
+    cJSON *tree = parse(s, d->name, json_str, 0, false, S2J_MSG_PARSE_FAILED_NO_NL);
     if (tree == nullptr) return -2;
     int rc = c2s(tree, arr, count);
     cJSON_Delete(tree);
     return rc;
 }
 
-int fam_j2s_array_update_with_len(const Site *s, const char *json_str, size_t len, void *arr,
+int fam_j2s_array_update_with_len(Site s, const TypeDesc *d, const char *json_str, size_t len, void *arr,
                                   uint32_t *count, C2sArrayFn c2s) {
     if (json_str == nullptr || len == 0 || arr == nullptr || count == nullptr) {
-        diag(s, S2J_MSG_UPDATE_LEN_ARGS);
+        diag(s, d->name, S2J_MSG_UPDATE_LEN_ARGS);
         return -2;
     }
-    cJSON *tree = parse(s, json_str, len, true, nullptr);
+    cJSON *tree = parse(s, d->name, json_str, len, true, nullptr);
     if (tree == nullptr) return -2;
     int rc = c2s(tree, arr, count);
     cJSON_Delete(tree);

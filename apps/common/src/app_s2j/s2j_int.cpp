@@ -48,13 +48,5 @@ S2J_API cJSON *cJSON_AddIntToObject(cJSON *object, const char *name,
     return item;
 }
 
-S2J_API cJSON_bool cJSON_IsInt(const cJSON *item) {
-    if (item == nullptr) return 0;
-    if (item->type & kNotIntMark) return 0;
-    if (item->type & kIntMark) return s2j::type_of(item) == cJSON_Number || s2j::type_of(item) == cJSON_Raw;
-    if (s2j::type_of(item) != cJSON_Number) return 0;
-    double d = item->valuedouble;
-    if (!(d >= -s2j::kTwo63 && d < s2j::kTwo63)) return 0;  // NaN fails too
-    return static_cast<double>(static_cast<int64_t>(d)) == d;
-}
+S2J_API cJSON_bool cJSON_IsInt(const cJSON *item) { return s2j::is_int(item) ? 1 : 0; }
 

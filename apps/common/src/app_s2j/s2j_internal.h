@@ -47,7 +47,14 @@ struct TypeDesc {
     uint32_t field_count;
     const Key *keys;  // in key order; null for types without keys
     uint32_t key_count;
+    uint32_t int_text_bytes;  // room for the decimal text of every integer of a record
+    bool key_twins;           // two keys equal but for letter case
 };
+
+// The most fields a record may have (the reader keeps one slot per field).
+inline constexpr uint32_t kMaxFields = 64;
+// Room for the decimal text of one 32-bit integer and its NUL.
+inline constexpr uint32_t kIntTextSize = 12;
 
 // ---- Kinds from C types ------------------------------------------------
 
@@ -79,6 +86,31 @@ constexpr bool covers(const Field *f, size_t n, size_t struct_size) {
     return (end + max_align - 1) / max_align * max_align == struct_size;
 }
 
+constexpr uint32_t int_text_bytes(const Field *f, size_t n) {
+    uint32_t bytes = 0;
+    for (size_t i = 0; i < n; ++i) {
+        if (f[i].kind == Kind::Str) continue;
+        bytes += (f[i].kind == Kind::U32List ? f[i].size / 4 : 1) * kIntTextSize;
+    }
+    return bytes;
+}
+
+constexpr char ascii_lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+
+constexpr bool same_but_case(const char *a, const char *b) {
+    for (;; ++a, ++b) {
+        if (ascii_lower(*a) != ascii_lower(*b)) return false;
+        if (*a == '\0') return true;
+    }
+}
+
+constexpr bool has_key_twins(const Field *f, size_t n) {
+    for (size_t i = 0; i < n; ++i)
+        for (size_t j = i + 1; j < n; ++j)
+            if (same_but_case(f[i].key, f[j].key)) return true;
+    return false;
+}
+
 template <size_t N>
 constexpr bool keyword_record_covers(const Key (&k)[N], size_t struct_size) {
     Field f[N] = {};
@@ -104,8 +136,23 @@ char *format_int(int64_t v, char *buf);
 // The int nearest to v, as cJSON keeps in valueint.
 int saturate_int(int64_t v);
 
+// cJSON_IsInt(), for the library's own readers.
+inline bool is_int(const cJSON *item) {
+    if (item == nullptr || (item->type & kNotIntMark)) return false;
+    if (item->type & kIntMark) return type_of(item) == cJSON_Number || type_of(item) == cJSON_Raw;
+    if (type_of(item) != cJSON_Number) return false;
+    double d = item->valuedouble;
+    if (!(d >= -kTwo63 && d < kTwo63)) return false;  // NaN fails too
+    return static_cast<double>(static_cast<int64_t>(d)) == d;
+}
+
+// Integer value of a raw integer item.
+int64_t raw_int_value(const cJSON *item);
 // Integer value of an item for which cJSON_IsInt() holds.
-int64_t int_value(const cJSON *item);
+inline int64_t int_value(const cJSON *item) {
+    if (type_of(item) == cJSON_Raw) return raw_int_value(item);
+    return static_cast<int64_t>(item->valuedouble);
+}
 
 // Parses text as cJSON_Parse (nul-terminated text) or cJSON_ParseWithLength
 // (with_len, len bytes) does, then marks every number item as an integer
@@ -115,9 +162,19 @@ cJSON *parse_marked(const char *text, size_t len, bool with_len);
 
 // ---- Engines (s2j_codec.cpp) ------------------------------------------
 
-cJSON *emit_record(const TypeDesc *d, const void *rec);
+// Emits a record as a new object.  With ints null the tree is the caller's:
+// keys copied, integers as integer items.  Otherwise the tree is only to be
+// printed and freed while the record is alive: keys are the table's
+// constants, strings refer to the record's fields and integers are raw items
+// whose decimal text is written at *ints (advanced past it; the caller
+// provides d->int_text_bytes per record and frees that memory after the
+// tree).  Both trees print the same text.
+cJSON *emit_record(const TypeDesc *d, const void *rec, char **ints);
 // strict: every field must be present (the whole-record keyword reader).
 int read_record(const TypeDesc *d, void *rec, const cJSON *json, bool strict);
+// Reads count records of an array from the elements starting at first;
+// returns the index of the element whose reader failed, or -1.
+int read_records(const TypeDesc *d, void *arr, uint32_t count, const cJSON *first);
 // Reads the key fields into a keyword record; all required.
 int read_keys(const TypeDesc *d, void *keyword, const cJSON *json);
 // Reads the first key field into *out (a 32-bit integer or char[64]).
@@ -155,13 +212,16 @@ bool keys_match(const TypeDesc *d, const void *rec, const void *keyword);
 
 #define S2J_CHECK_TABLE(T)                                                                    \
     static_assert(::s2j::covers(T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0]), sizeof(T)), \
-                  #T ": field table does not match the struct member for member")
+                  #T ": field table does not match the struct member for member");             \
+    static_assert(sizeof(T##_fields) / sizeof(T##_fields[0]) <= ::s2j::kMaxFields, #T ": too many fields")
 
 #define S2J_DESC(T, keys, nkeys)                                                               \
     namespace s2j {                                                                            \
     extern const TypeDesc desc_##T;                                                            \
-    constexpr TypeDesc desc_##T = {#T, sizeof(T), T##_fields,                                  \
-                                   sizeof(T##_fields) / sizeof(T##_fields[0]), keys, nkeys};   \
+    constexpr TypeDesc desc_##T = {                                                            \
+        #T, sizeof(T), T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0]), keys, nkeys,    \
+        int_text_bytes(T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0])),                \
+        has_key_twins(T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0]))};                \
     }
 
 #ifdef S2J_TABLES_ONLY
@@ -185,7 +245,7 @@ bool keys_match(const TypeDesc *d, const void *rec, const void *keyword);
 #define S2J_HOOKS(T, keyword, get, kwsize)
 #define S2J_FUNCS(T)                                                                           \
     S2J_API cJSON *struct_to_json_##T(const T *struct_ptr) {                                \
-        return ::s2j::emit_record(&::s2j::desc_##T, struct_ptr);                               \
+        return ::s2j::emit_record(&::s2j::desc_##T, struct_ptr, nullptr);                      \
     }                                                                                          \
     S2J_API int json_to_struct_##T(T *struct_ptr, const cJSON *json) {                      \
         return ::s2j::read_record(&::s2j::desc_##T, struct_ptr, json, false);                  \

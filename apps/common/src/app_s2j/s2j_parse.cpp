@@ -73,14 +73,11 @@ bool make_raw(cJSON *item, int64_t v) {
 
 }  // namespace
 
-int64_t int_value(const cJSON *item) {
-    if (type_of(item) == cJSON_Raw) {
-        int64_t v = 0;
-        const char *s = item->valuestring;
-        if (s != nullptr && parse_int(s, std::strlen(s), &v)) return v;
-        return 0;
-    }
-    return static_cast<int64_t>(item->valuedouble);
+int64_t raw_int_value(const cJSON *item) {
+    int64_t v = 0;
+    const char *s = item->valuestring;
+    if (s != nullptr && parse_int(s, std::strlen(s), &v)) return v;
+    return 0;
 }
 
 // ---- Marking parsed text -----------------------------------------------
@@ -90,34 +87,55 @@ bool is_number_char(char c) {
     return (c >= '0' && c <= '9') || c == '+' || c == '-' || c == 'e' || c == 'E' || c == '.';
 }
 
+// Byte classes between values: what ends a run of bytes to pass over.
+enum : uint8_t { kPass = 0, kQuote = 1, kNumber = 2 };
+
+struct Classes {
+    uint8_t of[256];
+};
+
+constexpr Classes make_classes() {
+    Classes c{};
+    c.of[static_cast<uint8_t>('"')] = kQuote;
+    c.of[static_cast<uint8_t>('-')] = kNumber;
+    for (char d = '0'; d <= '9'; ++d) c.of[static_cast<uint8_t>(d)] = kNumber;
+    return c;
+}
+
+constexpr Classes kClasses = make_classes();
+
 // Finds the next number literal at or after p, skipping strings (and so keys)
-// as cJSON does.  The literal is the whole run of number characters: the
-// packaged cJSON reads a number of any length, and where a parser reads
-// fewer characters the rest fails the parse inside a container and ends the
-// text at the top level, so taking the whole run never moves a later literal
-// onto the wrong item (a cap at 63 did, for a longer number before it).
-bool next_number(const char *&p, const char *end, const char **start, size_t *len) {
-    while (p < end) {
-        char c = *p;
-        if (c == '"') {
-            ++p;
-            while (p < end && *p != '"') p += (*p == '\\' && p + 1 < end) ? 2 : 1;
-            if (p < end) ++p;
-            continue;
-        }
-        if (c == '-' || (c >= '0' && c <= '9')) {
-            *start = p;
-            size_t n = 0;
-            while (p < end && is_number_char(*p)) {
-                ++p;
-                ++n;
-            }
-            *len = n;
-            return true;
-        }
+// as cJSON does.  The text up to the literal is JSON that cJSON has just
+// parsed and the caller knows that one more number is there, so strings are
+// closed and the scan needs no bound before the literal; the literal itself
+// may end the text.  The literal is the whole run of number characters: the
+// packaged cJSON reads a number of any length, and where a parser reads fewer
+// characters the rest fails the parse inside a container and ends the text at
+// the top level, so taking the whole run never moves a later literal onto the
+// wrong item (a cap at 63 did, for a longer number before it).
+void next_number(const char *&p, const char *end, const char **start, size_t *len) {
+    for (;;) {
+        uint8_t c;
+        while ((c = kClasses.of[static_cast<uint8_t>(*p)]) == kPass) ++p;
+        if (c == kNumber) break;
+        // A string: its closing quote is the first quote not escaped, that
+        // is, not preceded by an odd run of backslashes.
         ++p;
+        for (;;) {
+            const char *q = static_cast<const char *>(std::memchr(p, '"', static_cast<size_t>(end - p)));
+            const char *b = q;
+            while (b > p && b[-1] == '\\') --b;
+            p = q + 1;
+            if (((q - b) & 1) == 0) break;
+        }
     }
-    return false;
+    *start = p;
+    size_t n = 0;
+    while (p < end && is_number_char(*p)) {
+        ++p;
+        ++n;
+    }
+    *len = n;
 }
 
 // Whether the literal that cJSON's strtod() reads from s is an integer: an
@@ -160,7 +178,8 @@ cJSON *parse_marked(const char *text, size_t len, bool with_len) {
         const char *lit = nullptr;
         size_t lit_len = 0;
         int64_t v = 0;
-        if (!next_number(p, end, &lit, &lit_len) || !integer_literal(lit, lit_len, &v)) {
+        next_number(p, end, &lit, &lit_len);
+        if (!integer_literal(lit, lit_len, &v)) {
             item->type |= kNotIntMark;
             continue;
         }

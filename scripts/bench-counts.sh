@@ -1,0 +1,43 @@
+#!/usr/bin/env bash
+# Deterministic counts of the benchmark workloads: per workload and call, the
+# instructions executed (callgrind) and the heap allocations (count, bytes)
+# of the library, the floor (cJSON alone) and the peer (hand-written cJSON
+# code), side by side, as a Markdown table on stdout.
+#   scripts/bench-counts.sh [repetitions]     (default 10; counts are per call)
+# Builds the release configuration (-O2) with the benchmarks in build-bench/.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+reps="${1:-10}"
+scripts/setup.sh --bench >&2
+cmake -S . -B build-bench -DCMAKE_BUILD_TYPE=Release -DAPP_S2J_BENCH=ON \
+      -DCMAKE_C_FLAGS_RELEASE="-O2 -DNDEBUG" -DCMAKE_CXX_FLAGS_RELEASE="-O2 -DNDEBUG" \
+      -DAPP_S2J_TESTS=OFF -DAPP_S2J_TOOLS=OFF >/dev/null
+cmake --build build-bench -j2 --target s2j_counts >&2
+out="$(mktemp -d)"
+trap 'rm -rf "$out"' EXIT
+TMPDIR="$out" valgrind --tool=callgrind --callgrind-out-file="$out/cg" \
+    build-bench/bench/s2j_counts "$reps" >"$out/allocs" 2>"$out/valgrind.log" ||
+    { cat "$out/valgrind.log" >&2; exit 1; }
+for f in "$out"/cg.*; do
+  awk '/^desc: Trigger: Client Request: /{l=$5} /^summary:/{s=$2} END{if (l != "") print l, s}' "$f"
+done >"$out/instr"
+echo "Instructions and allocations per call (callgrind, $reps repetitions each);"
+echo "ratios are the library's instructions over the floor's and the peer's."
+echo
+awk -v reps="$reps" '
+  FNR == NR { split($1, k, "/"); ir[$1] = $2 / reps; next }
+  FNR == 1 { next }
+  { key = $1 "/" $2 "/" $3; al[key] = $4 " / " $5; if (!($1 "/" $2 in seen)) { seen[$1 "/" $2] = 1; order[++n] = $1 "/" $2 } }
+  END {
+    print "| workload | call | lib instr | floor instr | peer instr | lib/floor | lib/peer | lib allocs / bytes | floor allocs / bytes | peer allocs / bytes |"
+    print "|---|---|--:|--:|--:|--:|--:|--:|--:|--:|"
+    for (i = 1; i <= n; ++i) {
+      w = order[i]; split(w, p, "/")
+      l = ir[w "/lib"]; f = ir[w "/floor"]; q = ir[w "/peer"]
+      rf = (f > 0) ? sprintf("%.2f", l / f) : "-"
+      rp = (q > 0) ? sprintf("%.2f", l / q) : "-"
+      fs = (f > 0) ? sprintf("%d", f) : "-"
+      printf "| %s | %s | %d | %s | %d | %s | %s | %s | %s | %s |\n", p[1], p[2], l, fs, q, rf, rp,
+             al[w "/lib"], (w "/floor" in al) ? al[w "/floor"] : "-", al[w "/peer"]
+    }
+  }' "$out/instr" "$out/allocs"
