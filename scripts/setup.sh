@@ -1,8 +1,24 @@
 #!/usr/bin/env bash
 # Installs what building and testing libapp_s2j needs on Debian (run as root),
 # skipping the package manager when everything is already there.
+#   scripts/setup.sh            the native build and tests
+#   scripts/setup.sh TRIPLET... also cross builds for these targets (see cmake/toolchains/):
+#                               the cross compilers, the target's cJSON and GoogleTest
+#                               through multiarch, and qemu-user to run the tests
 set -euo pipefail
 packages=(cmake make gcc g++ pkg-config binutils libcjson-dev libgtest-dev)
+foreign=()
+for triplet in "$@"; do
+  case "$triplet" in
+    arm-linux-gnueabihf) arch=armhf ;;
+    aarch64-linux-gnu)   arch=arm64 ;;
+    s390x-linux-gnu)     arch=s390x ;;
+    *) echo "setup: unknown target $triplet (arm-linux-gnueabihf, aarch64-linux-gnu, s390x-linux-gnu)" >&2; exit 2 ;;
+  esac
+  foreign+=("$arch")
+  packages+=("gcc-$triplet" "g++-$triplet" "binutils-$triplet" qemu-user
+             "libcjson-dev:$arch" "libgtest-dev:$arch" "libstdc++6:$arch")
+done
 missing=()
 for p in "${packages[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
@@ -10,6 +26,11 @@ done
 if [ ${#missing[@]} -gt 0 ]; then
   echo "setup: installing ${missing[*]}"
   export DEBIAN_FRONTEND=noninteractive
-  apt-get update -qq
+  for arch in "${foreign[@]}"; do
+    dpkg --print-foreign-architectures | grep -qx "$arch" || dpkg --add-architecture "$arch"
+  done
+  # A mirror caught mid-sync for one index must not stop the set-up: apt-get
+  # install below fails by itself if a package really cannot be had.
+  apt-get update -qq || echo "setup: apt-get update reported errors; going on with the lists it has" >&2
   apt-get install -y -qq --no-install-recommends "${missing[@]}"
 fi
