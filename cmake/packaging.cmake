@@ -37,13 +37,6 @@ set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
 set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION
   "Converts the control and configuration records of an audio/video appliance,\n plain C structs, to and from JSON. Headers, pkg-config and CMake files.")
 
-# Multi-Arch: same, like Debian's own library packages, so that packages of
-# several architectures install side by side when the library directory is
-# the multiarch one (a build configured with CMAKE_INSTALL_PREFIX=/usr).
-if(CMAKE_INSTALL_LIBDIR MATCHES "^lib/${CMAKE_LIBRARY_ARCHITECTURE}$" AND CMAKE_LIBRARY_ARCHITECTURE)
-  set(CPACK_DEBIAN_PACKAGE_MULTIARCH same)
-endif()
-
 # The package architecture of a cross build is the target's, not dpkg's.
 if(CMAKE_CROSSCOMPILING)
   set(_app_s2j_deb_arch_arm-linux-gnueabihf armhf)

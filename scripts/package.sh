@@ -4,7 +4,7 @@
 #   scripts/package.sh           for this machine            -> build-deb/packages/*.deb
 #   scripts/package.sh TARGET    cross, e.g. arm-linux-gnueabihf -> build-deb-TARGET/packages/*.deb
 # The library is configured for /usr, so it goes to the multiarch directory
-# /usr/lib/<triplet> and the packages are Multi-Arch: same.
+# /usr/lib/<triplet>, as Debian's own libraries do.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 target=${1:-}
