@@ -12,7 +12,8 @@ cross=()
 build=build-deb
 if [ -n "$target" ]; then
   [ -f "cmake/toolchains/$target.cmake" ] && [ "$target" != debian-cross ] || { echo "package: unknown target $target" >&2; exit 2; }
-  cross=(-DCMAKE_TOOLCHAIN_FILE="$PWD/cmake/toolchains/$target.cmake")
+  # GNUInstallDirs picks the multiarch directory only for native builds.
+  cross=(-DCMAKE_TOOLCHAIN_FILE="$PWD/cmake/toolchains/$target.cmake" -DCMAKE_INSTALL_LIBDIR="lib/$target")
   build=build-deb-$target
   scripts/setup.sh "$target"
 else
