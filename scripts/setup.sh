@@ -1,13 +1,31 @@
 #!/usr/bin/env bash
 # Installs what building and testing libapp_s2j needs on Debian (run as root),
 # skipping the package manager when everything is already there.
+#   scripts/setup.sh             the native build and tests
+#   scripts/setup.sh --fuzz      also libFuzzer with clang
+#   scripts/setup.sh --valgrind  also valgrind (memory checking)
+#   scripts/setup.sh --bench     also Google Benchmark and valgrind (benchmarks and their counts)
+#   scripts/setup.sh TRIPLET...  also cross builds for these targets (see cmake/toolchains/):
+#                                the cross compilers, the target's cJSON and GoogleTest
+#                                through multiarch, and qemu-user to run the tests
 set -euo pipefail
 packages=(cmake make gcc g++ pkg-config binutils libcjson-dev libgtest-dev)
-# Extra tools: --fuzz (libFuzzer with clang), --valgrind (memory checking).
+foreign=()
 for arg in "$@"; do
   case "$arg" in
     --fuzz) packages+=(clang-14 libclang-rt-14-dev) ;;
     --valgrind) packages+=(valgrind) ;;
+    --bench) packages+=(libbenchmark-dev valgrind) ;;
+    arm-linux-gnueabihf) arch=armhf ;;
+    aarch64-linux-gnu) arch=arm64 ;;
+    s390x-linux-gnu) arch=s390x ;;
+    *) echo "setup: unknown argument $arg (--fuzz, --valgrind, --bench, arm-linux-gnueabihf, aarch64-linux-gnu, s390x-linux-gnu)" >&2; exit 2 ;;
+  esac
+  case "$arg" in
+    --*) ;;
+    *) foreign+=("$arch")
+       packages+=("gcc-$arg" "g++-$arg" "binutils-$arg" qemu-user
+                  "libcjson-dev:$arch" "libgtest-dev:$arch" "libstdc++6:$arch") ;;
   esac
 done
 missing=()
@@ -17,20 +35,11 @@ done
 if [ ${#missing[@]} -gt 0 ]; then
   echo "setup: installing ${missing[*]}"
   export DEBIAN_FRONTEND=noninteractive
-  apt-get update -qq
-  apt-get install -y -qq --no-install-recommends "${missing[@]}"
-fi
-
-# scripts/setup.sh --bench: also what the benchmarks and their counts need.
-if [ "${1:-}" = "--bench" ]; then
-  bench_missing=()
-  for p in libbenchmark-dev valgrind; do
-    dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || bench_missing+=("$p")
+  for arch in "${foreign[@]}"; do
+    dpkg --print-foreign-architectures | grep -qx "$arch" || dpkg --add-architecture "$arch"
   done
-  if [ ${#bench_missing[@]} -gt 0 ]; then
-    echo "setup: installing ${bench_missing[*]}"
-    export DEBIAN_FRONTEND=noninteractive
-    apt-get update -qq
-    apt-get install -y -qq --no-install-recommends "${bench_missing[@]}"
-  fi
+  # A mirror caught mid-sync for one index must not stop the set-up: apt-get
+  # install below fails by itself if a package really cannot be had.
+  apt-get update -qq || echo "setup: apt-get update reported errors; going on with the lists it has" >&2
+  apt-get install -y -qq --no-install-recommends "${missing[@]}"
 fi

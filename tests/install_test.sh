@@ -3,11 +3,17 @@
 # the installed files, the library's dynamic dependencies and exports, and a
 # C99 program built against the install through pkg-config and through CMake.
 # usage: install_test.sh BUILD_DIR SOURCE_DIR [EXTRA_C_FLAGS...]
+# A cross build sets APP_S2J_CC (the C compiler), APP_S2J_EMULATOR (runs target
+# programs), APP_S2J_TOOLCHAIN (for the CMake consumers) and PKG_CONFIG_LIBDIR.
 set -u
 build=$1
 src=$2
 shift 2
 extra=("$@")
+cc=${APP_S2J_CC:-cc}
+read -r -a run <<< "${APP_S2J_EMULATOR:-}"
+cmake_cross=()
+[ -n "${APP_S2J_TOOLCHAIN:-}" ] && cmake_cross=(-DCMAKE_TOOLCHAIN_FILE="$APP_S2J_TOOLCHAIN")
 tmp=$(mktemp -d)
 trap '[ -n "${KEEP:-}" ] || rm -rf "$tmp"' EXIT
 prefix=$tmp/prefix
@@ -46,16 +52,30 @@ if [ "$declared" = "$exported" ]; then ok; else fail "exports differ from declar
 export PKG_CONFIG_PATH=$libdir/pkgconfig
 check "pkg-config finds app_s2j" pkg-config --exists app_s2j
 check "C99 consumer compiles against the installed header (pkg-config)" \
-  cc -std=c99 -pedantic-errors -Wall -Wextra -Werror "${extra[@]}" "$src/tests/consumer/consumer.c" \
+  "$cc" -std=c99 -pedantic-errors -Wall -Wextra -Werror "${extra[@]}" "$src/tests/consumer/consumer.c" \
      $(pkg-config --cflags --libs app_s2j) -o "$tmp/consumer"
 mkdir -p "$tmp/data"
-if LD_LIBRARY_PATH=$libdir "$tmp/consumer" "$tmp/data" > "$tmp/run" 2>&1 && grep -q "consumer ok" "$tmp/run"; then ok; else fail "pkg-config consumer runs"; cat "$tmp/run"; fi
+if LD_LIBRARY_PATH=$libdir "${run[@]}" "$tmp/consumer" "$tmp/data" > "$tmp/run" 2>&1 && grep -q "consumer ok" "$tmp/run"; then ok; else fail "pkg-config consumer runs"; cat "$tmp/run"; fi
 
 # The same through the CMake package.
-check "CMake consumer configures" cmake -S "$src/tests/consumer" -B "$tmp/cbuild" -DCMAKE_PREFIX_PATH="$prefix" \
+check "CMake consumer configures" cmake -S "$src/tests/consumer" -B "$tmp/cbuild" -DCMAKE_PREFIX_PATH="$prefix" "${cmake_cross[@]}" \
   -DCMAKE_C_FLAGS="${extra[*]}" -DCMAKE_EXE_LINKER_FLAGS="${extra[*]}"
 check "CMake consumer builds" cmake --build "$tmp/cbuild"
-if LD_LIBRARY_PATH=$libdir "$tmp/cbuild/consumer" "$tmp/data" > "$tmp/run" 2>&1 && grep -q "consumer ok" "$tmp/run"; then ok; else fail "CMake consumer runs"; cat "$tmp/run"; fi
+if LD_LIBRARY_PATH=$libdir "${run[@]}" "$tmp/cbuild/consumer" "$tmp/data" > "$tmp/run" 2>&1 && grep -q "consumer ok" "$tmp/run"; then ok; else fail "CMake consumer runs"; cat "$tmp/run"; fi
+
+# The example consumer, examples/c-consumer: through its Makefile (pkg-config)
+# and through its CMake project, each built and run against the install.
+. "$src/tests/schedule_request_checks.sh"
+mkdir -p "$tmp/mk"
+check "examples/c-consumer builds with make and pkg-config" \
+  make -C "$tmp/mk" -f "$src/examples/c-consumer/Makefile" VPATH="$src/examples/c-consumer" \
+       CC="$cc" CFLAGS="-O2 ${extra[*]}" LDFLAGS="${extra[*]}"
+LD_LIBRARY_PATH=$libdir schedule_request_checks "schedule_request (pkg-config)" "${run[@]}" "$tmp/mk/schedule_request"
+check "examples/c-consumer configures with find_package" \
+  cmake -S "$src/examples/c-consumer" -B "$tmp/ebuild" -DCMAKE_PREFIX_PATH="$prefix" "${cmake_cross[@]}" \
+  -DCMAKE_C_FLAGS="${extra[*]}" -DCMAKE_EXE_LINKER_FLAGS="${extra[*]}"
+check "examples/c-consumer builds with CMake" cmake --build "$tmp/ebuild"
+LD_LIBRARY_PATH=$libdir schedule_request_checks "schedule_request (CMake)" "${run[@]}" "$tmp/ebuild/schedule_request"
 
 echo "$passed passed, $failed failed"
 [ "$failed" -eq 0 ]
