@@ -122,6 +122,18 @@ TEST(IsInt, LeadingZerosThatTheParserAcceptsGiveTheDecimalValue) {
     EXPECT_EQ(s2j::int_value(tree.p->child->next), -12);
 }
 
+TEST(IsInt, LiteralsOfMoreThan19DigitsAreSummedWithoutWrapping) {
+    Tree small(parse("[0000000000000000000000007, -0000000000000000000009223372036854775808]"));
+    ASSERT_NE(small.p, nullptr);
+    EXPECT_TRUE(cJSON_IsInt(small.p->child));
+    EXPECT_EQ(s2j::int_value(small.p->child), 7);
+    EXPECT_EQ(s2j::int_value(small.p->child->next), INT64_MIN);
+    // 2^64 and 2^64 + 7 would wrap to 0 and 7 in 64 bits.
+    Tree wrap(parse("[18446744073709551616, 18446744073709551623, 184467440737095516160]"));
+    ASSERT_NE(wrap.p, nullptr);
+    for (const cJSON *c = wrap.p->child; c != nullptr; c = c->next) EXPECT_FALSE(cJSON_IsInt(c));
+}
+
 TEST(IsInt, NumbersInsideStringsAndKeysDoNotShiftTheMarking) {
     Tree tree(parse("{\"1.5\": \"2.5 \\\"3e4\", \"k9\": 12, \"x\": [1.5, 9223372036854775807, {\"7\": -3}]}"));
     ASSERT_NE(tree.p, nullptr);

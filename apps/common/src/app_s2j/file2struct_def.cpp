@@ -67,7 +67,8 @@ int write_text(const char *path, char *text) {
 
 }  // namespace
 
-int file_f2s(Site s, const char *type, const char *fine_name, void *rec, int (*j2s)(const char *, void *)) {
+// Kept out of line: each of the many members below is then a tail call.
+__attribute__((noinline)) int file_f2s(Site s, const char *type, const char *fine_name, void *rec, int (*j2s)(const char *, void *)) {
     if (fine_name == nullptr) {
         diag(s, type, S2J_MSG_FINE_NAME_EMPTY);
         return -2;
@@ -80,7 +81,7 @@ int file_f2s(Site s, const char *type, const char *fine_name, void *rec, int (*j
     return rc;
 }
 
-int file_f2s_array(Site s, const char *type, const char *fine_name, void *arr, uint32_t *count,
+__attribute__((noinline)) int file_f2s_array(Site s, const char *type, const char *fine_name, void *arr, uint32_t *count,
                    int (*j2s_array)(const char *, void *, uint32_t *)) {
     if (fine_name == nullptr) {
         diag(s, type, S2J_MSG_FINE_NAME_EMPTY);
@@ -94,7 +95,7 @@ int file_f2s_array(Site s, const char *type, const char *fine_name, void *arr, u
     return rc;
 }
 
-int file_s2f(Site s, const char *type, const char *fine_name, char *(*make_text)(const void *, uint32_t),
+__attribute__((noinline)) int file_s2f(Site s, const char *type, const char *fine_name, char *(*make_text)(const void *, uint32_t),
              const void *data, uint32_t count) {
     if (fine_name == nullptr) {
         diag(s, type, S2J_MSG_FINE_NAME_EMPTY);
@@ -104,7 +105,6 @@ int file_s2f(Site s, const char *type, const char *fine_name, char *(*make_text)
 }
 
 }  // namespace s2j
-
 // Files always hold indented JSON: the writers ask for formatted text.
 #define S2J_DEF_F2S(T) S2J_API int f2s_##T(const char *fine_name, T *struct_ptr) { S2J_SITE(F2S); return ::s2j::file_f2s(site, #T, fine_name, struct_ptr, +[](const char *t, void *p) { return j2s_##T(t, static_cast<T *>(p)); }); }
 #define S2J_DEF_S2F(T) S2J_API int s2f_##T(const char *fine_name, const T *struct_ptr) { S2J_SITE(S2F); return ::s2j::file_s2f(site, #T, fine_name, +[](const void *p, uint32_t) { return s2j_##T(static_cast<const T *>(p), 1); }, struct_ptr, 1); }

@@ -19,7 +19,7 @@ enum class Family : uint8_t {
 };
 
 // Where a family member is defined: what its diagnostics print.  Passed by
-// value in two registers, so that a member needs no data of its own (no
+// value in two registers (three on 32-bit targets), so that a member needs no data of its own (no
 // record, no relocation, no copy of its name): the name is made from the
 // family and the type when a diagnostic is printed.
 struct Site {
@@ -27,7 +27,7 @@ struct Site {
     uint32_t line;
     Family fam;
 };
-static_assert(sizeof(Site) == 16, "a site travels in two registers");
+static_assert(sizeof(Site) == (sizeof(void *) == 8 ? 16 : 12), "a site travels in two registers (three on 32-bit targets)");
 
 // The three writes of a diagnostic: header (file, line and the member's
 // name, made of the family's prefix, the type and the family's suffix),

@@ -104,20 +104,15 @@ constexpr Classes make_classes() {
 
 constexpr Classes kClasses = make_classes();
 
-// Finds the next number literal at or after p, skipping strings (and so keys)
-// as cJSON does.  The text up to the literal is JSON that cJSON has just
-// parsed and the caller knows that one more number is there, so strings are
-// closed and the scan needs no bound before the literal; the literal itself
-// may end the text.  The literal is the whole run of number characters: the
-// packaged cJSON reads a number of any length, and where a parser reads fewer
-// characters the rest fails the parse inside a container and ends the text at
-// the top level, so taking the whole run never moves a later literal onto the
-// wrong item (a cap at 63 did, for a longer number before it).
-void next_number(const char *&p, const char *end, const char **start, size_t *len) {
+// Moves p to the next number literal, skipping strings (and so keys) as cJSON
+// does.  The text up to the literal is JSON that cJSON has just parsed and
+// the caller knows that one more number is there, so strings are closed and
+// the scan needs no bound before the literal.
+void skip_to_number(const char *&p, const char *end) {
     for (;;) {
         uint8_t c;
         while ((c = kClasses.of[static_cast<uint8_t>(*p)]) == kPass) ++p;
-        if (c == kNumber) break;
+        if (c == kNumber) return;
         // A string: its closing quote is the first quote not escaped, that
         // is, not preceded by an odd run of backslashes.
         ++p;
@@ -129,41 +124,57 @@ void next_number(const char *&p, const char *end, const char **start, size_t *le
             if (((q - b) & 1) == 0) break;
         }
     }
-    *start = p;
-    size_t n = 0;
-    while (p < end && is_number_char(*p)) {
-        ++p;
-        ++n;
-    }
-    *len = n;
 }
 
-// Whether the literal that cJSON's strtod() reads from s is an integer: an
-// optional '-' and digits, not followed by a fraction or an exponent.
-bool integer_literal(const char *s, size_t n, int64_t *value) {
-    size_t i = (n > 0 && s[0] == '-') ? 1 : 0;
-    size_t digits_start = i;
-    while (i < n && s[i] >= '0' && s[i] <= '9') ++i;
-    if (i == digits_start) return false;
-    if (i < n) {
-        char c = s[i];
-        if (c == '.') return false;
-        if (c == 'e' || c == 'E') {
-            size_t j = i + 1;
-            if (j < n && (s[j] == '+' || s[j] == '-')) ++j;
-            if (j < n && s[j] >= '0' && s[j] <= '9') return false;  // a real exponent
+// Reads the number literal at p, moving p past it, in one pass: whether it is
+// an integer as cJSON's strtod() reads it (an optional '-' and digits, not
+// followed by a fraction or an exponent, within the int64_t range) and then
+// its exact value.  The literal is the whole run of number characters: the
+// packaged cJSON reads a number of any length, and where a parser reads fewer
+// characters the rest fails the parse inside a container and ends the text
+// at the top level, so taking the whole run never moves a later literal onto
+// the wrong item (a cap at 63 did, for a longer number before it).  The
+// literal may end the text.
+bool read_literal(const char *&p, const char *end, int64_t *value) {
+    const bool neg = *p == '-';
+    if (neg) ++p;
+    const char *digits = p;
+    uint64_t u = 0;
+    for (unsigned d; p < end && (d = static_cast<unsigned char>(*p) - '0') <= 9; ++p) u = u * 10 + d;
+    // Up to 19 digits cannot wrap 64 bits; a longer run (leading zeros, or
+    // a value out of range) is summed again with overflow checks.
+    bool overflow = false;
+    if (p - digits > 19) {
+        u = 0;
+        for (const char *q = digits; q < p && !overflow; ++q)
+            overflow = __builtin_mul_overflow(u, 10u, &u) || __builtin_add_overflow(u, static_cast<unsigned>(*q - '0'), &u);
+    }
+    bool integer = p != digits;
+    if (p < end && integer) {
+        if (*p == '.') {
+            integer = false;
+        } else if (*p == 'e' || *p == 'E') {
+            const char *x = p + 1;
+            if (x < end && (*x == '+' || *x == '-')) ++x;
+            if (x < end && static_cast<unsigned>(static_cast<unsigned char>(*x) - '0') <= 9) integer = false;
         }
     }
-    return parse_int(s, i, value);
+    while (p < end && is_number_char(*p)) ++p;
+    const uint64_t limit = neg ? (uint64_t{1} << 63) : (uint64_t{1} << 63) - 1;
+    if (!integer || overflow || u > limit) return false;
+    *value = neg ? static_cast<int64_t>(0 - u) : static_cast<int64_t>(u);
+    return true;
 }
 
 }  // namespace
 
 cJSON *parse_marked(const char *text, size_t len, bool with_len) {
-    cJSON *root = with_len ? cJSON_ParseWithLength(text, len) : cJSON_Parse(text);
+    // cJSON_Parse and cJSON_ParseWithLength are these calls without the end
+    // pointer; the end bounds the scan below without measuring the text.
+    const char *end = nullptr;
+    cJSON *root = with_len ? cJSON_ParseWithLengthOpts(text, len, &end, 0) : cJSON_ParseWithOpts(text, &end, 0);
     if (root == nullptr) return nullptr;
     const char *p = text;
-    const char *end = with_len ? text + len : text + std::strlen(text);
 
     // Pre-order walk: cJSON builds children in text order, so the n-th
     // number item of the walk is the n-th number literal of the text.
@@ -175,11 +186,9 @@ cJSON *parse_marked(const char *text, size_t len, bool with_len) {
         if (item->next != nullptr && item != root) stack[depth++] = item->next;
         if (item->child != nullptr) stack[depth++] = item->child;
         if (type_of(item) != cJSON_Number) continue;
-        const char *lit = nullptr;
-        size_t lit_len = 0;
         int64_t v = 0;
-        next_number(p, end, &lit, &lit_len);
-        if (!integer_literal(lit, lit_len, &v)) {
+        skip_to_number(p, end);
+        if (!read_literal(p, end, &v)) {
             item->type |= kNotIntMark;
             continue;
         }
@@ -189,10 +198,10 @@ cJSON *parse_marked(const char *text, size_t len, bool with_len) {
                 return nullptr;
             }
         } else {
-            // The exact value, also for "-0", which must print as 0.
+            // cJSON's strtod() already holds the exact value below 10^15
+            // (< 2^53), and its int; only "-0" must become 0, to print as 0.
             item->type |= kIntMark;
-            item->valuedouble = static_cast<double>(v);
-            item->valueint = saturate_int(v);
+            if (v == 0) item->valuedouble = 0.0;
         }
     }
     return root;
