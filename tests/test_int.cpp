@@ -134,6 +134,25 @@ TEST(IsInt, LiteralsOfMoreThan19DigitsAreSummedWithoutWrapping) {
     for (const cJSON *c = wrap.p->child; c != nullptr; c = c->next) EXPECT_FALSE(cJSON_IsInt(c));
 }
 
+TEST(IsInt, DeeplyNestedDocumentsAreMarkedAtEveryLevel) {
+    for (int levels : {31, 32, 33, 200, 999}) {
+        std::string text;
+        for (int i = 0; i < levels; ++i) text += "[" + std::to_string(i) + ", 1.5, ";
+        text += "7";
+        for (int i = levels - 1; i >= 0; --i) text += ", " + std::to_string(i) + "]";
+        Tree tree(parse(text.c_str()));
+        ASSERT_NE(tree.p, nullptr) << levels;
+        const cJSON *a = tree.p;
+        for (int i = 0; i < levels - 1; ++i) {
+            ASSERT_EQ(s2j::int_value(a->child), i);
+            EXPECT_FALSE(cJSON_IsInt(a->child->next));
+            EXPECT_EQ(s2j::int_value(cJSON_GetArrayItem(a, 3)), i);
+            a = a->child->next->next;
+        }
+        EXPECT_EQ(s2j::int_value(a->child->next->next), 7) << levels;
+    }
+}
+
 TEST(IsInt, NumbersInsideStringsAndKeysDoNotShiftTheMarking) {
     Tree tree(parse("{\"1.5\": \"2.5 \\\"3e4\", \"k9\": 12, \"x\": [1.5, 9223372036854775807, {\"7\": -3}]}"));
     ASSERT_NE(tree.p, nullptr);

@@ -1,6 +1,7 @@
 // s2j_parse.cpp - decimal text of integer items, and parsing that marks every
 // number of a text as an integer item or not (see s2j_int.cpp for the
 // representation).
+#include <cstdlib>
 #include <cstring>
 
 #include "s2j_internal.h"
@@ -166,6 +167,18 @@ bool read_literal(const char *&p, const char *end, int64_t *value) {
     return true;
 }
 
+// Moves the walk's stack to the heap, with room for cJSON's deepest tree.
+bool grow(cJSON ***stack, size_t *capacity, cJSON **local, size_t depth) {
+    const size_t room = CJSON_NESTING_LIMIT + 8;
+    if (*stack != local) return depth < *capacity;  // never short: cJSON nests no deeper
+    cJSON **heap = static_cast<cJSON **>(std::malloc(room * sizeof *heap));
+    if (heap == nullptr) return false;
+    std::memcpy(heap, local, depth * sizeof *heap);
+    *stack = heap;
+    *capacity = room;
+    return true;
+}
+
 }  // namespace
 
 cJSON *parse_marked(const char *text, size_t len, bool with_len) {
@@ -178,13 +191,25 @@ cJSON *parse_marked(const char *text, size_t len, bool with_len) {
 
     // Pre-order walk: cJSON builds children in text order, so the n-th
     // number item of the walk is the n-th number literal of the text.
-    cJSON *stack[CJSON_NESTING_LIMIT + 2];
+    // The stack holds one pending sibling per level: a few dozen levels fit
+    // on the stack of a small thread; a deeper document (cJSON allows 1000)
+    // moves it to the heap once.
+    cJSON *local[32];
+    cJSON **stack = local;
+    size_t capacity = sizeof local / sizeof local[0];
     size_t depth = 0;
     stack[depth++] = root;
     while (depth > 0) {
         cJSON *item = stack[--depth];
+        // The sibling takes the place just freed; only a child deepens it.
         if (item->next != nullptr && item != root) stack[depth++] = item->next;
-        if (item->child != nullptr) stack[depth++] = item->child;
+        if (item->child != nullptr) {
+            if (depth == capacity && !grow(&stack, &capacity, local, depth)) {
+                cJSON_Delete(root);
+                return nullptr;
+            }
+            stack[depth++] = item->child;
+        }
         if (type_of(item) != cJSON_Number) continue;
         int64_t v = 0;
         skip_to_number(p, end);
@@ -194,6 +219,7 @@ cJSON *parse_marked(const char *text, size_t len, bool with_len) {
         }
         if (v >= kRawThreshold || v <= -kRawThreshold) {
             if (!make_raw(item, v)) {
+                if (stack != local) std::free(stack);
                 cJSON_Delete(root);
                 return nullptr;
             }
@@ -204,6 +230,7 @@ cJSON *parse_marked(const char *text, size_t len, bool with_len) {
             if (v == 0) item->valuedouble = 0.0;
         }
     }
+    if (stack != local) std::free(stack);
     return root;
 }
 
