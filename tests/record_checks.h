@@ -37,7 +37,7 @@ inline std::string d(int line, const std::string &func, const std::string &msg) 
     return testing_support::diag(testing_support::text_list_file(), line, func, msg);
 }
 
-inline bool exported(const std::string &name) { return dlsym(RTLD_DEFAULT, name.c_str()) != nullptr; }
+using testing_support::exported;
 
 // Every exported name a type could have, against the families it should
 // have: "s2j", "c2s", "j2s" (with its _with_len), "s2j_array", "c2s_array",

@@ -1,5 +1,8 @@
 #include "support.h"
 
+#include <dlfcn.h>
+#include <gtest/gtest.h>
+
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -41,6 +44,15 @@ StderrCapture::~StderrCapture() { text(); }
 std::string text_list_file() { return std::string(APP_S2J_SOURCE_DIR) + "/apps/common/src/app_s2j/app_s2j.cpp"; }
 std::string file_list_file() {
     return std::string(APP_S2J_SOURCE_DIR) + "/apps/common/src/app_s2j/file2struct_def.cpp";
+}
+
+bool exported(const std::string &name) { return dlsym(RTLD_DEFAULT, name.c_str()) != nullptr; }
+
+const s2j::Families::Lines &lines_of(const char *type) {
+    const s2j::TypeInfo *t = s2j::find_type(type);
+    EXPECT_NE(t, nullptr) << type << " is not in the registry";
+    static const s2j::Families::Lines none{};
+    return t != nullptr ? t->fam.line : none;
 }
 
 std::string diag(const std::string &file, int line, const std::string &func, const std::string &msg) {

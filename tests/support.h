@@ -6,6 +6,7 @@
 #include <string>
 
 #include "app_s2j.h"
+#include "registry.h"
 
 namespace testing_support {
 
@@ -27,6 +28,13 @@ private:
 // Paths of the instantiation lists as their diagnostics print them.
 std::string text_list_file();
 std::string file_list_file();
+
+// Whether the library exports a function of that name.
+bool exported(const std::string &name);
+
+// The instantiation lines of a registry type's family members (all 0, and a
+// test failure, for a name the registry does not know).
+const s2j::Families::Lines &lines_of(const char *type);
 
 // The three writes of one diagnostic.
 std::string diag(const std::string &file, int line, const std::string &func, const std::string &msg);

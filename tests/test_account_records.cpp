@@ -48,14 +48,7 @@ static_assert(sizeof(((UserList *)0)->UserName) == 64);
 
 namespace {
 
-bool exported(const std::string &sym) { return dlsym(RTLD_DEFAULT, sym.c_str()) != nullptr; }
 
-const s2j::Families::Lines &lines_of(const char *type) {
-    const s2j::TypeInfo *t = s2j::find_type(type);
-    if (t == nullptr) ADD_FAILURE() << type << " is not in the registry";
-    static const s2j::Families::Lines none{};
-    return t ? t->fam.line : none;
-}
 
 // The whole list of family member names a type could have.
 struct FamilySet {

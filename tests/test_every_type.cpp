@@ -452,7 +452,6 @@ TEST_P(EveryType, ExportsExactlyTheFamilyMembersTheRegistryLists) {
     const TypeInfo *t = GetParam();
     const s2j::Families &f = t->fam;
     const std::string T = t->name;
-    auto exported = [](const std::string &sym) { return dlsym(RTLD_DEFAULT, sym.c_str()) != nullptr; };
     EXPECT_TRUE(exported("struct_to_json_" + T));
     EXPECT_TRUE(exported("json_to_struct_" + T));
     EXPECT_EQ(exported("s2j_" + T), f.s2j != nullptr);

@@ -147,14 +147,7 @@ static_assert(sizeof(AudioEncodeParameterKeyword) == 4);
 
 namespace {
 
-bool exported(const std::string &sym) { return dlsym(RTLD_DEFAULT, sym.c_str()) != nullptr; }
 
-const s2j::Families::Lines &lines_of(const char *type) {
-    const s2j::TypeInfo *t = s2j::find_type(type);
-    if (t == nullptr) ADD_FAILURE() << type << " is not in the registry";
-    static const s2j::Families::Lines none{};
-    return t ? t->fam.line : none;
-}
 
 std::string keyword_diag(const char *type) {
     return diag(text_list_file(), lines_of(type).c2s_array_update, std::string("c2s_array_update_") + type,

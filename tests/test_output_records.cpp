@@ -36,15 +36,7 @@ std::string compact(cJSON *tree) {
     return text.str();
 }
 
-bool exported(const std::string &name) { return dlsym(RTLD_DEFAULT, name.c_str()) != nullptr; }
 
-// Line of a family member of one of these types in an instantiation list.
-const s2j::Families::Lines &lines_of(const char *type) {
-    const s2j::TypeInfo *t = s2j::find_type(type);
-    EXPECT_NE(t, nullptr) << type;
-    static const s2j::Families::Lines none = {};
-    return t ? t->fam.line : none;
-}
 
 std::string long_text(char c, size_t n) { return std::string(n, c); }
 

@@ -18,7 +18,6 @@ using namespace testing_support;
 
 namespace {
 
-bool exported(const std::string &name) { return dlsym(RTLD_DEFAULT, name.c_str()) != nullptr; }
 
 // A record whose every byte is `fill`, so that untouched bytes show.
 template <class T>
