@@ -1,34 +1,19 @@
 // app_s2j - command-line front end of libapp_s2j: lists the record types,
-// checks JSON files against a type and prints them back as the library
-// writes them.  Everything goes through the library's own families.
-#include <cerrno>
+// checks and validates JSON files against a type, prints them back as the
+// library writes them, and describes the records (schemas, templates, the
+// reference).  Loading always goes through the library's own families.
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <string>
 #include <vector>
 
-#include "registry.h"
+#include "tool.h"
 
+namespace app_s2j_tool {
 namespace {
 
-const char kUsage[] =
-    "usage: app_s2j types\n"
-    "       app_s2j check TYPE FILE\n"
-    "       app_s2j print TYPE FILE [--compact]\n"
-    "\n"
-    "  types   list every record type with the families it has\n"
-    "  check   load FILE as TYPE (a JSON array as a record array, an object as\n"
-    "          one record) and report success or the library's status\n"
-    "  print   load FILE as TYPE and print it as the library writes it,\n"
-    "          indented, or compact with --compact\n"
-    "\n"
-    "Exit status: 0 on success, 1 when the file does not load, 2 on wrong usage.\n";
-
-int usage_error(const char *why) {
-    std::fprintf(stderr, "app_s2j: %s\n\n%s", why, kUsage);
-    return 2;
-}
+// ---- types -----------------------------------------------------------------
 
 std::string families_of(const s2j::TypeInfo &t) {
     const s2j::Families &f = t.fam;
@@ -53,94 +38,16 @@ std::string families_of(const s2j::TypeInfo &t) {
     return s.empty() ? "(emitter and reader only)" : s;
 }
 
-int list_types() {
+int run_types(const std::vector<std::string> &args) {
+    if (!args.empty()) return usage_error(kTypesCommand, "'types' takes no arguments");
     size_t n = 0;
     const s2j::TypeInfo *types = s2j::registry(&n);
     for (size_t i = 0; i < n; ++i)
         std::printf("%-36s %-10s %s\n", types[i].name, types[i].subsystem, families_of(types[i]).c_str());
-    return 0;
+    return kExitOk;
 }
 
-bool read_whole(const char *path, std::string *text) {
-    FILE *f = std::fopen(path, "rb");
-    if (f == nullptr) {
-        std::fprintf(stderr, "app_s2j: cannot read '%s': %s\n", path, std::strerror(errno));
-        return false;
-    }
-    char buf[65536];
-    size_t got;
-    while ((got = std::fread(buf, 1, sizeof buf, f)) > 0) text->append(buf, got);
-    bool ok = !std::ferror(f);
-    std::fclose(f);
-    if (!ok) std::fprintf(stderr, "app_s2j: cannot read '%s'\n", path);
-    return ok;
-}
-
-// The records loaded from a file: one, or count of an array.
-struct Loaded {
-    bool is_array = false;
-    uint32_t count = 0;
-    std::vector<char> bytes;
-};
-
-// For a type without a text reader of this shape: the tree, parsed by cJSON,
-// read with c2s / c2s_array, or element by element with the type's reader.
-int read_tree(const s2j::TypeInfo &t, const std::string &text, Loaded *out) {
-    const s2j::Families &f = t.fam;
-    cJSON *tree = cJSON_Parse(text.c_str());
-    if (tree == nullptr) {
-        std::fprintf(stderr, "app_s2j: the text does not parse near: %.40s\n", cJSON_GetErrorPtr());
-        return -2;
-    }
-    int rc = 0;
-    if (out->is_array) {
-        out->count = static_cast<uint32_t>(cJSON_GetArraySize(tree));
-        out->bytes.assign(t.desc->size * (out->count == 0 ? 1 : out->count), 0);
-        if (f.c2s_array) {
-            rc = f.c2s_array(tree, out->bytes.data(), &out->count);
-        } else {
-            uint32_t i = 0;
-            for (const cJSON *e = tree->child; e != nullptr && rc == 0; e = e->next, ++i)
-                rc = cJSON_IsObject(e) && t.hooks->read(out->bytes.data() + i * t.desc->size, e) ? 0 : -1;
-        }
-    } else if (f.c2s) {
-        rc = f.c2s(tree, out->bytes.data());
-    } else {
-        rc = cJSON_IsObject(tree) && t.hooks->read(out->bytes.data(), tree) ? 0 : -1;
-    }
-    cJSON_Delete(tree);
-    return rc;
-}
-
-// Loads path as type t through the library: files through the file
-// families where the type has them, else the text or tree families.
-// Returns the library's status (0 on success).
-int load(const s2j::TypeInfo &t, const char *path, const std::string &text, Loaded *out) {
-    const s2j::Families &f = t.fam;
-    size_t i = text.find_first_not_of(" \t\r\n");
-    out->is_array = i != std::string::npos && text[i] == '[';
-    const size_t size = t.desc->size;
-    if (out->is_array) {
-        uint32_t n = 0;
-        int rc;
-        if (f.f2s_array)
-            rc = f.f2s_array(path, nullptr, &n);
-        else if (f.j2s_array)
-            rc = f.j2s_array(text.c_str(), nullptr, &n);
-        else
-            return read_tree(t, text, out);
-        if (rc != 0) return rc;
-        out->bytes.assign(size * (n == 0 ? 1 : n), 0);
-        out->count = n;
-        return f.f2s_array ? f.f2s_array(path, out->bytes.data(), &out->count)
-                           : f.j2s_array(text.c_str(), out->bytes.data(), &out->count);
-    }
-    out->bytes.assign(size, 0);
-    out->count = 1;
-    if (f.f2s) return f.f2s(path, out->bytes.data());
-    if (f.j2s) return f.j2s(text.c_str(), out->bytes.data());
-    return read_tree(t, text, out);
-}
+// ---- check, print ------------------------------------------------------------
 
 const char *status_text(int rc) {
     switch (rc) {
@@ -152,26 +59,51 @@ const char *status_text(int rc) {
     }
 }
 
-int load_or_report(const s2j::TypeInfo &t, const char *path, Loaded *out) {
+int load_or_report(const s2j::TypeInfo &t, const std::string &path, Loaded *out) {
     std::string text;
-    if (!read_whole(path, &text)) return 1;
+    if (!read_whole(path, &text)) return kExitRejected;
     int rc = load(t, path, text, out);
     if (rc != 0) {
-        std::fprintf(stderr, "app_s2j: %s: not a valid %s%s: status %d (%s)\n", path, t.name,
+        std::fprintf(stderr, "app_s2j: %s: not a valid %s%s: status %d (%s)\n", path.c_str(), t.name,
                      out->is_array ? " array" : "", rc, status_text(rc));
-        return 1;
+        return kExitRejected;
     }
-    return 0;
+    return kExitOk;
 }
 
-int check(const s2j::TypeInfo &t, const char *path) {
+// TYPE and FILE, with the flags the command allows (each sets *flag).
+bool type_and_file(const Command &cmd, const std::vector<std::string> &args, const char *flag_name, bool *flag,
+                   std::vector<std::string> *rest, int *status) {
+    for (const std::string &a : args) {
+        if (flag_name != nullptr && a == flag_name) {
+            *flag = true;
+        } else if (a.size() > 1 && a[0] == '-') {
+            *status = usage_error(cmd, "unknown option '" + a + "'");
+            return false;
+        } else {
+            rest->push_back(a);
+        }
+    }
+    if (rest->size() != 2) {
+        *status = usage_error(cmd, std::string("'") + cmd.name + "' takes TYPE and FILE");
+        return false;
+    }
+    return true;
+}
+
+int run_check(const std::vector<std::string> &args) {
+    std::vector<std::string> rest;
+    int status = 0;
+    if (!type_and_file(kCheckCommand, args, nullptr, nullptr, &rest, &status)) return status;
+    const s2j::TypeInfo *t = find_type_or_report(rest[0]);
+    if (t == nullptr) return kExitUsage;
     Loaded l;
-    if (int rc = load_or_report(t, path, &l)) return rc;
+    if (int rc = load_or_report(*t, rest[1], &l)) return rc;
     if (l.is_array)
-        std::printf("%s: valid %s array, %u record%s\n", path, t.name, l.count, l.count == 1 ? "" : "s");
+        std::printf("%s: valid %s array, %u record%s\n", rest[1].c_str(), t->name, l.count, l.count == 1 ? "" : "s");
     else
-        std::printf("%s: valid %s\n", path, t.name);
-    return 0;
+        std::printf("%s: valid %s\n", rest[1].c_str(), t->name);
+    return kExitOk;
 }
 
 char *emit_text(const s2j::TypeInfo &t, const Loaded &l, int formatted) {
@@ -187,47 +119,109 @@ char *emit_text(const s2j::TypeInfo &t, const Loaded &l, int formatted) {
     return text;
 }
 
-int print(const s2j::TypeInfo &t, const char *path, bool compact) {
+int run_print(const std::vector<std::string> &args) {
+    std::vector<std::string> rest;
+    bool compact = false;
+    int status = 0;
+    if (!type_and_file(kPrintCommand, args, "--compact", &compact, &rest, &status)) return status;
+    const s2j::TypeInfo *t = find_type_or_report(rest[0]);
+    if (t == nullptr) return kExitUsage;
+    const std::string &path = rest[1];
     Loaded l;
-    if (int rc = load_or_report(t, path, &l)) return rc;
+    if (int rc = load_or_report(*t, path, &l)) return rc;
     if (l.is_array && l.count == 0) {
-        std::fprintf(stderr, "app_s2j: %s: the array is empty; the library writes no empty arrays\n", path);
-        return 1;
+        std::fprintf(stderr, "app_s2j: %s: the array is empty; the library writes no empty arrays\n", path.c_str());
+        return kExitRejected;
     }
-    char *text = emit_text(t, l, compact ? 0 : 1);
+    char *text = emit_text(*t, l, compact ? 0 : 1);
     if (text == nullptr) {
-        std::fprintf(stderr, "app_s2j: %s could not be written as text\n", t.name);
-        return 1;
+        std::fprintf(stderr, "app_s2j: %s could not be written as text\n", t->name);
+        return kExitRejected;
     }
     std::printf("%s\n", text);
     std::free(text);
-    return 0;
+    return kExitOk;
+}
+
+}  // namespace
+
+const Command kTypesCommand = {
+    "types", "types", "list every record type with its subsystem and the families it has",
+    "Prints one line per record type: its name, its subsystem and the\n"
+    "families the library has for it (keyword and get_keyword are its\n"
+    "keyword readers).\n",
+    run_types};
+
+const Command kCheckCommand = {
+    "check", "check TYPE FILE", "load FILE as TYPE through the library and report the result",
+    "Loads FILE as TYPE with the library's own families: a JSON array as a\n"
+    "record array, an object as one record.  Prints what was loaded, or the\n"
+    "library's diagnostic and status.\n"
+    "\n"
+    "Exit status: 0 loaded, 1 the library rejects the file, 2 wrong usage.\n",
+    run_check};
+
+const Command kPrintCommand = {
+    "print", "print TYPE FILE [--compact]", "load FILE as TYPE and print it as the library writes it",
+    "Loads FILE as check does and prints the records as the library writes\n"
+    "them: indented as in its files, or on one line with --compact.\n"
+    "\n"
+    "Exit status: 0 printed, 1 the library rejects the file (or the array is\n"
+    "empty), 2 wrong usage.\n",
+    run_print};
+
+}  // namespace app_s2j_tool
+
+namespace {
+
+using app_s2j_tool::Command;
+
+// One line per command.
+const Command *const kCommands[] = {
+    &app_s2j_tool::kTypesCommand,
+    &app_s2j_tool::kCheckCommand,
+    &app_s2j_tool::kPrintCommand,
+};
+
+void print_usage(FILE *out) {
+    const char *lead = "usage:";
+    for (const Command *c : kCommands) {
+        std::fprintf(out, "%-6s app_s2j %s\n", lead, c->synopsis);
+        lead = "";
+    }
+    std::fprintf(out, "%-6s app_s2j COMMAND --help\n\n", lead);
+    for (const Command *c : kCommands) std::fprintf(out, "  %-10s %s\n", c->name, c->summary);
+    std::fputs("\n"
+               "Exit status: 0 success, 1 the file is rejected, 2 wrong usage,\n"
+               "3 (validate) the file is accepted but not exactly as written.\n",
+               out);
+}
+
+int usage(const char *why) {
+    std::fprintf(stderr, "app_s2j: %s\n\n", why);
+    print_usage(stderr);
+    return app_s2j_tool::kExitUsage;
 }
 
 }  // namespace
 
 int main(int argc, char **argv) {
-    if (argc < 2) return usage_error("no command given");
-    std::string cmd = argv[1];
-    if (cmd == "-h" || cmd == "--help" || cmd == "help") {
-        std::fputs(kUsage, stdout);
-        return 0;
+    if (argc < 2) return usage("no command given");
+    std::string name = argv[1];
+    if (name == "-h" || name == "--help" || name == "help") {
+        print_usage(stdout);
+        return app_s2j_tool::kExitOk;
     }
-    if (cmd == "types") return argc == 2 ? list_types() : usage_error("'types' takes no arguments");
-    if (cmd != "check" && cmd != "print") return usage_error(("unknown command '" + cmd + "'").c_str());
-    bool compact = false;
-    std::vector<const char *> args;
-    for (int i = 2; i < argc; ++i) {
-        if (cmd == "print" && std::strcmp(argv[i], "--compact") == 0)
-            compact = true;
-        else
-            args.push_back(argv[i]);
+    for (const Command *c : kCommands) {
+        if (name != c->name) continue;
+        std::vector<std::string> args(argv + 2, argv + argc);
+        for (const std::string &a : args) {
+            if (a == "--help" || a == "-h") {
+                std::printf("usage: app_s2j %s\n\n%s", c->synopsis, c->help);
+                return app_s2j_tool::kExitOk;
+            }
+        }
+        return c->run(args);
     }
-    if (args.size() != 2) return usage_error(("'" + cmd + "' takes TYPE and FILE").c_str());
-    const s2j::TypeInfo *t = s2j::find_type(args[0]);
-    if (t == nullptr) {
-        std::fprintf(stderr, "app_s2j: unknown record type '%s' (app_s2j types lists them)\n", args[0]);
-        return 2;
-    }
-    return cmd == "check" ? check(*t, args[1]) : print(*t, args[1], compact);
+    return usage(("unknown command '" + name + "'").c_str());
 }

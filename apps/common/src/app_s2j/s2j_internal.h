@@ -28,6 +28,12 @@ struct Field {
     uint32_t offset;
     uint32_t size;  // bytes
     Kind kind;
+#ifdef S2J_TABLES_ONLY
+    // What the field holds, in words for people (schemas, the reference of
+    // records).  Only the internal library's tables carry it: the shared
+    // library never prints it and does not pay for the text.
+    const char *note;
+#endif
 };
 
 // A key field of a keyed record type: where the record holds it and where its
@@ -189,17 +195,23 @@ bool keys_match(const TypeDesc *d, const void *rec, const void *keyword);
 
 // ---- Table rows --------------------------------------------------------
 
-#define S2J_FIELD(T, m)                                                                        \
+// A row of T's table: member m, and a note on what it holds.
+#ifdef S2J_TABLES_ONLY
+#define S2J_FIELD_NOTE(note) , note
+#else
+#define S2J_FIELD_NOTE(note)
+#endif
+#define S2J_FIELD(T, m, note)                                                                  \
     ::s2j::Field {                                                                             \
         #m, static_cast<uint32_t>(offsetof(T, m)), static_cast<uint32_t>(sizeof(T::m)),        \
-            ::s2j::KindOf<std::remove_cv_t<decltype(T::m)>>::value                              \
+            ::s2j::KindOf<std::remove_cv_t<decltype(T::m)>>::value S2J_FIELD_NOTE(note)         \
     }
 // A key field of T that its keyword record T##Keyword holds too.
 #define S2J_KEY(T, m) \
-    ::s2j::Key { S2J_FIELD(T, m), static_cast<uint32_t>(offsetof(T##Keyword, m)) }
+    ::s2j::Key { S2J_FIELD(T, m, "key field"), static_cast<uint32_t>(offsetof(T##Keyword, m)) }
 // The key field of a type that has only the single-key reader.
 #define S2J_GET_KEY(T, m) \
-    ::s2j::Key { S2J_FIELD(T, m), 0 }
+    ::s2j::Key { S2J_FIELD(T, m, "key field"), 0 }
 
 // ---- Per-type definitions ----------------------------------------------
 //

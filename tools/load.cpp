@@ -1,0 +1,99 @@
+// load.cpp - reading a JSON file as a record type through the library, and
+// the helpers every command shares.
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+#include "tool.h"
+
+namespace app_s2j_tool {
+
+int usage_error(const Command &cmd, const std::string &why) {
+    std::fprintf(stderr, "app_s2j: %s\nusage: app_s2j %s\n(app_s2j %s --help tells more)\n", why.c_str(),
+                 cmd.synopsis, cmd.name);
+    return kExitUsage;
+}
+
+const s2j::TypeInfo *find_type_or_report(const std::string &name) {
+    const s2j::TypeInfo *t = s2j::find_type(name.c_str());
+    if (t == nullptr)
+        std::fprintf(stderr, "app_s2j: unknown record type '%s' (app_s2j types lists them)\n", name.c_str());
+    return t;
+}
+
+bool read_whole(const std::string &path, std::string *text) {
+    FILE *f = std::fopen(path.c_str(), "rb");
+    if (f == nullptr) {
+        std::fprintf(stderr, "app_s2j: cannot read '%s': %s\n", path.c_str(), std::strerror(errno));
+        return false;
+    }
+    char buf[65536];
+    size_t got;
+    while ((got = std::fread(buf, 1, sizeof buf, f)) > 0) text->append(buf, got);
+    bool ok = !std::ferror(f);
+    std::fclose(f);
+    if (!ok) std::fprintf(stderr, "app_s2j: cannot read '%s'\n", path.c_str());
+    return ok;
+}
+
+namespace {
+
+// For a type without a text reader of this shape: the tree, parsed by cJSON,
+// read with c2s / c2s_array, or element by element with the type's reader.
+int read_tree(const s2j::TypeInfo &t, const std::string &text, Loaded *out) {
+    const s2j::Families &f = t.fam;
+    cJSON *tree = cJSON_Parse(text.c_str());
+    if (tree == nullptr) {
+        std::fprintf(stderr, "app_s2j: the text does not parse near: %.40s\n", cJSON_GetErrorPtr());
+        return -2;
+    }
+    int rc = 0;
+    if (out->is_array) {
+        out->count = static_cast<uint32_t>(cJSON_GetArraySize(tree));
+        out->bytes.assign(t.desc->size * (out->count == 0 ? 1 : out->count), 0);
+        if (f.c2s_array) {
+            rc = f.c2s_array(tree, out->bytes.data(), &out->count);
+        } else {
+            uint32_t i = 0;
+            for (const cJSON *e = tree->child; e != nullptr && rc == 0; e = e->next, ++i)
+                rc = cJSON_IsObject(e) && t.hooks->read(out->bytes.data() + i * t.desc->size, e) ? 0 : -1;
+        }
+    } else if (f.c2s) {
+        rc = f.c2s(tree, out->bytes.data());
+    } else {
+        rc = cJSON_IsObject(tree) && t.hooks->read(out->bytes.data(), tree) ? 0 : -1;
+    }
+    cJSON_Delete(tree);
+    return rc;
+}
+
+}  // namespace
+
+int load(const s2j::TypeInfo &t, const std::string &path, const std::string &text, Loaded *out) {
+    const s2j::Families &f = t.fam;
+    size_t i = text.find_first_not_of(" \t\r\n");
+    out->is_array = i != std::string::npos && text[i] == '[';
+    const size_t size = t.desc->size;
+    if (out->is_array) {
+        uint32_t n = 0;
+        int rc;
+        if (f.f2s_array)
+            rc = f.f2s_array(path.c_str(), nullptr, &n);
+        else if (f.j2s_array)
+            rc = f.j2s_array(text.c_str(), nullptr, &n);
+        else
+            return read_tree(t, text, out);
+        if (rc != 0) return rc;
+        out->bytes.assign(size * (n == 0 ? 1 : n), 0);
+        out->count = n;
+        return f.f2s_array ? f.f2s_array(path.c_str(), out->bytes.data(), &out->count)
+                           : f.j2s_array(text.c_str(), out->bytes.data(), &out->count);
+    }
+    out->bytes.assign(size, 0);
+    out->count = 1;
+    if (f.f2s) return f.f2s(path.c_str(), out->bytes.data());
+    if (f.j2s) return f.j2s(text.c_str(), out->bytes.data());
+    return read_tree(t, text, out);
+}
+
+}  // namespace app_s2j_tool
