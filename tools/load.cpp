@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <cstring>
 
+#include "s2j_internal.h"
 #include "tool.h"
 
 namespace app_s2j_tool {
@@ -38,11 +39,12 @@ bool read_whole(const std::string &path, std::string *text) {
 
 namespace {
 
-// For a type without a text reader of this shape: the tree, parsed by cJSON,
+// For a type without a text reader of this shape: the tree, parsed as the
+// library's text readers parse (numbers marked as integer literals or not),
 // read with c2s / c2s_array, or element by element with the type's reader.
 int read_tree(const s2j::TypeInfo &t, const std::string &text, Loaded *out) {
     const s2j::Families &f = t.fam;
-    cJSON *tree = cJSON_Parse(text.c_str());
+    cJSON *tree = s2j::parse_marked(text.c_str(), 0, false);
     if (tree == nullptr) {
         std::fprintf(stderr, "app_s2j: the text does not parse near: %.40s\n", cJSON_GetErrorPtr());
         return -2;

@@ -1,0 +1,519 @@
+// validate.cpp - the validate command: reads a document the way the
+// library's readers do and names every member they would reject, cut,
+// truncate, ignore or read under another spelling.
+//
+// The rules below follow the record reader member for member: a key matches
+// a field when the two are equal after ASCII tolower(), the first matching
+// member is the one read, a missing field is left as it was, an integer
+// field takes an integer literal only (stored modulo its width), a string
+// field keeps at most its capacity less one bytes, and a list takes its
+// entries by position, skipping entries that are not integers.
+#include "validate.h"
+
+#include <algorithm>
+#include <cctype>
+#include <cinttypes>
+#include <cstdarg>
+#include <cmath>
+#include <cstdio>
+#include <cstring>
+
+#include "s2j_internal.h"
+
+namespace app_s2j_tool {
+
+bool Validation::accepted() const {
+    return std::none_of(findings.begin(), findings.end(), [](const Finding &f) { return f.level == Finding::kError; });
+}
+
+int Validation::exit_status() const {
+    if (!accepted()) return kExitRejected;
+    for (const Finding &f : findings)
+        if (f.level == Finding::kWarning) return kExitAltered;
+    return kExitOk;
+}
+
+namespace {
+
+using s2j::Field;
+using s2j::Kind;
+
+std::string printf_string(const char *fmt, ...) __attribute__((format(printf, 1, 2)));
+std::string printf_string(const char *fmt, ...) {
+    char buf[512];
+    va_list ap;
+    va_start(ap, fmt);
+    std::vsnprintf(buf, sizeof buf, fmt, ap);
+    va_end(ap);
+    return buf;
+}
+
+// The record reader's key comparison: equal bytes, or equal after tolower().
+bool same_key(const char *a, const char *b) {
+    for (;; ++a, ++b) {
+        unsigned char x = static_cast<unsigned char>(*a), y = static_cast<unsigned char>(*b);
+        if (x != y && std::tolower(x) != std::tolower(y)) return false;
+        if (x == '\0') return true;
+    }
+}
+
+// Edit distance between a and b without regard to case, counting an
+// exchange of two neighbouring letters as one edit.
+size_t distance(const std::string &a, const std::string &b) {
+    const size_t n = a.size(), m = b.size();
+    std::vector<std::vector<size_t>> d(n + 1, std::vector<size_t>(m + 1));
+    for (size_t i = 0; i <= n; ++i) d[i][0] = i;
+    for (size_t j = 0; j <= m; ++j) d[0][j] = j;
+    auto low = [](char c) { return std::tolower(static_cast<unsigned char>(c)); };
+    for (size_t i = 1; i <= n; ++i) {
+        for (size_t j = 1; j <= m; ++j) {
+            size_t cost = low(a[i - 1]) == low(b[j - 1]) ? 0 : 1;
+            d[i][j] = std::min({d[i - 1][j] + 1, d[i][j - 1] + 1, d[i - 1][j - 1] + cost});
+            if (i > 1 && j > 1 && low(a[i - 1]) == low(b[j - 2]) && low(a[i - 2]) == low(b[j - 1]))
+                d[i][j] = std::min(d[i][j], d[i - 2][j - 2] + 1);
+        }
+    }
+    return d[n][m];
+}
+
+// Text of a string value for a message: at most 40 bytes, quoted.
+std::string quoted(const char *s) {
+    std::string out = "\"";
+    size_t n = std::strlen(s);
+    for (size_t i = 0; i < n && i < 40; ++i) {
+        char c = s[i];
+        if (c == '"' || c == '\\') out += '\\';
+        if (static_cast<unsigned char>(c) < 0x20)
+            out += printf_string("\\u%04x", static_cast<unsigned>(c));
+        else
+            out += c;
+    }
+    if (n > 40) out += "...";
+    return out + "\"";
+}
+
+// What a JSON value is, for "found ..." in a message.
+std::string describe(const cJSON *m) {
+    switch (s2j::type_of(m)) {
+        case cJSON_String: return "a string (" + quoted(m->valuestring != nullptr ? m->valuestring : "") + ")";
+        case cJSON_True: return "true";
+        case cJSON_False: return "false";
+        case cJSON_NULL: return "null";
+        case cJSON_Object: return m->child == nullptr ? "an empty object" : "an object";
+        case cJSON_Array: return m->child == nullptr ? "an empty array" : "an array";
+        case cJSON_Number:
+        case cJSON_Raw:
+            if (s2j::is_int(m)) return printf_string("the integer %" PRId64, s2j::int_value(m));
+            return printf_string("the number %.17g", m->valuedouble);
+        default: return "a value of unknown kind";
+    }
+}
+
+// Why a number is not an integer to the library.
+std::string not_integer_why(const cJSON *m) {
+    if (s2j::type_of(m) != cJSON_Number) return "";
+    if (!(std::fabs(m->valuedouble) < s2j::kTwo63)) return ", beyond the 64-bit integer range";
+    return ", written with a fraction or an exponent (integer fields take digits only)";
+}
+
+const char *c_type(const Field &f, std::string *buf) {
+    switch (f.kind) {
+        case Kind::I32: return "int32";
+        case Kind::U32: return "uint32";
+        case Kind::U16: return "uint16";
+        case Kind::Str: *buf = printf_string("char[%u]", f.size); return buf->c_str();
+        case Kind::U32List: *buf = printf_string("uint32[%u]", f.size / 4); return buf->c_str();
+    }
+    return "?";
+}
+
+class Checker {
+public:
+    Checker(const s2j::TypeInfo &t, Validation *out) : t_(t), d_(*t.desc), out_(out) {}
+
+    void add(Finding::Level level, const std::string &place, const std::string &text) {
+        out_->findings.push_back(Finding{level, place, text});
+    }
+
+    // One record; prefix is the place of the record ("" or "[3]").
+    void record(const cJSON *obj, const std::string &prefix) {
+        const uint32_t n = d_.field_count;
+        std::vector<const cJSON *> match(n, nullptr);
+        for (uint32_t i = 0; i < n; ++i)
+            for (const cJSON *m = obj->child; m != nullptr && match[i] == nullptr; m = m->next)
+                if (m->string != nullptr && same_key(m->string, d_.fields[i].key)) match[i] = m;
+        // Members in document order: unknown, repeated, or spelt otherwise.
+        for (const cJSON *m = obj->child; m != nullptr; m = m->next) {
+            if (m->string == nullptr) continue;
+            const std::string place = member_place(prefix, m->string);
+            const Field *read_as = nullptr;
+            const Field *also = nullptr;
+            for (uint32_t i = 0; i < n; ++i) {
+                if (match[i] != m) continue;
+                if (read_as == nullptr) read_as = &d_.fields[i]; else also = &d_.fields[i];
+            }
+            if (read_as == nullptr) {
+                const Field *same = field_matching(m->string);
+                if (same != nullptr)
+                    add(Finding::kWarning, place,
+                        printf_string("\"%s\" appears again; the library reads only the first and ignores this one",
+                                      same->key));
+                else
+                    unknown_key(m->string, place);
+                continue;
+            }
+            if (std::strcmp(m->string, read_as->key) != 0)
+                add(Finding::kWarning, place,
+                    printf_string("the key differs from \"%s\" only in letter case; the library reads it as \"%s\"",
+                                  read_as->key, read_as->key));
+            field(*read_as, m, place);
+            if (also != nullptr) {
+                add(Finding::kWarning, place,
+                    printf_string("the library reads this member into both \"%s\" and \"%s\"", read_as->key,
+                                  also->key));
+                field(*also, m, place);
+            }
+        }
+    }
+
+    // The key fields an update element must have.
+    void update_keys(const cJSON *elem, const std::string &prefix, Finding::Level level) {
+        for (uint32_t k = 0; k < d_.key_count; ++k) {
+            const char *key = d_.keys[k].field.key;
+            if (cJSON_GetObjectItem(elem, key) != nullptr) continue;
+            add(level, prefix,
+                level == Finding::kError
+                    ? printf_string("no \"%s\": every element of an update names its record by its key field%s",
+                                    key, d_.key_count > 1 ? "s" : "")
+                    : printf_string("no \"%s\": fine in a record array, but an update (j2s_array_update_%s) "
+                                    "rejects an element without its key field%s",
+                                    key, t_.name, d_.key_count > 1 ? "s" : ""));
+        }
+    }
+
+private:
+    static std::string member_place(const std::string &prefix, const char *name) {
+        return prefix.empty() ? std::string(name) : prefix + "." + name;
+    }
+
+    const Field *field_matching(const char *name) const {
+        for (uint32_t i = 0; i < d_.field_count; ++i)
+            if (same_key(name, d_.fields[i].key)) return &d_.fields[i];
+        return nullptr;
+    }
+
+    void unknown_key(const char *name, const std::string &place) {
+        const Field *best = nullptr;
+        size_t best_distance = 0;
+        for (uint32_t i = 0; i < d_.field_count; ++i) {
+            size_t dist = distance(name, d_.fields[i].key);
+            if (best == nullptr || dist < best_distance) {
+                best = &d_.fields[i];
+                best_distance = dist;
+            }
+        }
+        // A likely misspelling: a few edits, fewer for short keys.
+        const size_t len = std::strlen(name);
+        const size_t limit = len <= 4 ? 1 : len <= 12 ? 2 : 3;
+        if (best != nullptr && best_distance <= limit)
+            add(Finding::kWarning, place,
+                printf_string("unknown key, ignored by the library; did you mean \"%s\"?", best->key));
+        else
+            add(Finding::kWarning, place, printf_string("unknown key, ignored by the library (%s has no such field)",
+                                                        t_.name));
+    }
+
+    void field(const Field &f, const cJSON *m, const std::string &place) {
+        std::string tbuf;
+        const char *ctype = c_type(f, &tbuf);
+        switch (f.kind) {
+            case Kind::I32:
+            case Kind::U32:
+            case Kind::U16:
+                if (!s2j::is_int(m)) {
+                    add(Finding::kError, place, "expected an integer, found " + describe(m) + not_integer_why(m));
+                    return;
+                }
+                integer(f.kind, s2j::int_value(m), place, ctype);
+                return;
+            case Kind::Str: {
+                if (!cJSON_IsString(m)) {
+                    add(Finding::kError, place, "expected a string, found " + describe(m));
+                    return;
+                }
+                const char *s = m->valuestring != nullptr ? m->valuestring : "";
+                size_t len = std::strlen(s);
+                if (len >= f.size) {
+                    bool mid_char = (static_cast<unsigned char>(s[f.size - 1]) & 0xC0) == 0x80;
+                    add(Finding::kWarning, place,
+                        printf_string("a string of %zu bytes; %s keeps at most %u, the library cuts the rest%s", len,
+                                      ctype, f.size - 1, mid_char ? " (inside a multi-byte character)" : ""));
+                }
+                return;
+            }
+            case Kind::U32List:
+                list(f, m, place, ctype);
+                return;
+        }
+    }
+
+    void integer(Kind kind, int64_t v, const std::string &place, const char *ctype) {
+        int64_t lo = kind == Kind::I32 ? INT32_MIN : 0;
+        int64_t hi = kind == Kind::I32 ? INT32_MAX : kind == Kind::U32 ? int64_t{UINT32_MAX} : int64_t{UINT16_MAX};
+        if (v >= lo && v <= hi) return;
+        uint64_t bits = static_cast<uint64_t>(v);
+        int64_t stored = kind == Kind::I32   ? static_cast<int32_t>(static_cast<uint32_t>(bits))
+                         : kind == Kind::U32 ? static_cast<int64_t>(static_cast<uint32_t>(bits))
+                                             : static_cast<int64_t>(static_cast<uint16_t>(bits));
+        add(Finding::kWarning, place,
+            printf_string("%" PRId64 " does not fit %s (%" PRId64 "..%" PRId64 "); the library stores %" PRId64, v,
+                          ctype, lo, hi, stored));
+    }
+
+    void list(const Field &f, const cJSON *m, const std::string &place, const char *ctype) {
+        const uint32_t capacity = f.size / 4;
+        if (m->child == nullptr) {
+            add(Finding::kError, place,
+                printf_string("expected an array of 1 to %u integers, found %s", capacity, describe(m).c_str()));
+            return;
+        }
+        bool any = false;
+        uint32_t entries = 0, i = 0;
+        for (const cJSON *c = m->child; c != nullptr; c = c->next, ++entries)
+            if (entries < capacity && s2j::is_int(c)) any = true;
+        if (!any) {
+            add(Finding::kError, place,
+                printf_string("expected an array of 1 to %u integers, found no integer among its first %u entries",
+                              capacity, std::min(entries, capacity)));
+            return;
+        }
+        if (s2j::type_of(m) == cJSON_Object)
+            add(Finding::kWarning, place,
+                "expected an array, found an object; the library takes the values of its members as the entries");
+        for (const cJSON *c = m->child; c != nullptr && i < capacity; c = c->next, ++i) {
+            const std::string at = place + printf_string("[%u]", i);
+            if (!s2j::is_int(c))
+                add(Finding::kWarning, at,
+                    "expected an integer, found " + describe(c) + not_integer_why(c) +
+                        "; the library skips it and leaves the entry as it was");
+            else
+                integer(Kind::U32, s2j::int_value(c), at, "uint32");
+        }
+        if (entries < capacity)
+            add(Finding::kNote, place,
+                printf_string("%u entr%s for %s; the library sets %s and leaves the other %u as they were", entries,
+                              entries == 1 ? "y" : "ies", ctype, entries == 1 ? "it" : "these", capacity - entries));
+        if (entries > capacity)
+            add(Finding::kWarning, place,
+                printf_string("%u entries; %s keeps the first %u and the library ignores the rest", entries, ctype,
+                              capacity));
+    }
+
+    const s2j::TypeInfo &t_;
+    const s2j::TypeDesc &d_;
+    Validation *out_;
+};
+
+bool has_array_reader(const s2j::Families &f) { return f.c2s_array || f.j2s_array || f.f2s_array; }
+
+// Line and column (from 1) of byte offset at of text.
+std::string position(const char *text, size_t at) {
+    size_t line = 1, col = 1;
+    for (size_t i = 0; i < at; ++i) {
+        if (text[i] == '\n') {
+            ++line;
+            col = 1;
+        } else {
+            ++col;
+        }
+    }
+    return printf_string("line %zu, column %zu", line, col);
+}
+
+}  // namespace
+
+Validation validate_text(const s2j::TypeInfo &t, const std::string &whole, bool update) {
+    Validation v;
+    Checker check(t, &v);
+    const char *text = whole.c_str();
+    const size_t len = std::strlen(text);
+    if (len < whole.size())
+        check.add(Finding::kWarning, "",
+                  printf_string("a NUL byte at offset %zu (%s) ends the text; the library reads no further", len,
+                                position(text, len).c_str()));
+    cJSON *tree = s2j::parse_marked(text, 0, false);
+    if (tree == nullptr) {
+        const char *e = cJSON_GetErrorPtr();
+        size_t at = e != nullptr && e >= text && e <= text + len ? static_cast<size_t>(e - text) : len;
+        check.add(Finding::kError, "",
+                  at >= len ? "the text is not JSON: it ends before the document does"
+                            : "the text is not JSON: it stops parsing at " + position(text, at) + ", near " +
+                                  quoted(std::string(text + at, std::min<size_t>(len - at, 20)).c_str()));
+        return v;
+    }
+    // Text after the document: the library's parser stops at the document's end.
+    const char *end = nullptr;
+    cJSON_Delete(cJSON_ParseWithOpts(text, &end, 0));
+    if (end != nullptr) {
+        size_t at = static_cast<size_t>(end - text);
+        while (at < len && std::strchr(" \t\r\n", text[at]) != nullptr) ++at;
+        if (at < len)
+            check.add(Finding::kWarning, "",
+                      "text after the document, from " + position(text, at) + ", is ignored by the library");
+    }
+    size_t first = whole.find_first_not_of(" \t\r\n");
+    v.is_array = first != std::string::npos && first < len && text[first] == '[';
+    if (update) {
+        v.is_array = true;
+        if (!cJSON_IsArray(tree)) {
+            check.add(Finding::kError, "", "expected an array: an update request is an array of records, found " +
+                                               describe(tree));
+            cJSON_Delete(tree);
+            return v;
+        }
+    }
+    if (!v.is_array) {
+        v.records = 1;
+        if (!cJSON_IsObject(tree))
+            check.add(Finding::kError, "",
+                      "expected an object (one " + std::string(t.name) + " record) or an array of records, found " +
+                          describe(tree));
+        else
+            check.record(tree, "");
+        cJSON_Delete(tree);
+        return v;
+    }
+    const bool array_reader = has_array_reader(t.fam);
+    size_t i = 0;
+    for (const cJSON *e = tree->child; e != nullptr; e = e->next, ++i) {
+        const std::string place = printf_string("[%zu]", i);
+        if (update) {
+            check.update_keys(e, place, Finding::kError);
+        } else if (t.fam.c2s_array_update != nullptr && cJSON_IsObject(e)) {
+            check.update_keys(e, place, Finding::kNote);
+        }
+        if (cJSON_IsObject(e)) {
+            check.record(e, place);
+        } else if (update) {
+            // Its keys are missing, which is already an error.
+        } else if (array_reader) {
+            check.add(Finding::kWarning, place,
+                      "expected an object, found " + describe(e) + "; the library reads it as a record with no members");
+        } else {
+            check.add(Finding::kError, place,
+                      "expected an object, found " + describe(e) + "; " + t.name +
+                          " has no array families, so each element is read as one record");
+        }
+    }
+    v.records = i;
+    if (i == 0)
+        check.add(Finding::kNote, "", update ? "the update request is empty: it changes nothing"
+                                             : "the array is empty: it holds no records");
+    cJSON_Delete(tree);
+    return v;
+}
+
+std::string format_findings(const std::string &file, const Validation &v) {
+    static const char *const kLevel[] = {"error", "warning", "note"};
+    std::string out;
+    for (const Finding &f : v.findings) {
+        out += file + ": " + kLevel[f.level] + ": ";
+        if (!f.place.empty()) out += f.place + ": ";
+        out += f.text + "\n";
+    }
+    return out;
+}
+
+namespace {
+
+int run_validate(const std::vector<std::string> &args) {
+    bool update = false, quiet = false;
+    std::vector<std::string> rest;
+    for (const std::string &a : args) {
+        if (a == "--update")
+            update = true;
+        else if (a == "--quiet" || a == "-q")
+            quiet = true;
+        else if (a.size() > 1 && a[0] == '-')
+            return usage_error(kValidateCommand, "unknown option '" + a + "'");
+        else
+            rest.push_back(a);
+    }
+    if (rest.size() != 2) return usage_error(kValidateCommand, "'validate' takes TYPE and FILE");
+    const s2j::TypeInfo *t = find_type_or_report(rest[0]);
+    if (t == nullptr) return kExitUsage;
+    if (update && t->fam.c2s_array_update == nullptr)
+        return usage_error(kValidateCommand, std::string(t->name) + " has no keyed update; --update does not apply");
+    const std::string &path = rest[1];
+    std::string text;
+    if (!read_whole(path, &text)) return kExitRejected;
+    Validation v = validate_text(*t, text, update);
+    std::string report = format_findings(path, v);
+    if (quiet) {
+        std::string kept;
+        for (size_t at = 0, nl; at < report.size(); at = nl + 1) {
+            nl = report.find('\n', at);
+            std::string line = report.substr(at, nl - at + 1);
+            if (line.find(": note: ") == std::string::npos) kept += line;
+        }
+        report = kept;
+    }
+    std::fputs(report.c_str(), stdout);
+    size_t errors = 0, warnings = 0;
+    for (const Finding &f : v.findings) {
+        errors += f.level == Finding::kError;
+        warnings += f.level == Finding::kWarning;
+    }
+    const std::string what = std::string(t->name) + (update ? " update" : v.is_array ? " array" : "");
+    const std::string records = v.is_array ? printf_string(", %zu record%s", v.records, v.records == 1 ? "" : "s") : "";
+    switch (v.exit_status()) {
+        case kExitRejected:
+            std::printf("%s: rejected: the library does not accept this as a %s (%zu error%s)\n", path.c_str(),
+                        what.c_str(), errors, errors == 1 ? "" : "s");
+            break;
+        case kExitAltered:
+            std::printf("%s: accepted as a %s%s, but not as written (%zu warning%s)\n", path.c_str(), what.c_str(),
+                        records.c_str(), warnings, warnings == 1 ? "" : "s");
+            break;
+        default:
+            std::printf("%s: valid %s%s\n", path.c_str(), what.c_str(), records.c_str());
+            break;
+    }
+    return v.exit_status();
+}
+
+}  // namespace
+
+const Command kValidateCommand = {
+    "validate", "validate TYPE FILE [--update] [--quiet]",
+    "explain, member by member, how the library reads FILE as TYPE",
+    "Reads FILE as the library reads it as TYPE (a JSON array as a record\n"
+    "array, an object as one record) and names every problem with its place,\n"
+    "e.g. \"[3].Width\" for the member Width of the fourth element:\n"
+    "\n"
+    "  error    the library rejects the file: text that is not JSON, a document\n"
+    "           that is neither an object nor an array, a member of the wrong\n"
+    "           JSON type (integer fields take integer literals only: 1.0 and\n"
+    "           1e2 are not integers), a list without an integer entry\n"
+    "  warning  the library accepts the file but keeps something other than\n"
+    "           what it says: a string longer than its field (cut), an integer\n"
+    "           outside its field's range (truncated to the field's width), an\n"
+    "           unknown key (ignored; a likely misspelling is named), a key\n"
+    "           that differs from the field's only in letter case, a repeated\n"
+    "           key (only the first is read), list entries that are skipped or\n"
+    "           beyond the list's length, text after the document\n"
+    "  note     worth knowing, read as written: an empty array; in an array of\n"
+    "           a type with keyed update, an element without its key fields\n"
+    "\n"
+    "With --update FILE is read as a keyed update request (j2s_array_update):\n"
+    "an array whose every element has the type's key fields; each element is\n"
+    "checked as if a record with its keys exists.  --quiet leaves out notes.\n"
+    "The findings go to standard output, one line each (FILE: LEVEL: PLACE:\n"
+    "TEXT), followed by one line with the verdict.\n"
+    "\n"
+    "Exit status: 0 the library reads the file exactly as written, 1 it\n"
+    "rejects the file (or the file cannot be read), 2 wrong usage, 3 it\n"
+    "accepts the file but not exactly as written (see the warnings).\n",
+    run_validate};
+
+}  // namespace app_s2j_tool
