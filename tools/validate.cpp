@@ -16,6 +16,7 @@
 #include <cstdarg>
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 
 #include "s2j_internal.h"
@@ -92,6 +93,16 @@ std::string quoted(const char *s) {
     return out + "\"";
 }
 
+// The shortest of %.15g, %.16g and %.17g that reads back as d.
+std::string shortest(double d) {
+    std::string s;
+    for (int digits = 15; digits <= 17; ++digits) {
+        s = printf_string("%.*g", digits, d);
+        if (std::strtod(s.c_str(), nullptr) == d) break;
+    }
+    return s;
+}
+
 // What a JSON value is, for "found ..." in a message.
 std::string describe(const cJSON *m) {
     switch (s2j::type_of(m)) {
@@ -104,7 +115,7 @@ std::string describe(const cJSON *m) {
         case cJSON_Number:
         case cJSON_Raw:
             if (s2j::is_int(m)) return printf_string("the integer %" PRId64, s2j::int_value(m));
-            return printf_string("the number %.17g", m->valuedouble);
+            return "the number " + shortest(m->valuedouble);
         default: return "a value of unknown kind";
     }
 }
@@ -341,14 +352,17 @@ Validation validate_text(const s2j::TypeInfo &t, const std::string &whole, bool 
         check.add(Finding::kWarning, "",
                   printf_string("a NUL byte at offset %zu (%s) ends the text; the library reads no further", len,
                                 position(text, len).c_str()));
+    size_t first = whole.find_first_not_of(" \t\r\n");
+    v.is_array = update || (first != std::string::npos && first < len && text[first] == '[');
     cJSON *tree = s2j::parse_marked(text, 0, false);
     if (tree == nullptr) {
         const char *e = cJSON_GetErrorPtr();
         size_t at = e != nullptr && e >= text && e <= text + len ? static_cast<size_t>(e - text) : len;
+        size_t line_end = std::min({len, at + 20, static_cast<size_t>(std::strcspn(text + at, "\r\n")) + at});
         check.add(Finding::kError, "",
                   at >= len ? "the text is not JSON: it ends before the document does"
                             : "the text is not JSON: it stops parsing at " + position(text, at) + ", near " +
-                                  quoted(std::string(text + at, std::min<size_t>(len - at, 20)).c_str()));
+                                  quoted(std::string(text + at, line_end - at).c_str()));
         return v;
     }
     // Text after the document: the library's parser stops at the document's end.
@@ -361,10 +375,7 @@ Validation validate_text(const s2j::TypeInfo &t, const std::string &whole, bool 
             check.add(Finding::kWarning, "",
                       "text after the document, from " + position(text, at) + ", is ignored by the library");
     }
-    size_t first = whole.find_first_not_of(" \t\r\n");
-    v.is_array = first != std::string::npos && first < len && text[first] == '[';
     if (update) {
-        v.is_array = true;
         if (!cJSON_IsArray(tree)) {
             check.add(Finding::kError, "", "expected an array: an update request is an array of records, found " +
                                                describe(tree));

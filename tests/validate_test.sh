@@ -1,0 +1,82 @@
+#!/usr/bin/env bash
+# Tests of `app_s2j validate` over the hand-made corpus in tests/validate-corpus:
+# every file <Type>.<case>.json (read with --update when <case> starts with
+# "update.") prints exactly its <Type>.<case>.expected (the findings, the
+# verdict and "exit N"), and its verdict on acceptance agrees with the
+# library's as `app_s2j check` reports it.  Then the command's usage.
+# usage: validate_test.sh TOOL CORPUS_DIR [--regenerate]
+#   --regenerate writes the .expected files anew (review the diff!)
+set -u
+tool=$1
+corpus=$2
+regenerate=${3:-}
+tmp=$(mktemp -d)
+trap 'rm -rf "$tmp"' EXIT
+passed=0
+failed=0
+
+ok() { passed=$((passed + 1)); }
+fail() { failed=$((failed + 1)); echo "FAIL: $*"; }
+expect_eq() { if [ "$1" == "$2" ]; then ok; else fail "$3: got [$1] want [$2]"; fi; }
+expect_contains() { case "$1" in *"$2"*) ok ;; *) fail "$3: [$1] lacks [$2]" ;; esac; }
+
+cd "$corpus" || exit 1
+count=0
+for f in *.json; do
+  count=$((count + 1))
+  type=${f%%.*}
+  case $f in "$type".update.*) mode=--update ;; *) mode= ;; esac
+  out=$("$tool" validate "$type" "$f" $mode 2>&1); rc=$?
+  actual=$(printf '%s\nexit %s' "$out" "$rc")
+  expected_file=${f%.json}.expected
+  if [ "$regenerate" == "--regenerate" ]; then printf '%s\n' "$actual" > "$expected_file"; fi
+  if [ ! -f "$expected_file" ]; then
+    fail "$f has no $expected_file (write it with: $0 TOOL CORPUS --regenerate, then review it)"
+    continue
+  fi
+  if [ "$actual" == "$(cat "$expected_file")" ]; then ok; else
+    fail "$f: output differs from $expected_file:"; diff <(printf '%s\n' "$actual") "$expected_file"
+  fi
+  # The verdict on acceptance is the library's.
+  if [ -z "$mode" ]; then
+    "$tool" check "$type" "$f" > /dev/null 2>&1; check_rc=$?
+    if [ "$check_rc" == 1 ]; then want=1; else want=not-1; fi
+    if [ "$rc" == 1 ]; then got=1; else got=not-1; fi
+    expect_eq "$got" "$want" "$f: validate exit $rc, check exit $check_rc"
+  fi
+done
+[ "$count" -ge 20 ] && ok || fail "the corpus holds only $count files"
+for e in *.expected; do [ -f "${e%.expected}.json" ] && ok || fail "$e has no document"; done
+cd - > /dev/null
+
+# Usage.
+out=$("$tool" validate --help); rc=$?
+expect_eq "$rc" "0" "validate --help"
+expect_contains "$out" "usage: app_s2j validate TYPE FILE [--update] [--quiet]" "validate --help synopsis"
+expect_contains "$out" "Exit status: 0 the library reads the file exactly as written" "validate --help exit statuses"
+out=$("$tool" validate 2>&1); rc=$?
+expect_eq "$rc" "2" "validate without arguments"
+expect_eq "$out" "app_s2j: 'validate' takes TYPE and FILE
+usage: app_s2j validate TYPE FILE [--update] [--quiet]
+(app_s2j validate --help tells more)" "validate without arguments message"
+out=$("$tool" validate NoSuchType "$corpus/DeviceInfo.good.json" 2>&1); rc=$?
+expect_eq "$rc" "2" "validate unknown type"
+expect_eq "$out" "app_s2j: unknown record type 'NoSuchType' (app_s2j types lists them)" "unknown type message"
+out=$("$tool" validate DeviceInfo "$corpus/DeviceInfo.good.json" --strict 2>&1); rc=$?
+expect_eq "$rc" "2" "validate unknown option"
+expect_contains "$out" "app_s2j: unknown option '--strict'" "unknown option message"
+out=$("$tool" validate DeviceInfo "$corpus/DeviceInfo.good.json" --update 2>&1); rc=$?
+expect_eq "$rc" "2" "--update on a type without keyed update"
+expect_contains "$out" "app_s2j: DeviceInfo has no keyed update; --update does not apply" "--update message"
+out=$("$tool" validate DeviceInfo "$tmp/missing.json" 2>&1); rc=$?
+expect_eq "$rc" "1" "validate a missing file"
+expect_eq "$out" "app_s2j: cannot read '$tmp/missing.json': No such file or directory" "missing file message"
+out=$("$tool" validate StreamingInputUseCount "$corpus/StreamingInputUseCount.short-lists.json" --quiet); rc=$?
+expect_eq "$rc" "0" "--quiet keeps the exit status"
+expect_eq "$out" "$corpus/StreamingInputUseCount.short-lists.json: valid StreamingInputUseCount" "--quiet leaves out notes"
+# Findings go to standard output, nothing to standard error.
+"$tool" validate VideoEncodeParameter "$corpus/VideoEncodeParameter.width-as-text.json" > /dev/null 2> "$tmp/err"
+expect_eq "$(cat "$tmp/err")" "" "validate writes nothing to stderr"
+
+echo "validate: $passed passed, $failed failed"
+[ "$failed" -eq 0 ]
