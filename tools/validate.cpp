@@ -202,6 +202,28 @@ public:
         }
     }
 
+    // The record an element names by its key fields, as the update compares
+    // them (integers by their 32 bits, strings by their first 63 bytes):
+    // "Channel 0, StreamIndex 1"; empty when a key is missing or unreadable.
+    std::string key_signature(const cJSON *elem) const {
+        std::string sig;
+        for (uint32_t k = 0; k < d_.key_count; ++k) {
+            const Field &f = d_.keys[k].field;
+            const cJSON *m = cJSON_GetObjectItem(elem, f.key);
+            if (m == nullptr) return "";
+            sig += sig.empty() ? "" : ", ";
+            if (f.kind == Kind::Str && cJSON_IsString(m) && m->valuestring != nullptr) {
+                size_t keep = std::min<size_t>(s2j::kKeyStringSize, f.size) - 1;
+                sig += std::string(f.key) + " " + quoted(std::string(m->valuestring, strnlen(m->valuestring, keep)).c_str());
+            } else if (f.kind != Kind::Str && s2j::is_int(m)) {
+                sig += std::string(f.key) + " " + std::to_string(static_cast<uint32_t>(s2j::int_value(m)));
+            } else {
+                return "";
+            }
+        }
+        return sig;
+    }
+
 private:
     static std::string member_place(const std::string &prefix, const char *name) {
         return prefix.empty() ? std::string(name) : prefix + "." + name;
@@ -395,9 +417,26 @@ Validation validate_text(const s2j::TypeInfo &t, const std::string &whole, bool 
         return v;
     }
     const bool array_reader = has_array_reader(t.fam);
+    const bool keyed = t.fam.c2s_array_update != nullptr;
+    std::vector<std::string> signatures;  // of the elements so far
     size_t i = 0;
     for (const cJSON *e = tree->child; e != nullptr; e = e->next, ++i) {
         const std::string place = printf_string("[%zu]", i);
+        std::string sig = keyed ? check.key_signature(e) : "";
+        auto same = std::find(signatures.begin(), signatures.end(), sig);
+        if (!sig.empty() && same != signatures.end()) {
+            size_t j = static_cast<size_t>(same - signatures.begin());
+            if (update)
+                check.add(Finding::kWarning, place,
+                          printf_string("names the same record as [%zu] (%s): both change it, and where both set a "
+                                        "field the later one stays",
+                                        j, sig.c_str()));
+            else
+                check.add(Finding::kNote, place,
+                          printf_string("the same key as [%zu] (%s): an update reaches only the first of them", j,
+                                        sig.c_str()));
+        }
+        signatures.push_back(sig);
         if (update) {
             check.update_keys(e, place, Finding::kError);
         } else if (t.fam.c2s_array_update != nullptr && cJSON_IsObject(e)) {
