@@ -417,6 +417,14 @@ TEST(ValidatorFindings, TextThatIsNotJsonSaysWhereItStops) {
               "further\n");
 }
 
+TEST(ValidatorFindings, AnEscapedNulEndsItsString) {
+    EXPECT_EQ(report("DeviceInfo", "{\"ProductModel\": \"a\\u0000b\"}"),
+              "f.json: warning: a string holds \\u0000 at line 1, column 20; the library keeps the string only up "
+              "to it\n");
+    // An escaped backslash followed by the letters u0000 is no NUL.
+    EXPECT_EQ(status("DeviceInfo", "{\"ProductModel\": \"a\\\\u0000b\"}"), 0);
+}
+
 TEST(ValidatorFindings, ShapesTheLibraryDoesNotRead) {
     EXPECT_EQ(report("DeviceInfo", "5"),
               "f.json: error: expected an object (one DeviceInfo record) or an array of records, found the integer "

@@ -374,6 +374,15 @@ Validation validate_text(const s2j::TypeInfo &t, const std::string &whole, bool 
         check.add(Finding::kWarning, "",
                   printf_string("a NUL byte at offset %zu (%s) ends the text; the library reads no further", len,
                                 position(text, len).c_str()));
+    // An escaped NUL in a string: cJSON keeps the string only up to it.
+    for (const char *u = std::strstr(text, "u0000"); u != nullptr; u = std::strstr(u + 1, "u0000")) {
+        size_t slashes = 0;
+        while (u - slashes > text && u[-1 - static_cast<ptrdiff_t>(slashes)] == '\\') ++slashes;
+        if (slashes % 2 == 1)
+            check.add(Finding::kWarning, "",
+                      "a string holds \\u0000 at " + position(text, static_cast<size_t>(u - 1 - text)) +
+                          "; the library keeps the string only up to it");
+    }
     size_t first = whole.find_first_not_of(" \t\r\n");
     v.is_array = update || (first != std::string::npos && first < len && text[first] == '[');
     cJSON *tree = s2j::parse_marked(text, 0, false);
