@@ -273,7 +273,8 @@ TEST(Validator, AgreesWithTheLibraryOnDocumentsOfEveryShape) {
                  rec, "[" + rec + "]", "[" + rec + "," + rec + "]", "[" + rec + ",5]", "[[" + rec + "]]", "[5]",
               "[null]", "[\"x\"]", "[[]]", "[{}]", "[]", "{}", "5", "\"x\"", "null", "true", "", "   ", "[" + rec,
               rec + " trailing", rec + "\n}", "[" + rec + "] ]", bad, "[" + bad + "]", "[" + rec + "," + bad + "]",
-              "[" + bad + ",5]", "  \n" + rec, std::string("{\"a\":1}\0{\"b\":", 14), "[" + rec + "]\n"}) {
+              "[" + bad + ",5]", "  \n" + rec, std::string("{\"a\":1}\0{\"b\":", 14), "[" + rec + "]\n",
+                 "\xEF\xBB\xBF[" + rec + "]", "\xEF\xBB\xBF" + rec, "\xEF\xBB\xBF", "\xEF\xBB[" + rec + "]"}) {
             compare(t, doc, lib, &tally, "document <" + doc.substr(0, 30) + ">");
         }
         // A NUL byte ends the text for the library.

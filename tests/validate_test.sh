@@ -62,6 +62,9 @@ usage: app_s2j validate TYPE FILE [--update] [--quiet]
 out=$("$tool" validate NoSuchType "$corpus/DeviceInfo.good.json" 2>&1); rc=$?
 expect_eq "$rc" "2" "validate unknown type"
 expect_eq "$out" "app_s2j: unknown record type 'NoSuchType' (app_s2j types lists them)" "unknown type message"
+out=$("$tool" validate deviceinfo "$corpus/DeviceInfo.good.json" 2>&1); rc=$?
+expect_eq "$rc" "2" "validate a type spelt in other letter case"
+expect_eq "$out" "app_s2j: unknown record type 'deviceinfo'; did you mean 'DeviceInfo'?" "type in other case message"
 out=$("$tool" validate DeviceInfo "$corpus/DeviceInfo.good.json" --strict 2>&1); rc=$?
 expect_eq "$rc" "2" "validate unknown option"
 expect_contains "$out" "app_s2j: unknown option '--strict'" "unknown option message"

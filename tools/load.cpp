@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <strings.h>
 
 #include "s2j_internal.h"
 #include "tool.h"
@@ -17,9 +18,18 @@ int usage_error(const Command &cmd, const std::string &why) {
 
 const s2j::TypeInfo *find_type_or_report(const std::string &name) {
     const s2j::TypeInfo *t = s2j::find_type(name.c_str());
-    if (t == nullptr)
+    if (t != nullptr) return t;
+    // A name that differs only in letter case is named as the likely one.
+    size_t n = 0;
+    const s2j::TypeInfo *types = s2j::registry(&n);
+    const char *like = nullptr;
+    for (size_t i = 0; i < n && like == nullptr; ++i)
+        if (strcasecmp(types[i].name, name.c_str()) == 0) like = types[i].name;
+    if (like != nullptr)
+        std::fprintf(stderr, "app_s2j: unknown record type '%s'; did you mean '%s'?\n", name.c_str(), like);
+    else
         std::fprintf(stderr, "app_s2j: unknown record type '%s' (app_s2j types lists them)\n", name.c_str());
-    return t;
+    return nullptr;
 }
 
 bool read_whole(const std::string &path, std::string *text) {
@@ -71,10 +81,15 @@ int read_tree(const s2j::TypeInfo &t, const std::string &text, Loaded *out) {
 
 }  // namespace
 
+bool is_array_text(const std::string &text) {
+    size_t from = text.compare(0, 3, "\xEF\xBB\xBF") == 0 ? 3 : 0;
+    size_t i = text.find_first_not_of(" \t\r\n", from);
+    return i != std::string::npos && text[i] == '[';
+}
+
 int load(const s2j::TypeInfo &t, const std::string &path, const std::string &text, Loaded *out) {
     const s2j::Families &f = t.fam;
-    size_t i = text.find_first_not_of(" \t\r\n");
-    out->is_array = i != std::string::npos && text[i] == '[';
+    out->is_array = is_array_text(text);
     const size_t size = t.desc->size;
     if (out->is_array) {
         uint32_t n = 0;

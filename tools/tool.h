@@ -49,6 +49,10 @@ struct Loaded {
     std::vector<char> bytes;
 };
 
+// True when the document is a record array: its first character after
+// blanks (and a UTF-8 byte order mark, which the parser skips) is '['.
+bool is_array_text(const std::string &text);
+
 // Loads path (whose whole text is text) as type t through the library:
 // through the file families where the type has them, else the text or tree
 // families, else element by element with the type's reader.  A text whose

@@ -225,8 +225,13 @@ public:
     }
 
 private:
+    // A key as a place: as it is when it is a plain name, else quoted.
     static std::string member_place(const std::string &prefix, const char *name) {
-        return prefix.empty() ? std::string(name) : prefix + "." + name;
+        bool plain = *name != '\0';
+        for (const char *c = name; *c != '\0'; ++c)
+            plain = plain && (std::isalnum(static_cast<unsigned char>(*c)) || *c == '_');
+        std::string key = plain ? std::string(name) : quoted(name);
+        return prefix.empty() ? key : prefix + "." + key;
     }
 
     const Field *field_matching(const char *name) const {
@@ -383,8 +388,7 @@ Validation validate_text(const s2j::TypeInfo &t, const std::string &whole, bool 
                       "a string holds \\u0000 at " + position(text, static_cast<size_t>(u - 1 - text)) +
                           "; the library keeps the string only up to it");
     }
-    size_t first = whole.find_first_not_of(" \t\r\n");
-    v.is_array = update || (first != std::string::npos && first < len && text[first] == '[');
+    v.is_array = update || is_array_text(std::string(text, len));
     cJSON *tree = s2j::parse_marked(text, 0, false);
     if (tree == nullptr) {
         const char *e = cJSON_GetErrorPtr();
