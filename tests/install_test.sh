@@ -17,11 +17,7 @@ cmake_cross=()
 tmp=$(mktemp -d)
 trap '[ -n "${KEEP:-}" ] || rm -rf "$tmp"' EXIT
 prefix=$tmp/prefix
-passed=0
-failed=0
-ok() { passed=$((passed + 1)); }
-fail() { failed=$((failed + 1)); echo "FAIL: $*"; }
-check() { local what=$1; shift; if "$@" >"$tmp/out" 2>&1; then ok; else fail "$what"; cat "$tmp/out"; fi; }
+. "$(dirname "$0")/shell_checks.sh"
 
 check "cmake --install" cmake --install "$build" --prefix "$prefix"
 libdir=$(dirname "$(find "$prefix" -name libapp_s2j.so.1 | head -n 1)")
@@ -77,5 +73,4 @@ check "examples/c-consumer configures with find_package" \
 check "examples/c-consumer builds with CMake" cmake --build "$tmp/ebuild"
 LD_LIBRARY_PATH=$libdir schedule_request_checks "schedule_request (CMake)" "${run[@]}" "$tmp/ebuild/schedule_request"
 
-echo "$passed passed, $failed failed"
-[ "$failed" -eq 0 ]
+finish

@@ -10,11 +10,7 @@ src=$1
 runtime_deb=$(readlink -f "$2")
 dev_deb=$(readlink -f "$3")
 tmp=$(mktemp -d)
-passed=0
-failed=0
-ok() { passed=$((passed + 1)); }
-fail() { failed=$((failed + 1)); echo "FAIL: $*"; }
-check() { local what=$1; shift; if "$@" >"$tmp/out" 2>&1; then ok; else fail "$what"; cat "$tmp/out"; fi; }
+. "$(dirname "$0")/shell_checks.sh"
 
 runtime=$(dpkg-deb -f "$runtime_deb" Package)
 dev=$(dpkg-deb -f "$dev_deb" Package)
@@ -65,5 +61,4 @@ schedule_request_checks "schedule_request (CMake, /usr)" "$tmp/ebuild/schedule_r
 check "apt-get removes both packages" env DEBIAN_FRONTEND=noninteractive apt-get purge -y -qq "$dev" "$runtime"
 [ ! -e "$lib" ] && [ ! -e /usr/include/app_s2j ] && ok || fail "files left after removal"
 
-echo "$passed passed, $failed failed"
-[ "$failed" -eq 0 ]
+finish

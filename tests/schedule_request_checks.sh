@@ -1,5 +1,5 @@
 # Checks of examples/c-consumer/schedule_request, sourced by the install and
-# package tests after they define ok, fail and $tmp.
+# package tests after they source shell_checks.sh and set $tmp.
 #   schedule_request_checks WHAT RUNNER... PROGRAM
 # runs PROGRAM (through RUNNER, e.g. an emulator, if given) on a copy of
 # examples/CrontabParameter.json: a keyed update is answered and saved, a

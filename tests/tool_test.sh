@@ -6,13 +6,7 @@ tool=$1
 examples=$2
 tmp=$(mktemp -d)
 trap 'rm -rf "$tmp"' EXIT
-passed=0
-failed=0
-
-ok() { passed=$((passed + 1)); }
-fail() { failed=$((failed + 1)); echo "FAIL: $*"; }
-expect_eq() { if [ "$1" == "$2" ]; then ok; else fail "$3: got [$1] want [$2]"; fi; }
-expect_contains() { case "$1" in *"$2"*) ok ;; *) fail "$3: [$1] lacks [$2]" ;; esac; }
+. "$(dirname "$0")/shell_checks.sh"
 
 # Every type has an example; each loads, and prints back exactly as written.
 types=$("$tool" types | awk '{print $1}')
@@ -83,5 +77,4 @@ expect_eq "$rc" "0" "empty array checks"
 out=$("$tool" print CrontabParameter "$tmp/empty.json" 2>&1); rc=$?
 expect_eq "$rc" "1" "empty array does not print"
 
-echo "$passed passed, $failed failed"
-[ "$failed" -eq 0 ]
+finish

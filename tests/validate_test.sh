@@ -12,13 +12,7 @@ corpus=$2
 regenerate=${3:-}
 tmp=$(mktemp -d)
 trap 'rm -rf "$tmp"' EXIT
-passed=0
-failed=0
-
-ok() { passed=$((passed + 1)); }
-fail() { failed=$((failed + 1)); echo "FAIL: $*"; }
-expect_eq() { if [ "$1" == "$2" ]; then ok; else fail "$3: got [$1] want [$2]"; fi; }
-expect_contains() { case "$1" in *"$2"*) ok ;; *) fail "$3: [$1] lacks [$2]" ;; esac; }
+. "$(dirname "$0")/shell_checks.sh"
 
 cd "$corpus" || exit 1
 count=0
@@ -81,5 +75,4 @@ expect_eq "$out" "$corpus/StreamingInputUseCount.short-lists.json: valid Streami
 "$tool" validate VideoEncodeParameter "$corpus/VideoEncodeParameter.width-as-text.json" > /dev/null 2> "$tmp/err"
 expect_eq "$(cat "$tmp/err")" "" "validate writes nothing to stderr"
 
-echo "validate: $passed passed, $failed failed"
-[ "$failed" -eq 0 ]
+finish validate
