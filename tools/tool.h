@@ -34,6 +34,8 @@ extern const Command kTypesCommand;
 extern const Command kCheckCommand;
 extern const Command kPrintCommand;
 extern const Command kValidateCommand;
+extern const Command kTemplateCommand;
+extern const Command kReferenceCommand;
 
 // Prints "app_s2j: WHY" and the command's synopsis to stderr; returns 2.
 int usage_error(const Command &cmd, const std::string &why);
