@@ -181,6 +181,7 @@ const Command *const kCommands[] = {
     &app_s2j_tool::kTypesCommand,
     &app_s2j_tool::kCheckCommand,
     &app_s2j_tool::kPrintCommand,
+    &app_s2j_tool::kSchemaCommand,
 };
 
 void print_usage(FILE *out) {

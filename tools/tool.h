@@ -33,6 +33,7 @@ struct Command {
 extern const Command kTypesCommand;
 extern const Command kCheckCommand;
 extern const Command kPrintCommand;
+extern const Command kSchemaCommand;
 
 // Prints "app_s2j: WHY" and the command's synopsis to stderr; returns 2.
 int usage_error(const Command &cmd, const std::string &why);
