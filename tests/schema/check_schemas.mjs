@@ -19,7 +19,6 @@
 //    not 1.0), reading the text as the library does gives the schema's
 //    verdict back: such a file is counted as a known difference, with its
 //    reason.  Any other disagreement is printed and fails the run.
-import Ajv2020 from "ajv/dist/2020.js";
 import { execFile, execFileSync } from "node:child_process";
 import fs from "node:fs";
 import os from "node:os";
@@ -30,6 +29,16 @@ const [tool, examplesDir, corpusDir] = process.argv.slice(2);
 if (!tool || !examplesDir || !corpusDir) {
   console.error("usage: node check_schemas.mjs TOOL EXAMPLES_DIR CORPUS_DIR");
   process.exit(2);
+}
+
+// ajv comes from tests/schema/node_modules (npm ci, run by scripts/setup.sh).
+let Ajv2020;
+try {
+  ({ default: Ajv2020 } = await import("ajv/dist/2020.js"));
+} catch (e) {
+  console.error(`ajv is not installed in ${path.dirname(new URL(import.meta.url).pathname)}: ` +
+                `scripts/setup.sh installs it (npm ci there) [${e.code ?? e.message}]`);
+  process.exit(1);
 }
 
 let problems = 0;
