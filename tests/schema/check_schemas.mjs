@@ -15,8 +15,8 @@
 //    check TYPE FILE`: 0 accepted, 1 rejected).  A file the schema accepts
 //    must load; a file that does not load must be rejected by the schema.
 //    Where they disagree only because of what JSON Schema cannot say (the
-//    library reads the first of duplicate keys, and wants integer literals,
-//    not 1.0), reading the text as the library does gives the schema's
+//    library reads the first of duplicate keys, wants integer literals, not
+//    1.0, and does not parse a \u escape of a lone surrogate), reading the text as the library does gives the schema's
 //    verdict back: such a file is counted as a known difference, with its
 //    reason.  Any other disagreement is printed and fails the run.
 import { execFile, execFileSync } from "node:child_process";
@@ -334,6 +334,8 @@ for (const t of types) {
   if (intKey) generate(t, `known-limit.${intKey}-written-1.0`, null, `{"${intKey}": 1.0}\n`);
   generate(t, `known-limit.${keys[0]}-duplicate-first-wrong`, null,
            `{"${keys[0]}": {}, "${keys[0]}": ${JSON.stringify(base[keys[0]])}}\n`);
+  const strKey = keys.find((k) => props[k].type === "string");
+  if (strKey && t === "DeviceInfo") generate(t, `known-limit.${strKey}-lone-surrogate`, null, `{"${strKey}": "\\ud800"}\n`);
 }
 
 // The library's verdicts, a few tool processes at a time.
@@ -390,6 +392,7 @@ cases.forEach(([t, file], n) => {
 // The documented limits are real: some generated file shows each of them.
 if (!knownReasons.has("duplicate")) problem("no file showed the duplicate-key difference");
 if (!knownReasons.has("literal")) problem("no file showed the integer-literal difference");
+if (!knownReasons.has("a \\u escape of a lone surrogate")) problem("no file showed the lone-surrogate difference");
 
 console.log(`files: ${cases.length} (${corpusCount} from the corpus, ${generatedCount} generated)`);
 console.log(`  both accept:                              ${count.bothAccept}`);
