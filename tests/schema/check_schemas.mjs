@@ -16,9 +16,10 @@
 //    must load; a file that does not load must be rejected by the schema.
 //    Where they disagree only because of what JSON Schema cannot say (the
 //    library reads the first of duplicate keys, wants integer literals, not
-//    1.0, and does not parse a \u escape of a lone surrogate), reading the text as the library does gives the schema's
-//    verdict back: such a file is counted as a known difference, with its
-//    reason.  Any other disagreement is printed and fails the run.
+//    1.0, and does not parse a \u escape of a lone surrogate), reading the
+//    text as the library does gives the schema's verdict back: such a file
+//    is counted as a known difference, with its reason.  Any other
+//    disagreement is printed and fails the run.
 import { execFile, execFileSync } from "node:child_process";
 import fs from "node:fs";
 import os from "node:os";
