@@ -28,6 +28,8 @@ for arg in "$@"; do
                   "libcjson-dev:$arch" "libgtest-dev:$arch" "libstdc++6:$arch") ;;
   esac
 done
+# Node.js for the schema check (tests/schema), from Debian when the machine has none.
+command -v node >/dev/null || packages+=(nodejs); command -v npm >/dev/null || packages+=(npm)
 missing=()
 for p in "${packages[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
@@ -43,3 +45,5 @@ if [ ${#missing[@]} -gt 0 ]; then
   apt-get update -qq || echo "setup: apt-get update reported errors; going on with the lists it has" >&2
   apt-get install -y -qq --no-install-recommends "${missing[@]}"
 fi
+# ajv for the schema check, as the lock file pins it, when missing or older than the lock file.
+schema=$(dirname "$0")/../tests/schema; if [ ! -d "$schema/node_modules" ] || [ "$schema/node_modules" -ot "$schema/package-lock.json" ]; then (cd "$schema" && npm ci --no-audit --no-fund && touch node_modules); fi

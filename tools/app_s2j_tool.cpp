@@ -182,6 +182,7 @@ const Command *const kCommands[] = {
     &app_s2j_tool::kCheckCommand,
     &app_s2j_tool::kPrintCommand,
     &app_s2j_tool::kValidateCommand,
+    &app_s2j_tool::kSchemaCommand,
     &app_s2j_tool::kTemplateCommand,
     &app_s2j_tool::kReferenceCommand,
 };

@@ -1,5 +1,5 @@
 // load.cpp - reading a JSON file as a record type through the library, and
-// the helpers every command shares.
+// the helpers and field facts every command shares.
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -9,6 +9,25 @@
 #include "tool.h"
 
 namespace app_s2j_tool {
+
+std::string c_type_of(const s2j::Field &f) {
+    switch (f.kind) {
+        case s2j::Kind::I32: return "int32";
+        case s2j::Kind::U32: return "uint32";
+        case s2j::Kind::U16: return "uint16";
+        case s2j::Kind::Str: return "char[" + std::to_string(f.size) + "]";
+        case s2j::Kind::U32List: return "uint32[" + std::to_string(f.size / 4) + "]";
+    }
+    return "?";
+}
+
+IntRange range_of(s2j::Kind k) {
+    switch (k) {
+        case s2j::Kind::I32: return {INT32_MIN, INT32_MAX};
+        case s2j::Kind::U16: return {0, UINT16_MAX};
+        default: return {0, UINT32_MAX};
+    }
+}
 
 int usage_error(const Command &cmd, const std::string &why) {
     std::fprintf(stderr, "app_s2j: %s\nusage: app_s2j %s\n(app_s2j %s --help tells more)\n", why.c_str(),

@@ -58,27 +58,15 @@ std::vector<std::string> function_names(const s2j::TypeInfo &t) {
     return out;
 }
 
-std::string c_type_of(const s2j::Field &f) {
-    switch (f.kind) {
-        case s2j::Kind::I32: return "int32";
-        case s2j::Kind::U32: return "uint32";
-        case s2j::Kind::U16: return "uint16";
-        case s2j::Kind::Str: return "char[" + std::to_string(f.size) + "]";
-        case s2j::Kind::U32List: return "uint32[" + std::to_string(f.size / 4) + "]";
-    }
-    return "?";
-}
-
 std::string json_of(const s2j::Field &f) {
+    const IntRange r = range_of(f.kind);
+    const std::string range = std::to_string(r.lo) + ".." + std::to_string(r.hi);
     switch (f.kind) {
-        case s2j::Kind::I32: return "integer, -2147483648..2147483647";
-        case s2j::Kind::U32: return "integer, 0..4294967295";
-        case s2j::Kind::U16: return "integer, 0..65535";
         case s2j::Kind::Str: return "string of at most " + std::to_string(f.size - 1) + " bytes";
         case s2j::Kind::U32List:
-            return "array of at most " + std::to_string(f.size / 4) + " integers, each 0..4294967295";
+            return "array of at most " + std::to_string(f.size / 4) + " integers, each " + range;
+        default: return "integer, " + range;
     }
-    return "?";
 }
 
 std::string markdown_cell(const std::string &text) {

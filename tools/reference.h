@@ -19,8 +19,6 @@ bool holds_arrays(const s2j::TypeInfo &t);
 // reader, keyword readers, then the families in a fixed order.
 std::vector<std::string> function_names(const s2j::TypeInfo &t);
 
-// The C type of a field: int32, uint32, uint16, char[N] or uint32[N].
-std::string c_type_of(const s2j::Field &f);
 // What JSON the field takes, in words.
 std::string json_of(const s2j::Field &f);
 

@@ -34,8 +34,19 @@ extern const Command kTypesCommand;
 extern const Command kCheckCommand;
 extern const Command kPrintCommand;
 extern const Command kValidateCommand;
+extern const Command kSchemaCommand;
 extern const Command kTemplateCommand;
 extern const Command kReferenceCommand;
+
+// The C type of a field as the struct declares it: "int32", "uint32",
+// "uint16", "char[64]", "uint32[8]".
+std::string c_type_of(const s2j::Field &f);
+
+// The values an integer of that kind holds (a list's entries are uint32).
+struct IntRange {
+    int64_t lo, hi;
+};
+IntRange range_of(s2j::Kind k);
 
 // Prints "app_s2j: WHY" and the command's synopsis to stderr; returns 2.
 int usage_error(const Command &cmd, const std::string &why);

@@ -127,17 +127,6 @@ std::string not_integer_why(const cJSON *m) {
     return ", written with a fraction or an exponent (integer fields take digits only)";
 }
 
-const char *c_type(const Field &f, std::string *buf) {
-    switch (f.kind) {
-        case Kind::I32: return "int32";
-        case Kind::U32: return "uint32";
-        case Kind::U16: return "uint16";
-        case Kind::Str: *buf = printf_string("char[%u]", f.size); return buf->c_str();
-        case Kind::U32List: *buf = printf_string("uint32[%u]", f.size / 4); return buf->c_str();
-    }
-    return "?";
-}
-
 class Checker {
 public:
     Checker(const s2j::TypeInfo &t, Validation *out) : t_(t), d_(*t.desc), out_(out) {}
@@ -262,8 +251,8 @@ private:
     }
 
     void field(const Field &f, const cJSON *m, const std::string &place) {
-        std::string tbuf;
-        const char *ctype = c_type(f, &tbuf);
+        const std::string type = c_type_of(f);
+        const char *ctype = type.c_str();
         switch (f.kind) {
             case Kind::I32:
             case Kind::U32:
@@ -296,8 +285,8 @@ private:
     }
 
     void integer(Kind kind, int64_t v, const std::string &place, const char *ctype) {
-        int64_t lo = kind == Kind::I32 ? INT32_MIN : 0;
-        int64_t hi = kind == Kind::I32 ? INT32_MAX : kind == Kind::U32 ? int64_t{UINT32_MAX} : int64_t{UINT16_MAX};
+        const IntRange r = range_of(kind);
+        const int64_t lo = r.lo, hi = r.hi;
         if (v >= lo && v <= hi) return;
         uint64_t bits = static_cast<uint64_t>(v);
         int64_t stored = kind == Kind::I32   ? static_cast<int32_t>(static_cast<uint32_t>(bits))
