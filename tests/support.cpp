@@ -48,6 +48,14 @@ std::string file_list_file() {
 
 bool exported(const std::string &name) { return dlsym(RTLD_DEFAULT, name.c_str()) != nullptr; }
 
+std::vector<const s2j::TypeInfo *> all_types() {
+    size_t n = 0;
+    const s2j::TypeInfo *types = s2j::registry(&n);
+    std::vector<const s2j::TypeInfo *> out;
+    for (size_t i = 0; i < n; ++i) out.push_back(&types[i]);
+    return out;
+}
+
 const s2j::Families::Lines &lines_of(const char *type) {
     const s2j::TypeInfo *t = s2j::find_type(type);
     EXPECT_NE(t, nullptr) << type << " is not in the registry";

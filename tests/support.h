@@ -4,6 +4,7 @@
 #define APP_S2J_TEST_SUPPORT_H
 
 #include <string>
+#include <vector>
 
 #include "app_s2j.h"
 #include "registry.h"
@@ -28,6 +29,9 @@ private:
 // Paths of the instantiation lists as their diagnostics print them.
 std::string text_list_file();
 std::string file_list_file();
+
+// Every registry type, in registry order.
+std::vector<const s2j::TypeInfo *> all_types();
 
 // Whether the library exports a function of that name.
 bool exported(const std::string &name);

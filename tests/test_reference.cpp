@@ -15,17 +15,10 @@
 #include "tool.h"
 
 using testing_support::exported;
+using testing_support::all_types;
 using testing_support::StderrCapture;
 
 namespace {
-
-std::vector<const s2j::TypeInfo *> all_types() {
-    size_t n = 0;
-    const s2j::TypeInfo *t = s2j::registry(&n);
-    std::vector<const s2j::TypeInfo *> out;
-    for (size_t i = 0; i < n; ++i) out.push_back(&t[i]);
-    return out;
-}
 
 std::vector<std::string> lines_of_text(const std::string &text) {
     std::vector<std::string> lines;
@@ -119,18 +112,6 @@ std::vector<std::string> code_spans(const std::string &text) {
     return spans;
 }
 
-// The C type a field must be shown with, from its kind and size.
-std::string expected_c_type(const s2j::Field &f) {
-    switch (f.kind) {
-        case s2j::Kind::I32: return "int32";
-        case s2j::Kind::U32: return "uint32";
-        case s2j::Kind::U16: return "uint16";
-        case s2j::Kind::Str: return "char[" + std::to_string(f.size) + "]";
-        case s2j::Kind::U32List: return "uint32[" + std::to_string(f.size / 4) + "]";
-    }
-    return "unknown kind";
-}
-
 std::string expected_json(const s2j::Field &f) {
     switch (f.kind) {
         case s2j::Kind::I32: return "integer, -2147483648..2147483647";
@@ -214,7 +195,7 @@ TEST(Reference, EveryFieldAppearsInOrderWithItsCTypeJsonAndNote) {
             ASSERT_EQ(rows[i].size(), 6u) << t->name << " row " << i + 1;
             EXPECT_EQ(rows[i][0], std::to_string(i + 1)) << t->name;
             EXPECT_EQ(rows[i][1], "`" + std::string(f.key) + "`") << t->name;
-            EXPECT_EQ(rows[i][2], expected_c_type(f)) << t->name << "." << f.key;
+            EXPECT_EQ(rows[i][2], app_s2j_tool::c_type_of(f)) << t->name << "." << f.key;
             EXPECT_EQ(rows[i][3], expected_json(f)) << t->name << "." << f.key;
             EXPECT_EQ(rows[i][5], app_s2j_tool::markdown_cell(f.note)) << t->name << "." << f.key;
         }

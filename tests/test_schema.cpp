@@ -11,19 +11,12 @@
 #include "tool.h"
 
 using app_s2j_tool::kSchemaCommand;
+using testing_support::all_types;
 using testing_support::StderrCapture;
 using testing_support::Text;
 using testing_support::Tree;
 
 namespace {
-
-std::vector<const s2j::TypeInfo *> all_types() {
-    size_t n = 0;
-    const s2j::TypeInfo *types = s2j::registry(&n);
-    std::vector<const s2j::TypeInfo *> v;
-    for (size_t i = 0; i < n; ++i) v.push_back(&types[i]);
-    return v;
-}
 
 std::string str(const cJSON *o, const char *key) {
     const cJSON *m = cJSON_GetObjectItemCaseSensitive(o, key);
@@ -233,4 +226,28 @@ TEST(SchemaCommand, HelpNamesTheFormsAndTheKnownLimits) {
     for (const char *words : {"schema TYPE --update", "schema --all", "urn:app-s2j:TYPE:update", "duplicate keys",
                               "1.0 and 1e2", "maxLength counts characters", "beyond 2^53", "lone UTF-16 surrogate"})
         EXPECT_NE(help.find(words), std::string::npos) << words;
+}
+
+// The field facts every command shows, for one field of each kind.
+TEST(ToolFieldFacts, EachKindNamesItsCTypeAndRange) {
+    auto field = [](const char *type, const char *key) -> const s2j::Field & {
+        const s2j::TypeDesc *d = s2j::find_type(type)->desc;
+        for (uint32_t i = 0; i < d->field_count; ++i)
+            if (std::string(d->fields[i].key) == key) return d->fields[i];
+        ADD_FAILURE() << type << "." << key;
+        return d->fields[0];
+    };
+    EXPECT_EQ(app_s2j_tool::c_type_of(field("DeviceTime", "UTCTime")), "int32");
+    EXPECT_EQ(app_s2j_tool::c_type_of(field("DeviceTime", "Month")), "uint32");
+    EXPECT_EQ(app_s2j_tool::c_type_of(field("NetworkLANParameter", "MTUSize")), "uint16");
+    EXPECT_EQ(app_s2j_tool::c_type_of(field("DeviceInfo", "ProductModel")), "char[64]");
+    EXPECT_EQ(app_s2j_tool::c_type_of(field("StreamingInputUseCount", "IndexList")), "uint32[256]");
+    EXPECT_EQ(app_s2j_tool::range_of(s2j::Kind::I32).lo, INT32_MIN);
+    EXPECT_EQ(app_s2j_tool::range_of(s2j::Kind::I32).hi, INT32_MAX);
+    EXPECT_EQ(app_s2j_tool::range_of(s2j::Kind::U32).lo, 0);
+    EXPECT_EQ(app_s2j_tool::range_of(s2j::Kind::U32).hi, int64_t{UINT32_MAX});
+    EXPECT_EQ(app_s2j_tool::range_of(s2j::Kind::U16).hi, 65535);
+    EXPECT_EQ(app_s2j_tool::range_of(s2j::Kind::U32List).hi, int64_t{UINT32_MAX});
+    EXPECT_EQ(app_s2j_tool::families_of(*s2j::find_type("DeviceTime"), " "), "s2j c2s j2s keyword");
+    EXPECT_EQ(app_s2j_tool::families_of(*s2j::find_type("DeviceInfo"), ", "), "s2j, c2s, j2s, f2s, s2f");
 }

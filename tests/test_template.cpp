@@ -12,18 +12,11 @@
 #include "template.h"
 #include "tool.h"
 
+using testing_support::all_types;
 using testing_support::StderrCapture;
 using testing_support::Tree;
 
 namespace {
-
-std::vector<const s2j::TypeInfo *> all_types() {
-    size_t n = 0;
-    const s2j::TypeInfo *t = s2j::registry(&n);
-    std::vector<const s2j::TypeInfo *> out;
-    for (size_t i = 0; i < n; ++i) out.push_back(&t[i]);
-    return out;
-}
 
 // Checks one record object of the template against the type's table.
 void expect_zero_record(const s2j::TypeInfo &t, const cJSON *obj, const char *shape) {

@@ -15,35 +15,15 @@ namespace {
 
 // ---- types -----------------------------------------------------------------
 
-std::string families_of(const s2j::TypeInfo &t) {
-    const s2j::Families &f = t.fam;
-    std::string s;
-    auto add = [&s](bool has, const char *name) {
-        if (has) s += std::string(s.empty() ? "" : " ") + name;
-    };
-    add(f.s2j, "s2j");
-    add(f.c2s, "c2s");
-    add(f.j2s, "j2s");
-    add(f.s2j_array, "s2j_array");
-    add(f.c2s_array, "c2s_array");
-    add(f.j2s_array, "j2s_array");
-    add(f.c2s_array_update, "c2s_array_update");
-    add(f.j2s_array_update, "j2s_array_update");
-    add(f.f2s, "f2s");
-    add(f.s2f, "s2f");
-    add(f.f2s_array, "f2s_array");
-    add(f.s2f_array, "s2f_array");
-    add(t.hooks->keyword, "keyword");
-    add(t.hooks->get_keyword, "get_keyword");
-    return s.empty() ? "(emitter and reader only)" : s;
-}
-
 int run_types(const std::vector<std::string> &args) {
     if (!args.empty()) return usage_error(kTypesCommand, "'types' takes no arguments");
     size_t n = 0;
     const s2j::TypeInfo *types = s2j::registry(&n);
-    for (size_t i = 0; i < n; ++i)
-        std::printf("%-36s %-10s %s\n", types[i].name, types[i].subsystem, families_of(types[i]).c_str());
+    for (size_t i = 0; i < n; ++i) {
+        std::string fams = families_of(types[i], " ");
+        std::printf("%-36s %-10s %s\n", types[i].name, types[i].subsystem,
+                    fams.empty() ? "(emitter and reader only)" : fams.c_str());
+    }
     return kExitOk;
 }
 

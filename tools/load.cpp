@@ -29,6 +29,29 @@ IntRange range_of(s2j::Kind k) {
     }
 }
 
+std::string families_of(const s2j::TypeInfo &t, const char *sep) {
+    const s2j::Families &f = t.fam;
+    std::string s;
+    auto add = [&s, sep](bool has, const char *name) {
+        if (has) s += std::string(s.empty() ? "" : sep) + name;
+    };
+    add(f.s2j, "s2j");
+    add(f.c2s, "c2s");
+    add(f.j2s, "j2s");
+    add(f.s2j_array, "s2j_array");
+    add(f.c2s_array, "c2s_array");
+    add(f.j2s_array, "j2s_array");
+    add(f.c2s_array_update, "c2s_array_update");
+    add(f.j2s_array_update, "j2s_array_update");
+    add(f.f2s, "f2s");
+    add(f.s2f, "s2f");
+    add(f.f2s_array, "f2s_array");
+    add(f.s2f_array, "s2f_array");
+    add(t.hooks->keyword, "keyword");
+    add(t.hooks->get_keyword, "get_keyword");
+    return s;
+}
+
 int usage_error(const Command &cmd, const std::string &why) {
     std::fprintf(stderr, "app_s2j: %s\nusage: app_s2j %s\n(app_s2j %s --help tells more)\n", why.c_str(),
                  cmd.synopsis, cmd.name);

@@ -25,29 +25,6 @@ cJSON *integer_schema(s2j::Kind k) {
     return s;
 }
 
-std::string families_of(const s2j::TypeInfo &t) {
-    const s2j::Families &f = t.fam;
-    std::string s;
-    auto add = [&s](bool has, const char *name) {
-        if (has) s += std::string(s.empty() ? "" : ", ") + name;
-    };
-    add(f.s2j, "s2j");
-    add(f.c2s, "c2s");
-    add(f.j2s, "j2s");
-    add(f.s2j_array, "s2j_array");
-    add(f.c2s_array, "c2s_array");
-    add(f.j2s_array, "j2s_array");
-    add(f.c2s_array_update, "c2s_array_update");
-    add(f.j2s_array_update, "j2s_array_update");
-    add(f.f2s, "f2s");
-    add(f.s2f, "s2f");
-    add(f.f2s_array, "f2s_array");
-    add(f.s2f_array, "s2f_array");
-    add(t.hooks->keyword, "keyword");
-    add(t.hooks->get_keyword, "get_keyword");
-    return s;
-}
-
 std::string key_list(const s2j::TypeInfo &t) {
     std::string s;
     for (uint32_t i = 0; i < t.desc->key_count; ++i) s += std::string(i == 0 ? "" : ", ") + t.desc->keys[i].field.key;
@@ -141,7 +118,7 @@ cJSON *schema_of(const s2j::TypeInfo &t, bool update) {
         cJSON_AddItemToObject(doc, "items", ref_record());
         return doc;
     }
-    std::string fams = families_of(t);
+    std::string fams = families_of(t, ", ");
     cJSON *doc = document_head(
         "urn:app-s2j:" + name, name,
         "One " + name + " record (a JSON object) or an array of them (a record array). Members left out leave "
@@ -238,11 +215,12 @@ const Command kSchemaCommand = {
     "member left out leaves the field as it was.  Each property's\n"
     "description gives the field's C type and what it holds.\n"
     "\n"
-    "A file the schema accepts is one the library loads; the schema is\n"
-    "stricter in places (it wants keys in their exact case and no unknown\n"
-    "keys, where the library matches keys without regard to case and skips\n"
-    "unknown ones; it rejects too-long text and out-of-range integers, which\n"
-    "the library cuts or wraps).  What JSON Schema cannot say:\n"
+    "A file the schema accepts is one the library reads exactly as written\n"
+    "(app_s2j validate exits 0), and such a file is one the schema accepts:\n"
+    "keys in their exact case, no unknown keys, text within its field and\n"
+    "integers within their range, where the library would match keys without\n"
+    "regard to case, skip unknown ones, and cut or wrap what does not fit.\n"
+    "What JSON Schema cannot say:\n"
     "  - duplicate keys: a JSON Schema validator usually sees the last of\n"
     "    them, the library reads the first;\n"
     "  - 1.0 and 1e2 count as integers in JSON Schema; the library wants an\n"
@@ -251,7 +229,9 @@ const Command kSchemaCommand = {
     "    text within maxLength may still be cut;\n"
     "  - in JavaScript validators, numbers beyond 2^53 lose precision;\n"
     "  - a \\u escape of a lone UTF-16 surrogate is a string to JSON Schema;\n"
-    "    the library does not parse the text.\n"
+    "    the library does not parse the text;\n"
+    "  - a string holding \\u0000 is whole to JSON Schema; the library keeps\n"
+    "    it only up to the NUL.\n"
     "\n"
     "Exit status: 0 printed, 2 wrong usage (no TYPE, unknown type or option,\n"
     "more than one TYPE, --all with a TYPE or --update, --update on a type\n"

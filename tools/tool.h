@@ -48,6 +48,10 @@ struct IntRange {
 };
 IntRange range_of(s2j::Kind k);
 
+// The families a type has ("s2j", "c2s", ... "s2f_array", then "keyword"
+// and "get_keyword" for its keyword readers), joined by sep; "" for none.
+std::string families_of(const s2j::TypeInfo &t, const char *sep);
+
 // Prints "app_s2j: WHY" and the command's synopsis to stderr; returns 2.
 int usage_error(const Command &cmd, const std::string &why);
 // The type of that name, or null after printing the unknown-type message.
