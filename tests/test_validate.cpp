@@ -426,6 +426,36 @@ TEST(ValidatorFindings, AnEscapedNulEndsItsString) {
     EXPECT_EQ(status("DeviceInfo", "{\"ProductModel\": \"a\\\\u0000b\"}"), 0);
 }
 
+TEST(ValidatorFindings, JsonReportHoldsVerdictShapeAndEveryFinding) {
+    const s2j::TypeInfo &t = *s2j::find_type("CrontabParameter");
+    Validation v = validate_text(t, "[{\"Index\":1,\"Enable\":\"x\"},{\"Enabel\":1}]", false);
+    cJSON *doc = cJSON_Parse(app_s2j_tool::format_json("f.json", t, v, false).c_str());
+    ASSERT_NE(doc, nullptr);
+    EXPECT_STREQ(cJSON_GetObjectItem(doc, "file")->valuestring, "f.json");
+    EXPECT_STREQ(cJSON_GetObjectItem(doc, "type")->valuestring, "CrontabParameter");
+    EXPECT_STREQ(cJSON_GetObjectItem(doc, "shape")->valuestring, "array");
+    EXPECT_EQ(cJSON_GetObjectItem(doc, "records")->valueint, 2);
+    EXPECT_STREQ(cJSON_GetObjectItem(doc, "verdict")->valuestring, "rejected");
+    const cJSON *findings = cJSON_GetObjectItem(doc, "findings");
+    ASSERT_EQ(cJSON_GetArraySize(findings), 3);
+    const cJSON *first = cJSON_GetArrayItem(findings, 0);
+    EXPECT_STREQ(cJSON_GetObjectItem(first, "level")->valuestring, "error");
+    EXPECT_STREQ(cJSON_GetObjectItem(first, "place")->valuestring, "[0].Enable");
+    EXPECT_STREQ(cJSON_GetObjectItem(first, "text")->valuestring, "expected an integer, found a string (\"x\")");
+    EXPECT_STREQ(cJSON_GetObjectItem(cJSON_GetArrayItem(findings, 1), "level")->valuestring, "note");
+    EXPECT_STREQ(cJSON_GetObjectItem(cJSON_GetArrayItem(findings, 2), "text")->valuestring,
+                 "unknown key, ignored by the library; did you mean \"Enable\"?");
+    cJSON_Delete(doc);
+    // Without notes, and as an update.
+    doc = cJSON_Parse(app_s2j_tool::format_json("f.json", t, validate_text(t, "[{\"Index\":1}]", true), true,
+                                                false).c_str());
+    ASSERT_NE(doc, nullptr);
+    EXPECT_STREQ(cJSON_GetObjectItem(doc, "shape")->valuestring, "update");
+    EXPECT_STREQ(cJSON_GetObjectItem(doc, "verdict")->valuestring, "valid");
+    EXPECT_EQ(cJSON_GetArraySize(cJSON_GetObjectItem(doc, "findings")), 0);
+    cJSON_Delete(doc);
+}
+
 TEST(ValidatorFindings, ShapesTheLibraryDoesNotRead) {
     EXPECT_EQ(report("DeviceInfo", "5"),
               "f.json: error: expected an object (one DeviceInfo record) or an array of records, found the integer "

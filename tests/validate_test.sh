@@ -46,12 +46,12 @@ cd - > /dev/null
 # Usage.
 out=$("$tool" validate --help); rc=$?
 expect_eq "$rc" "0" "validate --help"
-expect_contains "$out" "usage: app_s2j validate TYPE FILE [--update] [--quiet]" "validate --help synopsis"
+expect_contains "$out" "usage: app_s2j validate TYPE FILE [--update] [--quiet] [--json]" "validate --help synopsis"
 expect_contains "$out" "Exit status: 0 the library reads the file exactly as written" "validate --help exit statuses"
 out=$("$tool" validate 2>&1); rc=$?
 expect_eq "$rc" "2" "validate without arguments"
 expect_eq "$out" "app_s2j: 'validate' takes TYPE and FILE
-usage: app_s2j validate TYPE FILE [--update] [--quiet]
+usage: app_s2j validate TYPE FILE [--update] [--quiet] [--json]
 (app_s2j validate --help tells more)" "validate without arguments message"
 out=$("$tool" validate NoSuchType "$corpus/DeviceInfo.good.json" 2>&1); rc=$?
 expect_eq "$rc" "2" "validate unknown type"
@@ -71,6 +71,20 @@ expect_eq "$out" "app_s2j: cannot read '$tmp/missing.json': No such file or dire
 out=$("$tool" validate StreamingInputUseCount "$corpus/StreamingInputUseCount.short-lists.json" --quiet); rc=$?
 expect_eq "$rc" "0" "--quiet keeps the exit status"
 expect_eq "$out" "$corpus/StreamingInputUseCount.short-lists.json: valid StreamingInputUseCount" "--quiet leaves out notes"
+# Standard input, and the findings as JSON.
+out=$("$tool" validate VideoEncodeParameter - < "$corpus/VideoEncodeParameter.width-as-text.json"); rc=$?
+expect_eq "$rc" "1" "validate from standard input"
+expect_contains "$out" "-: error: [3].Width: expected an integer, found a string (\"640\")" "stdin is named -"
+out=$("$tool" validate StreamingInputUseCount "$corpus/StreamingInputUseCount.short-lists.json" --json --quiet); rc=$?
+expect_eq "$rc" "0" "--json keeps the exit status"
+expect_eq "$out" "{
+	\"file\":	\"$corpus/StreamingInputUseCount.short-lists.json\",
+	\"type\":	\"StreamingInputUseCount\",
+	\"shape\":	\"record\",
+	\"records\":	1,
+	\"verdict\":	\"valid\",
+	\"findings\":	[]
+}" "--json --quiet: the verdict without notes"
 # Findings go to standard output, nothing to standard error.
 "$tool" validate VideoEncodeParameter "$corpus/VideoEncodeParameter.width-as-text.json" > /dev/null 2> "$tmp/err"
 expect_eq "$(cat "$tmp/err")" "" "validate writes nothing to stderr"

@@ -465,10 +465,14 @@ Validation validate_text(const s2j::TypeInfo &t, const std::string &whole, bool 
     return v;
 }
 
-std::string format_findings(const std::string &file, const Validation &v) {
-    static const char *const kLevel[] = {"error", "warning", "note"};
+namespace {
+const char *const kLevel[] = {"error", "warning", "note"};
+}  // namespace
+
+std::string format_findings(const std::string &file, const Validation &v, bool notes) {
     std::string out;
     for (const Finding &f : v.findings) {
+        if (f.level == Finding::kNote && !notes) continue;
         out += file + ": " + kLevel[f.level] + ": ";
         if (!f.place.empty()) out += f.place + ": ";
         out += f.text + "\n";
@@ -476,16 +480,53 @@ std::string format_findings(const std::string &file, const Validation &v) {
     return out;
 }
 
+std::string format_json(const std::string &file, const s2j::TypeInfo &t, const Validation &v, bool update,
+                        bool notes) {
+    static const char *const kVerdict[] = {"valid", "rejected", "", "altered"};
+    cJSON *doc = cJSON_CreateObject();
+    cJSON_AddStringToObject(doc, "file", file.c_str());
+    cJSON_AddStringToObject(doc, "type", t.name);
+    cJSON_AddStringToObject(doc, "shape", update ? "update" : v.is_array ? "array" : "record");
+    cJSON_AddNumberToObject(doc, "records", static_cast<double>(v.records));
+    cJSON_AddStringToObject(doc, "verdict", kVerdict[v.exit_status()]);
+    cJSON *list = cJSON_AddArrayToObject(doc, "findings");
+    for (const Finding &f : v.findings) {
+        if (f.level == Finding::kNote && !notes) continue;
+        cJSON *item = cJSON_CreateObject();
+        cJSON_AddStringToObject(item, "level", kLevel[f.level]);
+        cJSON_AddStringToObject(item, "place", f.place.c_str());
+        cJSON_AddStringToObject(item, "text", f.text.c_str());
+        cJSON_AddItemToArray(list, item);
+    }
+    char *text = cJSON_Print(doc);
+    cJSON_Delete(doc);
+    std::string out = text != nullptr ? std::string(text) + "\n" : "";
+    cJSON_free(text);
+    return out;
+}
+
 namespace {
 
+// The whole of standard input.
+bool read_stdin(std::string *text) {
+    char buf[65536];
+    size_t got;
+    while ((got = std::fread(buf, 1, sizeof buf, stdin)) > 0) text->append(buf, got);
+    if (!std::ferror(stdin)) return true;
+    std::fprintf(stderr, "app_s2j: cannot read standard input\n");
+    return false;
+}
+
 int run_validate(const std::vector<std::string> &args) {
-    bool update = false, quiet = false;
+    bool update = false, quiet = false, json = false;
     std::vector<std::string> rest;
     for (const std::string &a : args) {
         if (a == "--update")
             update = true;
         else if (a == "--quiet" || a == "-q")
             quiet = true;
+        else if (a == "--json")
+            json = true;
         else if (a.size() > 1 && a[0] == '-')
             return usage_error(kValidateCommand, "unknown option '" + a + "'");
         else
@@ -498,19 +539,13 @@ int run_validate(const std::vector<std::string> &args) {
         return usage_error(kValidateCommand, std::string(t->name) + " has no keyed update; --update does not apply");
     const std::string &path = rest[1];
     std::string text;
-    if (!read_whole(path, &text)) return kExitRejected;
+    if (!(path == "-" ? read_stdin(&text) : read_whole(path, &text))) return kExitRejected;
     Validation v = validate_text(*t, text, update);
-    std::string report = format_findings(path, v);
-    if (quiet) {
-        std::string kept;
-        for (size_t at = 0, nl; at < report.size(); at = nl + 1) {
-            nl = report.find('\n', at);
-            std::string line = report.substr(at, nl - at + 1);
-            if (line.find(": note: ") == std::string::npos) kept += line;
-        }
-        report = kept;
+    if (json) {
+        std::fputs(format_json(path, *t, v, update, !quiet).c_str(), stdout);
+        return v.exit_status();
     }
-    std::fputs(report.c_str(), stdout);
+    std::fputs(format_findings(path, v, !quiet).c_str(), stdout);
     size_t errors = 0, warnings = 0;
     for (const Finding &f : v.findings) {
         errors += f.level == Finding::kError;
@@ -537,7 +572,7 @@ int run_validate(const std::vector<std::string> &args) {
 }  // namespace
 
 const Command kValidateCommand = {
-    "validate", "validate TYPE FILE [--update] [--quiet]",
+    "validate", "validate TYPE FILE [--update] [--quiet] [--json]",
     "explain, member by member, how the library reads FILE as TYPE",
     "Reads FILE as the library reads it as TYPE (a JSON array as a record\n"
     "array, an object as one record) and names every problem with its place,\n"
@@ -561,7 +596,10 @@ const Command kValidateCommand = {
     "an array whose every element has the type's key fields; each element is\n"
     "checked as if a record with its keys exists.  --quiet leaves out notes.\n"
     "The findings go to standard output, one line each (FILE: LEVEL: PLACE:\n"
-    "TEXT), followed by one line with the verdict.\n"
+    "TEXT), followed by one line with the verdict; with --json as one JSON\n"
+    "object instead: {\"file\", \"type\", \"shape\" (record, array or update),\n"
+    "\"records\", \"verdict\" (valid, altered or rejected), \"findings\": [{\"level\",\n"
+    "\"place\", \"text\"}]}.  FILE - reads standard input.\n"
     "\n"
     "Exit status: 0 the library reads the file exactly as written, 1 it\n"
     "rejects the file (or the file cannot be read), 2 wrong usage, 3 it\n"

@@ -40,8 +40,15 @@ struct Validation {
 Validation validate_text(const s2j::TypeInfo &t, const std::string &text, bool update);
 
 // The findings as the validate command prints them, one line each:
-// "FILE: error: PLACE: TEXT".
-std::string format_findings(const std::string &file, const Validation &v);
+// "FILE: error: PLACE: TEXT"; notes only with notes.
+std::string format_findings(const std::string &file, const Validation &v, bool notes = true);
+
+// The same as one JSON object, for programs:
+// {"file":..., "type":..., "shape":"record"|"array"|"update", "records":N,
+//  "verdict":"valid"|"altered"|"rejected", "findings":[{"level":...,
+//  "place":..., "text":...}, ...]}; notes only with notes.
+std::string format_json(const std::string &file, const s2j::TypeInfo &t, const Validation &v, bool update,
+                        bool notes = true);
 
 }  // namespace app_s2j_tool
 
