@@ -420,10 +420,28 @@ TEST(ValidatorFindings, TextThatIsNotJsonSaysWhereItStops) {
 
 TEST(ValidatorFindings, AnEscapedNulEndsItsString) {
     EXPECT_EQ(report("DeviceInfo", "{\"ProductModel\": \"a\\u0000b\"}"),
-              "f.json: warning: a string holds \\u0000 at line 1, column 20; the library keeps the string only up "
-              "to it\n");
+              "f.json: warning: a string holds \\u0000 at line 1, column 20; the library keeps a string only up to "
+              "it\n");
+    EXPECT_EQ(report("DeviceInfo", "{\"ProductModel\": \"a\\u0000b\",\n\"SerialNumber\": \"\\u0000\\u0000\"}"),
+              "f.json: warning: a string holds \\u0000 at line 1, column 20 (and 2 more); the library keeps a string "
+              "only up to it\n");
     // An escaped backslash followed by the letters u0000 is no NUL.
     EXPECT_EQ(status("DeviceInfo", "{\"ProductModel\": \"a\\\\u0000b\"}"), 0);
+}
+
+TEST(ValidatorFindings, KeysThatDifferAfterFortyBytesNameDifferentRecords) {
+    const std::string a(50, 'a'), b = std::string(49, 'a') + "b";
+    std::string doc = "[{\"InterfaceName\":\"" + a + "\"},{\"InterfaceName\":\"" + b + "\"},{\"InterfaceName\":\"" + a +
+                      "\"}]";
+    EXPECT_EQ(report("NetworkLANParameter", doc),
+              "f.json: note: [2]: the same key as [0] (InterfaceName \"" + a +
+                  "\"): an update reaches only the first of them\n");
+}
+
+TEST(ValidatorFindings, AVeryLongUnknownKeyIsReportedWithoutASuggestion) {
+    std::string key(1 << 20, 'k');
+    EXPECT_EQ(report("DeviceTime", "{\"" + key + "\":1}").size(), std::string("f.json: warning: \"").size() + 40 + 3 +
+                  std::string("\": unknown key, ignored by the library (DeviceTime has no such field)\n").size());
 }
 
 TEST(ValidatorFindings, JsonReportHoldsVerdictShapeAndEveryFinding) {

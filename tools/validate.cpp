@@ -18,6 +18,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <unordered_map>
 
 #include "s2j_internal.h"
 
@@ -59,29 +60,34 @@ bool same_key(const char *a, const char *b) {
 }
 
 // Edit distance between a and b without regard to case, counting an
-// exchange of two neighbouring letters as one edit.
-size_t distance(const std::string &a, const std::string &b) {
+// exchange of two neighbouring letters as one edit; more than limit when
+// it exceeds limit (the lengths alone may tell, for keys of any length).
+size_t distance(const std::string &a, const std::string &b, size_t limit) {
     const size_t n = a.size(), m = b.size();
-    std::vector<std::vector<size_t>> d(n + 1, std::vector<size_t>(m + 1));
-    for (size_t i = 0; i <= n; ++i) d[i][0] = i;
-    for (size_t j = 0; j <= m; ++j) d[0][j] = j;
+    if ((n > m ? n - m : m - n) > limit) return limit + 1;
     auto low = [](char c) { return std::tolower(static_cast<unsigned char>(c)); };
+    // Three rows of the table: i-2, i-1 and i.
+    std::vector<size_t> prev2(m + 1), prev(m + 1), row(m + 1);
+    for (size_t j = 0; j <= m; ++j) prev[j] = j;
     for (size_t i = 1; i <= n; ++i) {
+        row[0] = i;
         for (size_t j = 1; j <= m; ++j) {
             size_t cost = low(a[i - 1]) == low(b[j - 1]) ? 0 : 1;
-            d[i][j] = std::min({d[i - 1][j] + 1, d[i][j - 1] + 1, d[i - 1][j - 1] + cost});
+            row[j] = std::min({prev[j] + 1, row[j - 1] + 1, prev[j - 1] + cost});
             if (i > 1 && j > 1 && low(a[i - 1]) == low(b[j - 2]) && low(a[i - 2]) == low(b[j - 1]))
-                d[i][j] = std::min(d[i][j], d[i - 2][j - 2] + 1);
+                row[j] = std::min(row[j], prev2[j - 2] + 1);
         }
+        std::swap(prev2, prev);
+        std::swap(prev, row);
     }
-    return d[n][m];
+    return prev[m];
 }
 
-// Text of a string value for a message: at most 40 bytes, quoted.
-std::string quoted(const char *s) {
+// Text of a string value for a message: at most max bytes, quoted.
+std::string quoted(const char *s, size_t max = 40) {
     std::string out = "\"";
     size_t n = std::strlen(s);
-    for (size_t i = 0; i < n && i < 40; ++i) {
+    for (size_t i = 0; i < n && i < max; ++i) {
         char c = s[i];
         if (c == '"' || c == '\\') out += '\\';
         if (static_cast<unsigned char>(c) < 0x20)
@@ -89,7 +95,7 @@ std::string quoted(const char *s) {
         else
             out += c;
     }
-    if (n > 40) out += "...";
+    if (n > max) out += "...";
     return out + "\"";
 }
 
@@ -203,7 +209,8 @@ public:
             sig += sig.empty() ? "" : ", ";
             if (f.kind == Kind::Str && cJSON_IsString(m) && m->valuestring != nullptr) {
                 size_t keep = std::min<size_t>(s2j::kKeyStringSize, f.size) - 1;
-                sig += std::string(f.key) + " " + quoted(std::string(m->valuestring, strnlen(m->valuestring, keep)).c_str());
+                sig += std::string(f.key) + " " +
+                       quoted(std::string(m->valuestring, strnlen(m->valuestring, keep)).c_str(), keep);
             } else if (f.kind != Kind::Str && s2j::is_int(m)) {
                 sig += std::string(f.key) + " " + std::to_string(static_cast<uint32_t>(s2j::int_value(m)));
             } else {
@@ -214,9 +221,10 @@ public:
     }
 
 private:
-    // A key as a place: as it is when it is a plain name, else quoted.
+    // A key as a place: as it is when it is a plain name of a usual length,
+    // else quoted (and cut short).
     static std::string member_place(const std::string &prefix, const char *name) {
-        bool plain = *name != '\0';
+        bool plain = *name != '\0' && std::strlen(name) <= 64;
         for (const char *c = name; *c != '\0'; ++c)
             plain = plain && (std::isalnum(static_cast<unsigned char>(*c)) || *c == '_');
         std::string key = plain ? std::string(name) : quoted(name);
@@ -230,19 +238,19 @@ private:
     }
 
     void unknown_key(const char *name, const std::string &place) {
+        // A likely misspelling: a few edits, fewer for short keys.
+        const size_t len = std::strlen(name);
+        const size_t limit = len <= 4 ? 1 : len <= 12 ? 2 : 3;
         const Field *best = nullptr;
-        size_t best_distance = 0;
+        size_t best_distance = limit + 1;
         for (uint32_t i = 0; i < d_.field_count; ++i) {
-            size_t dist = distance(name, d_.fields[i].key);
-            if (best == nullptr || dist < best_distance) {
+            size_t dist = distance(name, d_.fields[i].key, limit);
+            if (dist < best_distance) {
                 best = &d_.fields[i];
                 best_distance = dist;
             }
         }
-        // A likely misspelling: a few edits, fewer for short keys.
-        const size_t len = std::strlen(name);
-        const size_t limit = len <= 4 ? 1 : len <= 12 ? 2 : 3;
-        if (best != nullptr && best_distance <= limit)
+        if (best != nullptr)
             add(Finding::kWarning, place,
                 printf_string("unknown key, ignored by the library; did you mean \"%s\"?", best->key));
         else
@@ -369,14 +377,19 @@ Validation validate_text(const s2j::TypeInfo &t, const std::string &whole, bool 
                   printf_string("a NUL byte at offset %zu (%s) ends the text; the library reads no further", len,
                                 position(text, len).c_str()));
     // An escaped NUL in a string: cJSON keeps the string only up to it.
+    // The first is named with its place, the others counted.
+    size_t escaped_nuls = 0;
+    const char *first_nul = nullptr;
     for (const char *u = std::strstr(text, "u0000"); u != nullptr; u = std::strstr(u + 1, "u0000")) {
         size_t slashes = 0;
         while (u - slashes > text && u[-1 - static_cast<ptrdiff_t>(slashes)] == '\\') ++slashes;
-        if (slashes % 2 == 1)
-            check.add(Finding::kWarning, "",
-                      "a string holds \\u0000 at " + position(text, static_cast<size_t>(u - 1 - text)) +
-                          "; the library keeps the string only up to it");
+        if (slashes % 2 == 1 && escaped_nuls++ == 0) first_nul = u - 1;
     }
+    if (escaped_nuls > 0)
+        check.add(Finding::kWarning, "",
+                  "a string holds \\u0000 at " + position(text, static_cast<size_t>(first_nul - text)) +
+                      (escaped_nuls > 1 ? printf_string(" (and %zu more)", escaped_nuls - 1) : std::string()) +
+                      "; the library keeps a string only up to it");
     v.is_array = update || is_array_text(std::string(text, len));
     cJSON *tree = s2j::parse_marked(text, 0, false);
     if (tree == nullptr) {
@@ -420,14 +433,16 @@ Validation validate_text(const s2j::TypeInfo &t, const std::string &whole, bool 
     }
     const bool array_reader = has_array_reader(t.fam);
     const bool keyed = t.fam.c2s_array_update != nullptr;
-    std::vector<std::string> signatures;  // of the elements so far
+    std::unordered_map<std::string, size_t> first_with;  // key signature -> first element holding it
     size_t i = 0;
     for (const cJSON *e = tree->child; e != nullptr; e = e->next, ++i) {
         const std::string place = printf_string("[%zu]", i);
         std::string sig = keyed ? check.key_signature(e) : "";
-        auto same = std::find(signatures.begin(), signatures.end(), sig);
-        if (!sig.empty() && same != signatures.end()) {
-            size_t j = static_cast<size_t>(same - signatures.begin());
+        auto same = sig.empty() ? first_with.end() : first_with.find(sig);
+        if (same == first_with.end()) {
+            if (!sig.empty()) first_with.emplace(sig, i);
+        } else {
+            size_t j = same->second;
             if (update)
                 check.add(Finding::kWarning, place,
                           printf_string("names the same record as [%zu] (%s): both change it, and where both set a "
@@ -438,7 +453,6 @@ Validation validate_text(const s2j::TypeInfo &t, const std::string &whole, bool 
                           printf_string("the same key as [%zu] (%s): an update reaches only the first of them", j,
                                         sig.c_str()));
         }
-        signatures.push_back(sig);
         if (update) {
             check.update_keys(e, place, Finding::kError);
         } else if (t.fam.c2s_array_update != nullptr && cJSON_IsObject(e)) {
