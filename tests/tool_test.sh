@@ -47,6 +47,18 @@ out=$("$tool" --help); rc=$?
 expect_eq "$rc" "0" "--help"
 expect_contains "$out" "print TYPE FILE [--compact]" "--help text"
 
+# Every command answers --help with its synopsis and exit status 0, and
+# every command that takes arguments rejects an unknown option with 2.
+commands=$("$tool" --help | sed -n 's/^ *\(usage:\)\{0,1\} *app_s2j \([a-z]*\) .*/\2/p; s/^ *\(usage:\)\{0,1\} *app_s2j \([a-z]*\)$/\2/p' | grep -v '^$' | sort -u)
+expect_eq "$(echo $commands)" "check print reference schema template types validate" "the usage lists every command"
+for c in $commands; do
+  out=$("$tool" "$c" --help); rc=$?
+  expect_eq "$rc" "0" "$c --help"
+  expect_contains "$out" "usage: app_s2j $c" "$c --help synopsis"
+  out=$("$tool" "$c" DeviceInfo --no-such-option 2>&1); rc=$?
+  expect_eq "$rc" "2" "$c rejects an unknown option"
+done
+
 # Unknown type, missing file.
 out=$("$tool" check NoSuchType "$examples/DeviceInfo.json" 2>&1); rc=$?
 expect_eq "$rc" "2" "unknown type"
