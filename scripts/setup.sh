@@ -9,7 +9,7 @@
 #                                the cross compilers, the target's cJSON and GoogleTest
 #                                through multiarch, and qemu-user to run the tests
 set -euo pipefail
-packages=(cmake make gcc g++ pkg-config binutils libcjson-dev libgtest-dev)
+packages=(cmake make gcc g++ pkg-config binutils libcjson-dev libgtest-dev python3-jsonschema)
 foreign=()
 for arg in "$@"; do
   case "$arg" in
