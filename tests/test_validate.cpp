@@ -198,12 +198,10 @@ std::string document(const s2j::TypeInfo &t, const Members &m) {
 }
 
 TEST(Validator, AgreesWithTheLibraryOnEveryValueOfEveryFieldOfEveryType) {
-    size_t n = 0;
-    const s2j::TypeInfo *types = s2j::registry(&n);
     Library lib;
     Tally tally;
-    for (size_t ti = 0; ti < n; ++ti) {
-        const s2j::TypeInfo &t = types[ti];
+    for (const s2j::TypeInfo *type : all_types()) {
+        const s2j::TypeInfo &t = *type;
         Members base = example_record(t);
         ASSERT_EQ(base.size(), t.desc->field_count) << t.name;
         compare(t, document(t, base), lib, &tally, "example record");
@@ -222,12 +220,10 @@ TEST(Validator, AgreesWithTheLibraryOnEveryValueOfEveryFieldOfEveryType) {
 }
 
 TEST(Validator, AgreesWithTheLibraryOnKeySpellingsRepetitionsAndUnknownKeys) {
-    size_t n = 0;
-    const s2j::TypeInfo *types = s2j::registry(&n);
     Library lib;
     Tally tally;
-    for (size_t ti = 0; ti < n; ++ti) {
-        const s2j::TypeInfo &t = types[ti];
+    for (const s2j::TypeInfo *type : all_types()) {
+        const s2j::TypeInfo &t = *type;
         Members base = example_record(t);
         for (uint32_t fi = 0; fi < t.desc->field_count; ++fi) {
             std::string key = t.desc->fields[fi].key, lower, upper;
@@ -261,12 +257,10 @@ TEST(Validator, AgreesWithTheLibraryOnKeySpellingsRepetitionsAndUnknownKeys) {
 }
 
 TEST(Validator, AgreesWithTheLibraryOnDocumentsOfEveryShape) {
-    size_t n = 0;
-    const s2j::TypeInfo *types = s2j::registry(&n);
     Library lib;
     Tally tally;
-    for (size_t ti = 0; ti < n; ++ti) {
-        const s2j::TypeInfo &t = types[ti];
+    for (const s2j::TypeInfo *type : all_types()) {
+        const s2j::TypeInfo &t = *type;
         const std::string rec = object_text(example_record(t));
         const std::string bad = "{\"" + std::string(t.desc->fields[0].key) + "\":{}}";
         for (const std::string &doc : std::vector<std::string>{

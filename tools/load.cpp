@@ -74,18 +74,23 @@ const s2j::TypeInfo *find_type_or_report(const std::string &name) {
     return nullptr;
 }
 
+bool read_stream(FILE *f, const char *name, std::string *text) {
+    char buf[65536];
+    size_t got;
+    while ((got = std::fread(buf, 1, sizeof buf, f)) > 0) text->append(buf, got);
+    if (!std::ferror(f)) return true;
+    std::fprintf(stderr, "app_s2j: cannot read %s\n", name);
+    return false;
+}
+
 bool read_whole(const std::string &path, std::string *text) {
     FILE *f = std::fopen(path.c_str(), "rb");
     if (f == nullptr) {
         std::fprintf(stderr, "app_s2j: cannot read '%s': %s\n", path.c_str(), std::strerror(errno));
         return false;
     }
-    char buf[65536];
-    size_t got;
-    while ((got = std::fread(buf, 1, sizeof buf, f)) > 0) text->append(buf, got);
-    bool ok = !std::ferror(f);
+    bool ok = read_stream(f, ("'" + path + "'").c_str(), text);
     std::fclose(f);
-    if (!ok) std::fprintf(stderr, "app_s2j: cannot read '%s'\n", path.c_str());
     return ok;
 }
 
@@ -123,15 +128,15 @@ int read_tree(const s2j::TypeInfo &t, const std::string &text, Loaded *out) {
 
 }  // namespace
 
-bool is_array_text(const std::string &text) {
-    size_t from = text.compare(0, 3, "\xEF\xBB\xBF") == 0 ? 3 : 0;
-    size_t i = text.find_first_not_of(" \t\r\n", from);
-    return i != std::string::npos && text[i] == '[';
+bool is_array_text(const char *text, size_t len) {
+    size_t i = len >= 3 && std::memcmp(text, "\xEF\xBB\xBF", 3) == 0 ? 3 : 0;
+    while (i < len && std::strchr(" \t\r\n", text[i]) != nullptr && text[i] != '\0') ++i;
+    return i < len && text[i] == '[';
 }
 
 int load(const s2j::TypeInfo &t, const std::string &path, const std::string &text, Loaded *out) {
     const s2j::Families &f = t.fam;
-    out->is_array = is_array_text(text);
+    out->is_array = is_array_text(text.data(), text.size());
     const size_t size = t.desc->size;
     if (out->is_array) {
         uint32_t n = 0;

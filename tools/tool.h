@@ -5,6 +5,7 @@
 #define APP_S2J_TOOL_H
 
 #include <cstdint>
+#include <cstdio>
 #include <string>
 #include <vector>
 
@@ -58,6 +59,9 @@ int usage_error(const Command &cmd, const std::string &why);
 const s2j::TypeInfo *find_type_or_report(const std::string &name);
 // The whole file into *text; false after printing why it cannot be read.
 bool read_whole(const std::string &path, std::string *text);
+// The rest of an open stream into *text; false after printing that name
+// cannot be read.
+bool read_stream(FILE *f, const char *name, std::string *text);
 
 // The records loaded from a file: one, or count of an array.
 struct Loaded {
@@ -68,7 +72,7 @@ struct Loaded {
 
 // True when the document is a record array: its first character after
 // blanks (and a UTF-8 byte order mark, which the parser skips) is '['.
-bool is_array_text(const std::string &text);
+bool is_array_text(const char *text, size_t len);
 
 // Loads path (whose whole text is text) as type t through the library:
 // through the file families where the type has them, else the text or tree

@@ -50,15 +50,6 @@ std::string printf_string(const char *fmt, ...) {
     return buf;
 }
 
-// The record reader's key comparison: equal bytes, or equal after tolower().
-bool same_key(const char *a, const char *b) {
-    for (;; ++a, ++b) {
-        unsigned char x = static_cast<unsigned char>(*a), y = static_cast<unsigned char>(*b);
-        if (x != y && std::tolower(x) != std::tolower(y)) return false;
-        if (x == '\0') return true;
-    }
-}
-
 // Edit distance between a and b without regard to case, counting an
 // exchange of two neighbouring letters as one edit; more than limit when
 // it exceeds limit (the lengths alone may tell, for keys of any length).
@@ -147,7 +138,7 @@ public:
         std::vector<const cJSON *> match(n, nullptr);
         for (uint32_t i = 0; i < n; ++i)
             for (const cJSON *m = obj->child; m != nullptr && match[i] == nullptr; m = m->next)
-                if (m->string != nullptr && same_key(m->string, d_.fields[i].key)) match[i] = m;
+                if (m->string != nullptr && s2j::same_key(m->string, d_.fields[i].key)) match[i] = m;
         // Members in document order: unknown, repeated, or spelt otherwise.
         for (const cJSON *m = obj->child; m != nullptr; m = m->next) {
             if (m->string == nullptr) continue;
@@ -233,7 +224,7 @@ private:
 
     const Field *field_matching(const char *name) const {
         for (uint32_t i = 0; i < d_.field_count; ++i)
-            if (same_key(name, d_.fields[i].key)) return &d_.fields[i];
+            if (s2j::same_key(name, d_.fields[i].key)) return &d_.fields[i];
         return nullptr;
     }
 
@@ -390,8 +381,9 @@ Validation validate_text(const s2j::TypeInfo &t, const std::string &whole, bool 
                   "a string holds \\u0000 at " + position(text, static_cast<size_t>(first_nul - text)) +
                       (escaped_nuls > 1 ? printf_string(" (and %zu more)", escaped_nuls - 1) : std::string()) +
                       "; the library keeps a string only up to it");
-    v.is_array = update || is_array_text(std::string(text, len));
-    cJSON *tree = s2j::parse_marked(text, 0, false);
+    v.is_array = update || is_array_text(text, len);
+    const char *end = nullptr;
+    cJSON *tree = s2j::parse_marked(text, 0, false, &end);
     if (tree == nullptr) {
         const char *e = cJSON_GetErrorPtr();
         size_t at = e != nullptr && e >= text && e <= text + len ? static_cast<size_t>(e - text) : len;
@@ -403,8 +395,6 @@ Validation validate_text(const s2j::TypeInfo &t, const std::string &whole, bool 
         return v;
     }
     // Text after the document: the library's parser stops at the document's end.
-    const char *end = nullptr;
-    cJSON_Delete(cJSON_ParseWithOpts(text, &end, 0));
     if (end != nullptr) {
         size_t at = static_cast<size_t>(end - text);
         while (at < len && std::strchr(" \t\r\n", text[at]) != nullptr) ++at;
@@ -521,16 +511,6 @@ std::string format_json(const std::string &file, const s2j::TypeInfo &t, const V
 
 namespace {
 
-// The whole of standard input.
-bool read_stdin(std::string *text) {
-    char buf[65536];
-    size_t got;
-    while ((got = std::fread(buf, 1, sizeof buf, stdin)) > 0) text->append(buf, got);
-    if (!std::ferror(stdin)) return true;
-    std::fprintf(stderr, "app_s2j: cannot read standard input\n");
-    return false;
-}
-
 int run_validate(const std::vector<std::string> &args) {
     bool update = false, quiet = false, json = false;
     std::vector<std::string> rest;
@@ -553,7 +533,7 @@ int run_validate(const std::vector<std::string> &args) {
         return usage_error(kValidateCommand, std::string(t->name) + " has no keyed update; --update does not apply");
     const std::string &path = rest[1];
     std::string text;
-    if (!(path == "-" ? read_stdin(&text) : read_whole(path, &text))) return kExitRejected;
+    if (!(path == "-" ? read_stream(stdin, "standard input", &text) : read_whole(path, &text))) return kExitRejected;
     Validation v = validate_text(*t, text, update);
     if (json) {
         std::fputs(format_json(path, *t, v, update, !quiet).c_str(), stdout);

@@ -170,17 +170,6 @@ bool read_key(const Key &k, char *keyword, uint32_t offset, const cJSON *json) {
 
 namespace {
 
-// cJSON's rule for keys: equal when every byte is equal after tolower(), up
-// to and including the NUL.  Bytes that are equal need no tolower().
-bool same_key(const char *a, const char *b) {
-    if (std::strcmp(a, b) == 0) return true;  // the usual case, and the quickest test
-    for (;; ++a, ++b) {
-        unsigned char x = static_cast<unsigned char>(*a), y = static_cast<unsigned char>(*b);
-        if (x != y && std::tolower(x) != std::tolower(y)) return false;
-        if (x == '\0') return true;
-    }
-}
-
 uint32_t key_hash(const char *s) {
     uint32_t h = 2166136261u;
     for (; *s != '\0'; ++s) h = (h ^ static_cast<uint32_t>(std::tolower(static_cast<unsigned char>(*s)))) * 16777619u;

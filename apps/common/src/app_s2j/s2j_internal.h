@@ -7,8 +7,10 @@
 #ifndef APP_S2J_INTERNAL_H
 #define APP_S2J_INTERNAL_H
 
+#include <cctype>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <type_traits>
 
 #include "app_s2j.h"
@@ -101,6 +103,18 @@ constexpr uint32_t int_text_bytes(const Field *f, size_t n) {
     return bytes;
 }
 
+// cJSON's rule for keys, which the record reader follows: equal when every
+// byte is equal after tolower(), up to and including the NUL.  Bytes that
+// are equal need no tolower().
+inline bool same_key(const char *a, const char *b) {
+    if (std::strcmp(a, b) == 0) return true;  // the usual case, and the quickest test
+    for (;; ++a, ++b) {
+        unsigned char x = static_cast<unsigned char>(*a), y = static_cast<unsigned char>(*b);
+        if (x != y && std::tolower(x) != std::tolower(y)) return false;
+        if (x == '\0') return true;
+    }
+}
+
 constexpr char ascii_lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
 constexpr bool same_but_case(const char *a, const char *b) {
@@ -163,8 +177,9 @@ inline int64_t int_value(const cJSON *item) {
 // Parses text as cJSON_Parse (nul-terminated text) or cJSON_ParseWithLength
 // (with_len, len bytes) does, then marks every number item as an integer
 // item or not from its literal in the text.  Null when the text does not
-// parse, or when memory for a raw integer's text runs out.
-cJSON *parse_marked(const char *text, size_t len, bool with_len);
+// parse, or when memory for a raw integer's text runs out.  With parse_end,
+// *parse_end receives where the document ends in the text.
+cJSON *parse_marked(const char *text, size_t len, bool with_len, const char **parse_end = nullptr);
 
 // ---- Engines (s2j_codec.cpp) ------------------------------------------
 

@@ -181,12 +181,13 @@ bool grow(cJSON ***stack, size_t *capacity, cJSON **local, size_t depth) {
 
 }  // namespace
 
-cJSON *parse_marked(const char *text, size_t len, bool with_len) {
+cJSON *parse_marked(const char *text, size_t len, bool with_len, const char **parse_end) {
     // cJSON_Parse and cJSON_ParseWithLength are these calls without the end
     // pointer; the end bounds the scan below without measuring the text.
     const char *end = nullptr;
     cJSON *root = with_len ? cJSON_ParseWithLengthOpts(text, len, &end, 0) : cJSON_ParseWithOpts(text, &end, 0);
     if (root == nullptr) return nullptr;
+    if (parse_end != nullptr) *parse_end = end;
     const char *p = text;
 
     // Pre-order walk: cJSON builds children in text order, so the n-th
