@@ -29,6 +29,13 @@
 #ifndef APP_S2J_H
 #define APP_S2J_H
 
+/* The library's version, stated here once: the build, the soname, pkg-config,
+ * the CMake package and the Debian packages all take it from these lines. */
+#define APP_S2J_VERSION_MAJOR 1
+#define APP_S2J_VERSION_MINOR 0
+#define APP_S2J_VERSION_PATCH 0
+#define APP_S2J_VERSION_STRING "1.0.0"
+
 #include <stddef.h>
 #include <cjson/cJSON.h>
 #include "app_s2j_types.h"
