@@ -180,6 +180,10 @@ inline int64_t int_value(const cJSON *item) {
 // parse, or when memory for a raw integer's text runs out.  With parse_end,
 // *parse_end receives where the document ends in the text.
 cJSON *parse_marked(const char *text, size_t len, bool with_len, const char **parse_end = nullptr);
+// Reads the number literal at p (a '-' or a digit), moving p past its run of
+// number characters: true when it is an integer literal (no fraction, no
+// exponent) within the int64_t range, with its value in *value.
+bool read_literal(const char *&p, const char *end, int64_t *value);
 
 // ---- Engines (s2j_codec.cpp) ------------------------------------------
 

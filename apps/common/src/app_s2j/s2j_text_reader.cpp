@@ -1,0 +1,633 @@
+// s2j_text_reader.cpp - the direct text reader (see s2j_text_reader.h).
+//
+// Two passes over the text, neither of which allocates or recurses:
+//  1. check that cJSON would parse the text, and to the same document: the
+//     same grammar, the same whitespace (every byte up to 0x20, NUL
+//     included), the byte order mark, the nesting limit, strtod()'s reading
+//     of number literals, the escapes of strings.  Anything cJSON refuses,
+//     and the few things this reader leaves to cJSON (a number literal of 63
+//     or more characters, a fraction under a locale whose decimal point is
+//     not one byte, a type with two keys equal but for case), ends the read
+//     here with UseTree, before any record is touched;
+//  2. read the records from the text known to be well formed, exactly as the
+//     tree readers read the tree cJSON would have built: for each record the
+//     first member whose key equals a field's key without regard to case
+//     (under tolower(), as cJSON compares), then the fields in table order up
+//     to the first of the wrong JSON type.
+#include "s2j_text_reader.h"
+
+#include <cctype>
+#include <clocale>
+#include <cstring>
+
+#include <cjson/cJSON.h>
+
+namespace s2j {
+
+namespace {
+
+using u8 = unsigned char;
+
+// ---- Byte classes -----------------------------------------------------------
+
+enum : uint8_t { kSpace = 1, kDigit = 2, kNumber = 4 };  // kNumber: digits, + - . e E
+
+struct ByteClasses {
+    uint8_t of[256];
+};
+
+constexpr ByteClasses make_classes() {
+    ByteClasses c{};
+    for (int b = 0; b <= 32; ++b) c.of[b] = kSpace;
+    for (int b = '0'; b <= '9'; ++b) c.of[b] = kDigit | kNumber;
+    const char *signs = "+-.eE";
+    for (const char *p = signs; *p != '\0'; ++p) c.of[static_cast<u8>(*p)] = kNumber;
+    return c;
+}
+
+constexpr ByteClasses kBytes = make_classes();
+
+inline bool is_space(u8 c) { return kBytes.of[c] & kSpace; }
+inline bool is_digit(u8 c) { return kBytes.of[c] & kDigit; }
+inline bool is_number_char(u8 c) { return kBytes.of[c] & kNumber; }
+
+// The text and its length in bytes (for a NUL-terminated text, the NUL
+// counted, as cJSON_Parse counts it).
+struct Text {
+    const u8 *s;
+    size_t len;
+};
+
+inline size_t skip_space(const Text &t, size_t i) {
+    while (i < t.len && is_space(t.s[i])) ++i;
+    return i;
+}
+
+// ---- Strings ----------------------------------------------------------------
+
+// The value of four hex digits as cJSON reads them: 0 when any is not one.
+unsigned hex4(const u8 *p) {
+    unsigned h = 0;
+    for (int i = 0; i < 4; ++i) {
+        u8 c = p[i];
+        unsigned d;
+        if (c >= '0' && c <= '9')
+            d = c - '0';
+        else if (c >= 'A' && c <= 'F')
+            d = c - 'A' + 10;
+        else if (c >= 'a' && c <= 'f')
+            d = c - 'a' + 10;
+        else
+            return 0;
+        h = (h << 4) | d;
+    }
+    return h;
+}
+
+// The \u escape at p (before end, the closing quote) as cJSON decodes it: the
+// number of text bytes it takes (6, or 12 for a surrogate pair), or 0 when
+// cJSON refuses it; its UTF-8 bytes go to out, their number to *n.  Four hex
+// digits that are not all hex read as 0, which ends the string's text.
+unsigned unicode_escape(const u8 *p, const u8 *end, u8 out[4], unsigned *n) {
+    if (end - p < 6) return 0;
+    unsigned code = hex4(p + 2);
+    if (code >= 0xDC00 && code <= 0xDFFF) return 0;  // a low surrogate first
+    unsigned length = 6;
+    if (code >= 0xD800 && code <= 0xDBFF) {
+        const u8 *second = p + 6;
+        if (end - second < 6 || second[0] != '\\' || second[1] != 'u') return 0;
+        unsigned low = hex4(second + 2);
+        if (low < 0xDC00 || low > 0xDFFF) return 0;
+        code = 0x10000 + (((code & 0x3FF) << 10) | (low & 0x3FF));
+        length = 12;
+    }
+    if (code < 0x80) {
+        out[0] = static_cast<u8>(code);
+        *n = 1;
+    } else if (code < 0x800) {
+        out[0] = static_cast<u8>(0xC0 | (code >> 6));
+        out[1] = static_cast<u8>(0x80 | (code & 0x3F));
+        *n = 2;
+    } else if (code < 0x10000) {
+        out[0] = static_cast<u8>(0xE0 | (code >> 12));
+        out[1] = static_cast<u8>(0x80 | ((code >> 6) & 0x3F));
+        out[2] = static_cast<u8>(0x80 | (code & 0x3F));
+        *n = 3;
+    } else {
+        out[0] = static_cast<u8>(0xF0 | (code >> 18));
+        out[1] = static_cast<u8>(0x80 | ((code >> 12) & 0x3F));
+        out[2] = static_cast<u8>(0x80 | ((code >> 6) & 0x3F));
+        out[3] = static_cast<u8>(0x80 | (code & 0x3F));
+        *n = 4;
+    }
+    return length;
+}
+
+// The closing quote of the string opening at t.s[i], as cJSON finds it (a
+// backslash hides the byte after it), or 0 when the text ends first.
+// *escaped tells whether the string holds a backslash.
+size_t scan_string(const Text &t, size_t i, bool *escaped) {
+    for (++i; i < t.len; ++i) {
+        u8 c = t.s[i];
+        if (c == '"') return i;
+        if (c == '\\') {
+            if (i + 1 >= t.len) return 0;
+            *escaped = true;
+            ++i;
+        }
+    }
+    return 0;
+}
+
+// Whether cJSON accepts every escape of the string text [p, end).
+bool escapes_valid(const u8 *p, const u8 *end) {
+    while (p < end) {
+        if (*p != '\\') {
+            ++p;
+            continue;
+        }
+        switch (p[1]) {
+            case 'b': case 'f': case 'n': case 'r': case 't': case '"': case '\\': case '/':
+                p += 2;
+                break;
+            case 'u': {
+                u8 out[4];
+                unsigned n;
+                unsigned length = unicode_escape(p, end, out, &n);
+                if (length == 0) return false;
+                p += length;
+                break;
+            }
+            default:
+                return false;
+        }
+    }
+    return true;
+}
+
+// In a text known to be well formed: the closing quote of the string opening
+// at s[i].
+inline size_t string_end(const u8 *s, size_t i) {
+    for (++i;; ++i) {
+        u8 c = s[i];
+        if (c == '"') return i;
+        if (c == '\\') ++i;
+    }
+}
+
+// Copies the text of the string opening at s[i] into a field of size bytes as
+// snprintf(field, size, "%s", text) would copy cJSON's value: at most size-1
+// bytes, up to the first NUL of the decoded text, then a NUL.
+void copy_string(const u8 *s, size_t i, char *field, size_t size) {
+    const size_t room = size - 1;
+    const u8 *p = s + i + 1, *end = s + string_end(s, i);
+    size_t n = 0;
+    while (p < end && n < room) {
+        u8 c = *p;
+        if (c != '\\') {
+            if (c == '\0') break;
+            field[n++] = static_cast<char>(c);
+            ++p;
+            continue;
+        }
+        u8 out[4];
+        unsigned count = 1;
+        switch (p[1]) {
+            case 'b': out[0] = '\b'; break;
+            case 'f': out[0] = '\f'; break;
+            case 'n': out[0] = '\n'; break;
+            case 'r': out[0] = '\r'; break;
+            case 't': out[0] = '\t'; break;
+            case 'u': p += unicode_escape(p, end, out, &count) - 2; break;
+            default: out[0] = p[1]; break;  // " \ /
+        }
+        p += 2;
+        unsigned k = 0;
+        while (k < count && n < room && out[k] != '\0') field[n++] = static_cast<char>(out[k++]);
+        if (k < count && out[k] == '\0') break;
+    }
+    field[n] = '\0';
+}
+
+// A member's key as cJSON holds it: the decoded text up to its first NUL.
+// Keys without escapes or NULs are read in place; others are decoded into
+// buf, and a key longer than buf can hold equals no field's key.
+struct KeyText {
+    const u8 *p;
+    size_t n;
+};
+
+constexpr size_t kKeyRoom = 128;  // longer than every field's key
+
+bool decode_key(const u8 *s, size_t i, u8 (&buf)[kKeyRoom], KeyText *key) {
+    char *out = reinterpret_cast<char *>(buf);
+    copy_string(s, i, out, kKeyRoom);
+    key->p = buf;
+    key->n = std::strlen(out);
+    return key->n < kKeyRoom - 1;  // a key filling the buffer may be longer
+}
+
+// cJSON's comparison of keys: equal when every byte is equal after tolower(),
+// up to and including the NUL.  Bytes that are equal need no tolower().
+bool same_key_text(const char *field_key, const KeyText &k) {
+    for (size_t j = 0; j < k.n; ++j) {
+        u8 y = static_cast<u8>(field_key[j]), x = k.p[j];
+        if (y == '\0') return false;
+        if (x != y && std::tolower(x) != std::tolower(y)) return false;
+    }
+    return field_key[k.n] == '\0';
+}
+
+// ---- Numbers ----------------------------------------------------------------
+
+// The length of the number literal at t.s[i] (a '-' or a digit) when
+// strtod() reads the whole run of number characters as cJSON hands it over,
+// else 0: a run that strtod() reads only in part (cJSON refuses it inside a
+// document and ignores the rest after a top-level value), none of, or that
+// cJSON cuts at 63 characters.  *fraction tells whether it holds a '.'.
+size_t number_length(const Text &t, size_t i, bool *fraction) {
+    size_t run = i;
+    while (run < t.len && is_number_char(t.s[run])) ++run;
+    if (run - i >= 63) return 0;
+    size_t p = i, digits = 0;
+    if (t.s[p] == '-') ++p;
+    for (; p < run && is_digit(t.s[p]); ++p) ++digits;
+    if (p < run && t.s[p] == '.') {
+        *fraction = true;
+        for (++p; p < run && is_digit(t.s[p]); ++p) ++digits;
+    }
+    if (digits == 0) return 0;
+    if (p < run && (t.s[p] == 'e' || t.s[p] == 'E')) {
+        size_t q = p + 1;
+        if (q < run && (t.s[q] == '+' || t.s[q] == '-')) ++q;
+        if (q < run && is_digit(t.s[q])) {
+            while (q < run && is_digit(t.s[q])) ++q;
+            p = q;
+        }
+    }
+    return p == run ? run - i : 0;
+}
+
+// cJSON hands strtod() the literal with '.' replaced by the first byte of the
+// locale's decimal point; the literal reads the same only when that point is
+// one byte long.
+bool decimal_point_is_one_byte() {
+    const char *point = std::localeconv()->decimal_point;
+    return point != nullptr && point[0] != '\0' && point[1] == '\0';
+}
+
+// ---- Pass 1: does cJSON parse this text, and to what -------------------------
+
+struct Document {
+    size_t root;        // offset of the top-level value
+    uint32_t elements;  // its number of elements, when it is an array
+};
+
+bool check_document(const Text &t, Document *doc) {
+    const u8 *s = t.s;
+    size_t i = 0;
+    if (4 < t.len && s[0] == 0xEF && s[1] == 0xBB && s[2] == 0xBF) i = 3;  // a UTF-8 byte order mark
+    i = skip_space(t, i);
+    doc->root = i;
+    doc->elements = 0;
+    // One bit per open container (set for an object), as deep as cJSON nests.
+    uint64_t objects[(CJSON_NESTING_LIMIT + 63) / 64] = {};
+    unsigned depth = 0;
+    bool fraction = false;
+
+value:
+    if (i >= t.len) return false;
+    switch (s[i]) {
+        case '{':
+        case '[': {
+            if (depth >= CJSON_NESTING_LIMIT) return false;
+            const bool object = s[i] == '{';
+            const uint64_t bit = uint64_t{1} << (depth % 64);
+            if (object)
+                objects[depth / 64] |= bit;
+            else
+                objects[depth / 64] &= ~bit;
+            ++depth;
+            i = skip_space(t, i + 1);
+            if (i < t.len && s[i] == (object ? '}' : ']')) {
+                ++i;
+                --depth;
+                goto after_value;
+            }
+            if (depth == 1 && !object) doc->elements = 1;
+            if (object) goto member;
+            goto value;
+        }
+        case '"': {
+            bool escaped = false;
+            size_t end = scan_string(t, i, &escaped);
+            if (end == 0 || (escaped && !escapes_valid(s + i + 1, s + end))) return false;
+            i = end + 1;
+            goto after_value;
+        }
+        case 'n':
+        case 't':
+        case 'f': {
+            const char *word = s[i] == 'n' ? "null" : s[i] == 't' ? "true" : "false";
+            size_t n = std::strlen(word);
+            if (i + n > t.len || std::memcmp(s + i, word, n) != 0) return false;
+            i += n;
+            goto after_value;
+        }
+        default: {
+            if (s[i] != '-' && !is_digit(s[i])) return false;
+            size_t n = number_length(t, i, &fraction);
+            if (n == 0) return false;
+            i += n;
+            goto after_value;
+        }
+    }
+
+member:  // i at the key of a member
+    if (i >= t.len || s[i] != '"') return false;
+    {
+        bool escaped = false;
+        size_t end = scan_string(t, i, &escaped);
+        if (end == 0 || (escaped && !escapes_valid(s + i + 1, s + end))) return false;
+        i = skip_space(t, end + 1);
+    }
+    if (i >= t.len || s[i] != ':') return false;
+    i = skip_space(t, i + 1);
+    goto value;
+
+after_value:
+    if (depth == 0) return !fraction || decimal_point_is_one_byte();  // what follows is not read
+    i = skip_space(t, i);
+    if (i >= t.len) return false;
+    {
+        const bool object = objects[(depth - 1) / 64] & (uint64_t{1} << ((depth - 1) % 64));
+        if (s[i] == ',') {
+            i = skip_space(t, i + 1);
+            if (object) goto member;
+            if (depth == 1 && doc->elements++ == UINT32_MAX) return false;
+            goto value;
+        }
+        if (s[i] != (object ? '}' : ']')) return false;
+        ++i;
+        --depth;
+        goto after_value;
+    }
+}
+
+// ---- Pass 2: reading from a well-formed text ---------------------------------
+//
+// Offsets below point into a text that pass 1 has checked: every container
+// is closed within it, so scanning needs no bounds.
+
+inline size_t skip_ws(const u8 *s, size_t i) {
+    while (is_space(s[i])) ++i;
+    return i;
+}
+
+// Just past the value starting at s[i].
+size_t skip_value(const u8 *s, size_t i) {
+    switch (s[i]) {
+        case '"':
+            return string_end(s, i) + 1;
+        case '{':
+        case '[': {
+            unsigned depth = 0;
+            for (;; ++i) {
+                u8 c = s[i];
+                if (c == '"') {
+                    i = string_end(s, i);
+                } else if (c == '{' || c == '[') {
+                    ++depth;
+                } else if (c == '}' || c == ']') {
+                    if (--depth == 0) return i + 1;
+                }
+            }
+        }
+        case 'n':
+        case 't':
+            return i + 4;
+        case 'f':
+            return i + 5;
+        default:
+            while (is_number_char(s[i])) ++i;
+            return i;
+    }
+}
+
+// Walks the elements of an array, or the member values of an object, opening
+// at s[i]: calls f(offset of the value, offset of the key's quote or 0) for
+// each until f returns false.
+template <class F>
+void each_child(const u8 *s, size_t i, F f) {
+    const bool object = s[i] == '{';
+    i = skip_ws(s, i + 1);
+    if (s[i] == '}' || s[i] == ']') return;
+    for (;;) {
+        size_t key = 0;
+        if (object) {
+            key = i;
+            i = skip_ws(s, string_end(s, i) + 1);  // at ':'
+            i = skip_ws(s, i + 1);
+        }
+        if (!f(i, key)) return;
+        i = skip_ws(s, skip_value(s, i));
+        if (s[i] != ',') return;
+        i = skip_ws(s, i + 1);
+    }
+}
+
+// The field whose key equals the member's key, or -1; the field after the
+// last one matched is tried first, as members usually come in table order.
+int find_field(const TypeDesc *d, const KeyText &key, uint32_t next) {
+    if (next < d->field_count && same_key_text(d->fields[next].key, key)) return static_cast<int>(next);
+    for (uint32_t f = 0; f < d->field_count; ++f)
+        if (f != next && same_key_text(d->fields[f].key, key)) return static_cast<int>(f);
+    return -1;
+}
+
+// For every field of the record, the offset of the value of the first member
+// of the object at s[i] whose key equals the field's (0 where none does): the
+// member cJSON_GetObjectItem() would return.  A value that is not an object
+// has no members.
+void find_members(const TypeDesc *d, const u8 *s, size_t i, size_t (&at)[kMaxFields]) {
+    std::memset(at, 0, d->field_count * sizeof at[0]);
+    if (s[i] != '{') return;
+    uint32_t next = 0;
+    each_child(s, i, [&](size_t value, size_t quote) {
+        KeyText key;
+        const u8 *p = s + quote + 1;
+        size_t n = 0;
+        while (p[n] != '"' && p[n] != '\\' && p[n] != '\0') ++n;
+        u8 buf[kKeyRoom];
+        if (p[n] == '"') {
+            key = KeyText{p, n};
+        } else if (!decode_key(s, quote, buf, &key)) {
+            return true;  // longer than any field's key
+        }
+        int f = find_field(d, key, next);
+        if (f >= 0) {
+            if (at[f] == 0) at[f] = value;
+            next = static_cast<uint32_t>(f) + 1;
+        }
+        return true;
+    });
+}
+
+// Whether the value at t.s[i] is an integer item (an integer literal within
+// the int64_t range, as the marking parser classifies it), and its value.
+bool integer_at(const Text &t, size_t i, int64_t *v) {
+    if (t.s[i] != '-' && !is_digit(t.s[i])) return false;
+    const char *p = reinterpret_cast<const char *>(t.s + i);
+    return read_literal(p, reinterpret_cast<const char *>(t.s + t.len), v);
+}
+
+// One integer list: entries stored by position, non-integers skipped; false
+// when the value has no children or none of them is an integer.
+bool read_list(const Text &t, size_t i, char *at, uint32_t size) {
+    if (t.s[i] != '[' && t.s[i] != '{') return false;
+    const uint32_t capacity = size / 4;
+    uint32_t k = 0;
+    bool stored = false;
+    each_child(t.s, i, [&](size_t value, size_t) {
+        if (k == capacity) return false;
+        int64_t v;
+        if (integer_at(t, value, &v)) {
+            uint32_t u = static_cast<uint32_t>(static_cast<uint64_t>(v));
+            std::memcpy(at + 4 * k, &u, sizeof u);
+            stored = true;
+        }
+        ++k;
+        return true;
+    });
+    return stored;
+}
+
+// Reads the value at t.s[i] into a field at `at`, as the tree reader reads
+// the item: false when it is not of the field's JSON type.
+bool read_field(const Text &t, const Field &f, size_t i, char *at) {
+    switch (f.kind) {
+        case Kind::I32:
+        case Kind::U32:
+        case Kind::U16: {
+            int64_t v;
+            if (!integer_at(t, i, &v)) return false;
+            const uint64_t bits = static_cast<uint64_t>(v);
+            if (f.kind == Kind::U16) {
+                uint16_t u = static_cast<uint16_t>(bits);
+                std::memcpy(at, &u, sizeof u);
+            } else {
+                uint32_t u = static_cast<uint32_t>(bits);
+                std::memcpy(at, &u, sizeof u);
+            }
+            return true;
+        }
+        case Kind::Str:
+            if (t.s[i] != '"') return false;
+            copy_string(t.s, i, at, f.size);
+            return true;
+        case Kind::U32List:
+            return read_list(t, i, at, f.size);
+    }
+    return false;
+}
+
+// Fills the record's fields in table order from the members found, up to the
+// first of the wrong JSON type; absent members leave their fields alone.
+bool fill_record(const TypeDesc *d, const Text &t, const size_t (&at)[kMaxFields], void *rec) {
+    char *base = static_cast<char *>(rec);
+    for (uint32_t f = 0; f < d->field_count; ++f)
+        if (at[f] != 0 && !read_field(t, d->fields[f], at[f], base + d->fields[f].offset)) return false;
+    return true;
+}
+
+// The table index of a key field.
+uint32_t field_of_key(const TypeDesc *d, const Key &k) {
+    uint32_t f = 0;
+    while (d->fields[f].offset != k.field.offset) ++f;
+    return f;
+}
+
+bool start(const TypeDesc *d, const Text &t, Document *doc) {
+    return !d->key_twins && check_document(t, doc);
+}
+
+}  // namespace
+
+Direct direct_record(const TypeDesc *d, const char *text, size_t len, void *rec) {
+    const Text t{reinterpret_cast<const u8 *>(text), len};
+    Document doc;
+    if (!start(d, t, &doc)) return Direct::UseTree;
+    if (t.s[doc.root] != '{') return Direct::NotObject;
+    size_t at[kMaxFields];
+    find_members(d, t.s, doc.root, at);
+    return fill_record(d, t, at, rec) ? Direct::Done : Direct::ReaderFailed;
+}
+
+Direct direct_array(const TypeDesc *d, const char *text, size_t len, void *arr, uint32_t *count) {
+    const Text t{reinterpret_cast<const u8 *>(text), len};
+    Document doc;
+    if (!start(d, t, &doc)) return Direct::UseTree;
+    if (t.s[doc.root] != '[') return Direct::NotArray;
+    if (arr == nullptr) {  // query mode: how many elements to provide
+        *count = doc.elements;
+        return Direct::Done;
+    }
+    const uint32_t filled = doc.elements < *count ? doc.elements : *count;
+    char *base = static_cast<char *>(arr);
+    uint32_t k = 0;
+    bool ok = true;
+    each_child(t.s, doc.root, [&](size_t value, size_t) {
+        if (k == filled) return false;
+        size_t at[kMaxFields];
+        find_members(d, t.s, value, at);
+        ok = fill_record(d, t, at, base + static_cast<size_t>(k) * d->size);
+        ++k;
+        return ok;
+    });
+    if (!ok) return Direct::ReaderFailed;
+    *count = filled;
+    return Direct::Done;
+}
+
+Direct direct_update(const TypeDesc *d, const char *text, size_t len, void *arr, uint32_t *count) {
+    const Text t{reinterpret_cast<const u8 *>(text), len};
+    Document doc;
+    if (!start(d, t, &doc)) return Direct::UseTree;
+    if (t.s[doc.root] != '[') return Direct::NotArray;
+    char *base = static_cast<char *>(arr);
+    const uint32_t capacity = *count;  // not changed during the loop
+    uint32_t updated = 0;
+    Direct outcome = Direct::Done;
+    each_child(t.s, doc.root, [&](size_t value, size_t) {
+        size_t at[kMaxFields];
+        find_members(d, t.s, value, at);
+        // The keyword record of this element, read as the keyword reader
+        // reads it: every key present and of its JSON type.
+        alignas(8) char keyword[kMaxKeywordSize];
+        for (uint32_t k = 0; k < d->key_count; ++k) {
+            const Key &key = d->keys[k];
+            Field f = key.field;
+            if (f.kind == Kind::Str) f.size = kKeyStringSize;
+            const size_t member = at[field_of_key(d, key)];
+            if (member == 0 || !read_field(t, f, member, keyword + key.keyword_offset)) {
+                outcome = Direct::KeywordMissing;
+                return false;
+            }
+        }
+        for (uint32_t i = 0; i < capacity; ++i) {
+            char *rec = base + static_cast<size_t>(i) * d->size;
+            if (!keys_match(d, rec, keyword)) continue;
+            if (!fill_record(d, t, at, rec)) {
+                outcome = Direct::ReaderFailed;
+                return false;
+            }
+            ++updated;
+            break;
+        }
+        return true;
+    });
+    if (outcome == Direct::Done) *count = updated;  // an empty list sets the count to 0
+    return outcome;
+}
+
+}  // namespace s2j
