@@ -123,18 +123,45 @@ unsigned unicode_escape(const u8 *p, const u8 *end, u8 out[4], unsigned *n) {
     return length;
 }
 
+// The bytes of w that are a quote or a backslash, as the high bit of each
+// such byte; the lowest byte in memory that is one is marked exactly (bytes
+// after it may be marked too).
+inline uint64_t quotes_or_backslashes(uint64_t w) {
+    constexpr uint64_t ones = 0x0101010101010101ull, highs = 0x8080808080808080ull;
+    const uint64_t q = w ^ (ones * '"'), b = w ^ (ones * '\\');
+    return (((q - ones) & ~q) | ((b - ones) & ~b)) & highs;
+}
+
+// The byte in memory order of the first mark of quotes_or_backslashes().
+inline size_t first_marked(uint64_t marks) {
+#if defined(__BYTE_ORDER__) && __BYTE_ORDER__ == __ORDER_BIG_ENDIAN__
+    return static_cast<size_t>(__builtin_clzll(marks)) / 8;
+#else
+    return static_cast<size_t>(__builtin_ctzll(marks)) / 8;
+#endif
+}
+
+// The first quote or backslash at or after i, looking no further than len
+// (len when there is none): eight bytes at a time, then byte by byte.
+inline size_t next_quote_or_backslash(const u8 *s, size_t i, size_t len) {
+    for (; i + 8 <= len; i += 8) {
+        uint64_t w;
+        std::memcpy(&w, s + i, 8);
+        if (uint64_t marks = quotes_or_backslashes(w)) return i + first_marked(marks);
+    }
+    while (i < len && s[i] != '"' && s[i] != '\\') ++i;
+    return i;
+}
+
 // The closing quote of the string opening at t.s[i], as cJSON finds it (a
 // backslash hides the byte after it), or 0 when the text ends first.
 // *escaped tells whether the string holds a backslash.
-size_t scan_string(const Text &t, size_t i, bool *escaped) {
-    for (++i; i < t.len; ++i) {
-        u8 c = t.s[i];
-        if (c == '"') return i;
-        if (c == '\\') {
-            if (i + 1 >= t.len) return 0;
-            *escaped = true;
-            ++i;
-        }
+inline size_t scan_string(const Text &t, size_t i, bool *escaped) {
+    for (i = next_quote_or_backslash(t.s, i + 1, t.len); i < t.len; i = next_quote_or_backslash(t.s, i, t.len)) {
+        if (t.s[i] == '"') return i;
+        if (i + 1 >= t.len) return 0;  // a backslash ends the text
+        *escaped = true;
+        i += 2;
     }
     return 0;
 }
@@ -166,21 +193,19 @@ bool escapes_valid(const u8 *p, const u8 *end) {
 }
 
 // In a text known to be well formed: the closing quote of the string opening
-// at s[i].
-inline size_t string_end(const u8 *s, size_t i) {
-    for (++i;; ++i) {
-        u8 c = s[i];
-        if (c == '"') return i;
-        if (c == '\\') ++i;
+// at t.s[i].
+inline size_t string_end(const Text &t, size_t i) {
+    for (i = next_quote_or_backslash(t.s, i + 1, t.len); t.s[i] != '"'; i = next_quote_or_backslash(t.s, i + 2, t.len)) {
     }
+    return i;
 }
 
 // Copies the text of the string opening at s[i] into a field of size bytes as
 // snprintf(field, size, "%s", text) would copy cJSON's value: at most size-1
 // bytes, up to the first NUL of the decoded text, then a NUL.
-void copy_string(const u8 *s, size_t i, char *field, size_t size) {
+void copy_string(const Text &t, size_t i, char *field, size_t size) {
     const size_t room = size - 1;
-    const u8 *p = s + i + 1, *end = s + string_end(s, i);
+    const u8 *p = t.s + i + 1, *end = t.s + string_end(t, i);
     size_t n = 0;
     while (p < end && n < room) {
         u8 c = *p;
@@ -219,9 +244,9 @@ struct KeyText {
 
 constexpr size_t kKeyRoom = 128;  // longer than every field's key
 
-bool decode_key(const u8 *s, size_t i, u8 (&buf)[kKeyRoom], KeyText *key) {
+bool decode_key(const Text &t, size_t i, u8 (&buf)[kKeyRoom], KeyText *key) {
     char *out = reinterpret_cast<char *>(buf);
-    copy_string(s, i, out, kKeyRoom);
+    copy_string(t, i, out, kKeyRoom);
     key->p = buf;
     key->n = std::strlen(out);
     return key->n < kKeyRoom - 1;  // a key filling the buffer may be longer
@@ -276,6 +301,59 @@ bool decimal_point_is_one_byte() {
     return point != nullptr && point[0] != '\0' && point[1] == '\0';
 }
 
+// ---- Keys -------------------------------------------------------------------
+
+// The field whose key equals the member's key, or -1; the field after the
+// last one matched is tried first, as members usually come in table order.
+int find_field(const TypeDesc *d, const KeyText &key, uint32_t next) {
+    if (next < d->field_count && same_key_text(d->fields[next].key, key)) return static_cast<int>(next);
+    for (uint32_t f = 0; f < d->field_count; ++f)
+        if (f != next && same_key_text(d->fields[f].key, key)) return static_cast<int>(f);
+    return -1;
+}
+
+// The field whose key equals the key of the member whose quotes are at
+// t.s[quote] and t.s[end], or -1.  A key written exactly as the expected
+// field's is compared in place; others are decoded as cJSON decodes them
+// (escapes, and the text up to an escaped or raw NUL) and compared under
+// tolower() with every field's.
+int match_key(const TypeDesc *d, const Text &t, size_t quote, size_t end, uint32_t next) {
+    const size_t n = end - quote - 1;
+    const u8 *p = t.s + quote + 1;
+    if (next < d->field_count) {
+        const Field &f = d->fields[next];
+        if (f.key_length == n && std::memcmp(p, f.key, n) == 0) return static_cast<int>(next);
+    }
+    KeyText key{p, n};
+    u8 buf[kKeyRoom];
+    if (std::memchr(p, '\\', n) != nullptr || std::memchr(p, '\0', n) != nullptr) {
+        if (!decode_key(t, quote, buf, &key)) return -1;  // longer than any field's key
+    }
+    return find_field(d, key, next);
+}
+
+// Where the members of one object go: for every field, the offset of the
+// value of the first member whose key equals the field's (0 where none
+// does), the member cJSON_GetObjectItem() would return.
+struct Members {
+    const TypeDesc *d;
+    size_t at[kMaxFields];
+    uint32_t next;  // the field after the last one matched
+
+    void clear() {
+        std::memset(at, 0, d->field_count * sizeof at[0]);
+        next = 0;
+    }
+    // The member whose key's quotes are at quote and end has its value at
+    // value.
+    void add(const Text &t, size_t quote, size_t end, size_t value) {
+        int f = match_key(d, t, quote, end, next);
+        if (f < 0) return;
+        if (at[f] == 0) at[f] = value;
+        next = static_cast<uint32_t>(f) + 1;
+    }
+};
+
 // ---- Pass 1: does cJSON parse this text, and to what -------------------------
 
 struct Document {
@@ -283,119 +361,161 @@ struct Document {
     uint32_t elements;  // its number of elements, when it is an array
 };
 
-bool check_document(const Text &t, Document *doc) {
-    const u8 *s = t.s;
-    size_t i = 0;
-    if (4 < t.len && s[0] == 0xEF && s[1] == 0xBB && s[2] == 0xBF) i = 3;  // a UTF-8 byte order mark
-    i = skip_space(t, i);
-    doc->root = i;
+// The number literal at t.s[i]: its end, or 0 when the direct reader does not
+// take it (see number_length).  Plain integers, by far the most common, take
+// the first loop only.
+inline size_t number_end(const Text &t, size_t i, bool *fraction) {
+    size_t j = i + (t.s[i] == '-');
+    const size_t digits = j;
+    while (j < t.len && is_digit(t.s[j])) ++j;
+    if (j > digits && j - i <= 63 && (j == t.len || !is_number_char(t.s[j]))) return j;
+    const size_t n = number_length(t, i, fraction);
+    return n == 0 ? 0 : i + n;
+}
+
+// Checks the whole text as cJSON parses it.  With members, the members of a
+// top-level object are found on the way.  Written for speed over pointers:
+// blanks are tested before they are skipped, plain integers and strings
+// without escapes take one loop each.
+bool check_document(const Text &t, Document *doc, Members *members) {
+    const u8 *const s = t.s, *const end = t.s + t.len;
+    const u8 *p = s;
+    if (4 < t.len && s[0] == 0xEF && s[1] == 0xBB && s[2] == 0xBF) p += 3;  // a UTF-8 byte order mark
+    while (p < end && *p <= 32) ++p;
+    doc->root = static_cast<size_t>(p - s);
     doc->elements = 0;
     // One bit per open container (set for an object), as deep as cJSON nests.
-    uint64_t objects[(CJSON_NESTING_LIMIT + 63) / 64] = {};
+    uint64_t objects[(CJSON_NESTING_LIMIT + 63) / 64];
     unsigned depth = 0;
+    bool object = false;  // whether the innermost open container is an object
     bool fraction = false;
+    const u8 *key = nullptr, *key_end = nullptr;  // the quotes of a top-level member's key
+
+#define S2J_SKIP_BLANKS() \
+    if (p < end && *p <= 32) \
+        do ++p; while (p < end && *p <= 32)
 
 value:
-    if (i >= t.len) return false;
-    switch (s[i]) {
+    if (p >= end) return false;
+    if (key != nullptr) {
+        members->add(t, static_cast<size_t>(key - s), static_cast<size_t>(key_end - s), static_cast<size_t>(p - s));
+        key = nullptr;
+    }
+    switch (*p) {
         case '{':
         case '[': {
             if (depth >= CJSON_NESTING_LIMIT) return false;
-            const bool object = s[i] == '{';
+            object = *p == '{';
             const uint64_t bit = uint64_t{1} << (depth % 64);
             if (object)
                 objects[depth / 64] |= bit;
             else
                 objects[depth / 64] &= ~bit;
             ++depth;
-            i = skip_space(t, i + 1);
-            if (i < t.len && s[i] == (object ? '}' : ']')) {
-                ++i;
-                --depth;
-                goto after_value;
+            ++p;
+            S2J_SKIP_BLANKS();
+            if (p < end && *p == (object ? '}' : ']')) {
+                ++p;
+                goto close;
             }
-            if (depth == 1 && !object) doc->elements = 1;
             if (object) goto member;
+            if (depth == 1) doc->elements = 1;
             goto value;
         }
         case '"': {
             bool escaped = false;
-            size_t end = scan_string(t, i, &escaped);
-            if (end == 0 || (escaped && !escapes_valid(s + i + 1, s + end))) return false;
-            i = end + 1;
+            const size_t q = scan_string(t, static_cast<size_t>(p - s), &escaped);
+            if (q == 0 || (escaped && !escapes_valid(p + 1, s + q))) return false;
+            p = s + q + 1;
             goto after_value;
         }
         case 'n':
-        case 't':
-        case 'f': {
-            const char *word = s[i] == 'n' ? "null" : s[i] == 't' ? "true" : "false";
-            size_t n = std::strlen(word);
-            if (i + n > t.len || std::memcmp(s + i, word, n) != 0) return false;
-            i += n;
+            if (end - p < 4 || std::memcmp(p, "null", 4) != 0) return false;
+            p += 4;
             goto after_value;
-        }
+        case 't':
+            if (end - p < 4 || std::memcmp(p, "true", 4) != 0) return false;
+            p += 4;
+            goto after_value;
+        case 'f':
+            if (end - p < 5 || std::memcmp(p, "false", 5) != 0) return false;
+            p += 5;
+            goto after_value;
         default: {
-            if (s[i] != '-' && !is_digit(s[i])) return false;
-            size_t n = number_length(t, i, &fraction);
+            const u8 *q = p + (*p == '-');
+            const u8 *digits = q;
+            while (q < end && is_digit(*q)) ++q;
+            if (q > digits && q - p <= 63 && (q == end || !is_number_char(*q))) {
+                p = q;  // a plain integer
+                goto after_value;
+            }
+            if (*p != '-' && !is_digit(*p)) return false;
+            const size_t n = number_length(t, static_cast<size_t>(p - s), &fraction);
             if (n == 0) return false;
-            i += n;
+            p += n;
             goto after_value;
         }
     }
 
-member:  // i at the key of a member
-    if (i >= t.len || s[i] != '"') return false;
+member:  // p at the key of a member
+    if (p >= end || *p != '"') return false;
     {
         bool escaped = false;
-        size_t end = scan_string(t, i, &escaped);
-        if (end == 0 || (escaped && !escapes_valid(s + i + 1, s + end))) return false;
-        i = skip_space(t, end + 1);
+        const size_t q = scan_string(t, static_cast<size_t>(p - s), &escaped);
+        if (q == 0 || (escaped && !escapes_valid(p + 1, s + q))) return false;
+        if (depth == 1 && members != nullptr) key = p, key_end = s + q;
+        p = s + q + 1;
     }
-    if (i >= t.len || s[i] != ':') return false;
-    i = skip_space(t, i + 1);
+    S2J_SKIP_BLANKS();
+    if (p >= end || *p != ':') return false;
+    ++p;
+    S2J_SKIP_BLANKS();
     goto value;
 
 after_value:
     if (depth == 0) return !fraction || decimal_point_is_one_byte();  // what follows is not read
-    i = skip_space(t, i);
-    if (i >= t.len) return false;
-    {
-        const bool object = objects[(depth - 1) / 64] & (uint64_t{1} << ((depth - 1) % 64));
-        if (s[i] == ',') {
-            i = skip_space(t, i + 1);
-            if (object) goto member;
-            if (depth == 1 && doc->elements++ == UINT32_MAX) return false;
-            goto value;
-        }
-        if (s[i] != (object ? '}' : ']')) return false;
-        ++i;
-        --depth;
-        goto after_value;
+    S2J_SKIP_BLANKS();
+    if (p >= end) return false;
+    if (*p == ',') {
+        ++p;
+        S2J_SKIP_BLANKS();
+        if (object) goto member;
+        if (depth == 1 && doc->elements++ == UINT32_MAX) return false;
+        goto value;
     }
+    if (*p != (object ? '}' : ']')) return false;
+    ++p;
+
+close:  // p just past the container that closed
+    --depth;
+    if (depth > 0) object = objects[(depth - 1) / 64] & (uint64_t{1} << ((depth - 1) % 64));
+    goto after_value;
+#undef S2J_SKIP_BLANKS
 }
 
 // ---- Pass 2: reading from a well-formed text ---------------------------------
 //
 // Offsets below point into a text that pass 1 has checked: every container
-// is closed within it, so scanning needs no bounds.
+// is closed within it, so scanning needs no bounds but the strings'.
 
 inline size_t skip_ws(const u8 *s, size_t i) {
     while (is_space(s[i])) ++i;
     return i;
 }
 
-// Just past the value starting at s[i].
-size_t skip_value(const u8 *s, size_t i) {
+// Just past the value starting at t.s[i].
+size_t skip_value(const Text &t, size_t i) {
+    const u8 *s = t.s;
     switch (s[i]) {
         case '"':
-            return string_end(s, i) + 1;
+            return string_end(t, i) + 1;
         case '{':
         case '[': {
             unsigned depth = 0;
             for (;; ++i) {
                 u8 c = s[i];
                 if (c == '"') {
-                    i = string_end(s, i);
+                    i = string_end(t, i);
                 } else if (c == '{' || c == '[') {
                     ++depth;
                 } else if (c == '}' || c == ']') {
@@ -415,70 +535,96 @@ size_t skip_value(const u8 *s, size_t i) {
 }
 
 // Walks the elements of an array, or the member values of an object, opening
-// at s[i]: calls f(offset of the value, offset of the key's quote or 0) for
-// each until f returns false.
+// at t.s[i]: calls f(offset of the value, offsets of the key's quotes, or 0)
+// for each until f returns false.
 template <class F>
-void each_child(const u8 *s, size_t i, F f) {
+void each_child(const Text &t, size_t i, F f) {
+    const u8 *s = t.s;
     const bool object = s[i] == '{';
     i = skip_ws(s, i + 1);
     if (s[i] == '}' || s[i] == ']') return;
     for (;;) {
-        size_t key = 0;
+        size_t key = 0, key_end = 0;
         if (object) {
             key = i;
-            i = skip_ws(s, string_end(s, i) + 1);  // at ':'
+            key_end = string_end(t, i);
+            i = skip_ws(s, key_end + 1);  // at ':'
             i = skip_ws(s, i + 1);
         }
-        if (!f(i, key)) return;
-        i = skip_ws(s, skip_value(s, i));
+        if (!f(i, key, key_end)) return;
+        i = skip_ws(s, skip_value(t, i));
         if (s[i] != ',') return;
         i = skip_ws(s, i + 1);
     }
 }
 
-// The field whose key equals the member's key, or -1; the field after the
-// last one matched is tried first, as members usually come in table order.
-int find_field(const TypeDesc *d, const KeyText &key, uint32_t next) {
-    if (next < d->field_count && same_key_text(d->fields[next].key, key)) return static_cast<int>(next);
-    for (uint32_t f = 0; f < d->field_count; ++f)
-        if (f != next && same_key_text(d->fields[f].key, key)) return static_cast<int>(f);
-    return -1;
+// The members of the value at t.s[i] (a value that is not an object has
+// none); returns the offset just past the value.  The key expected next is
+// compared in place before its end is looked for.
+size_t find_members(const Text &t, size_t i, Members *m) {
+    m->clear();
+    const u8 *s = t.s;
+    if (s[i] != '{') return skip_value(t, i);
+    i = skip_ws(s, i + 1);
+    if (s[i] == '}') return i + 1;
+    const TypeDesc *d = m->d;
+    for (;;) {
+        size_t end = 0;
+        if (m->next < d->field_count) {
+            const Field &f = d->fields[m->next];
+            const size_t at = i + 1 + f.key_length;
+            if (at < t.len && s[at] == '"' && std::memcmp(s + i + 1, f.key, f.key_length) == 0) end = at;
+        }
+        if (end != 0) {
+            const uint32_t f = m->next++;
+            i = skip_ws(s, skip_ws(s, end + 1) + 1);
+            if (m->at[f] == 0) m->at[f] = i;
+        } else {
+            end = string_end(t, i);
+            const size_t value = skip_ws(s, skip_ws(s, end + 1) + 1);
+            m->add(t, i, end, value);
+            i = value;
+        }
+        i = skip_ws(s, skip_value(t, i));
+        if (s[i] != ',') return i + 1;  // past the '}'
+        i = skip_ws(s, i + 1);
+    }
 }
 
-// For every field of the record, the offset of the value of the first member
-// of the object at s[i] whose key equals the field's (0 where none does): the
-// member cJSON_GetObjectItem() would return.  A value that is not an object
-// has no members.
-void find_members(const TypeDesc *d, const u8 *s, size_t i, size_t (&at)[kMaxFields]) {
-    std::memset(at, 0, d->field_count * sizeof at[0]);
-    if (s[i] != '{') return;
-    uint32_t next = 0;
-    each_child(s, i, [&](size_t value, size_t quote) {
-        KeyText key;
-        const u8 *p = s + quote + 1;
-        size_t n = 0;
-        while (p[n] != '"' && p[n] != '\\' && p[n] != '\0') ++n;
-        u8 buf[kKeyRoom];
-        if (p[n] == '"') {
-            key = KeyText{p, n};
-        } else if (!decode_key(s, quote, buf, &key)) {
-            return true;  // longer than any field's key
-        }
-        int f = find_field(d, key, next);
-        if (f >= 0) {
-            if (at[f] == 0) at[f] = value;
-            next = static_cast<uint32_t>(f) + 1;
-        }
-        return true;
-    });
+// Calls f(offset) for the elements of the array opening at t.s[i] while f
+// returns the offset just past the element, and stops when it returns 0.
+template <class F>
+void each_element(const Text &t, size_t i, F f) {
+    const u8 *s = t.s;
+    i = skip_ws(s, i + 1);
+    if (s[i] == ']') return;
+    for (;;) {
+        i = f(i);
+        if (i == 0) return;
+        i = skip_ws(s, i);
+        if (s[i] != ',') return;
+        i = skip_ws(s, i + 1);
+    }
 }
 
 // Whether the value at t.s[i] is an integer item (an integer literal within
 // the int64_t range, as the marking parser classifies it), and its value.
-bool integer_at(const Text &t, size_t i, int64_t *v) {
-    if (t.s[i] != '-' && !is_digit(t.s[i])) return false;
-    const char *p = reinterpret_cast<const char *>(t.s + i);
-    return read_literal(p, reinterpret_cast<const char *>(t.s + t.len), v);
+// Up to 18 digits are read here; longer literals by the marking parser's
+// own reader.
+inline bool integer_at(const Text &t, size_t i, int64_t *v) {
+    const u8 *s = t.s;
+    const bool neg = s[i] == '-';
+    size_t j = i + neg;
+    const size_t digits = j;
+    uint64_t u = 0;
+    for (; is_digit(s[j]) && j - digits < 18; ++j) u = u * 10 + (s[j] - '0');
+    if (j > digits && !is_number_char(s[j])) {
+        *v = neg ? static_cast<int64_t>(0 - u) : static_cast<int64_t>(u);
+        return true;
+    }
+    if (!neg && !is_digit(s[i])) return false;
+    const char *p = reinterpret_cast<const char *>(s + i);
+    return read_literal(p, reinterpret_cast<const char *>(s + t.len), v);
 }
 
 // One integer list: entries stored by position, non-integers skipped; false
@@ -488,7 +634,7 @@ bool read_list(const Text &t, size_t i, char *at, uint32_t size) {
     const uint32_t capacity = size / 4;
     uint32_t k = 0;
     bool stored = false;
-    each_child(t.s, i, [&](size_t value, size_t) {
+    each_child(t, i, [&](size_t value, size_t, size_t) {
         if (k == capacity) return false;
         int64_t v;
         if (integer_at(t, value, &v)) {
@@ -523,7 +669,7 @@ bool read_field(const Text &t, const Field &f, size_t i, char *at) {
         }
         case Kind::Str:
             if (t.s[i] != '"') return false;
-            copy_string(t.s, i, at, f.size);
+            copy_string(t, i, at, f.size);
             return true;
         case Kind::U32List:
             return read_list(t, i, at, f.size);
@@ -533,10 +679,11 @@ bool read_field(const Text &t, const Field &f, size_t i, char *at) {
 
 // Fills the record's fields in table order from the members found, up to the
 // first of the wrong JSON type; absent members leave their fields alone.
-bool fill_record(const TypeDesc *d, const Text &t, const size_t (&at)[kMaxFields], void *rec) {
+bool fill_record(const Text &t, const Members &m, void *rec) {
+    const TypeDesc *d = m.d;
     char *base = static_cast<char *>(rec);
     for (uint32_t f = 0; f < d->field_count; ++f)
-        if (at[f] != 0 && !read_field(t, d->fields[f], at[f], base + d->fields[f].offset)) return false;
+        if (m.at[f] != 0 && !read_field(t, d->fields[f], m.at[f], base + d->fields[f].offset)) return false;
     return true;
 }
 
@@ -547,8 +694,8 @@ uint32_t field_of_key(const TypeDesc *d, const Key &k) {
     return f;
 }
 
-bool start(const TypeDesc *d, const Text &t, Document *doc) {
-    return !d->key_twins && check_document(t, doc);
+bool start(const TypeDesc *d, const Text &t, Document *doc, Members *members) {
+    return !d->key_twins && check_document(t, doc, members);
 }
 
 }  // namespace
@@ -556,17 +703,18 @@ bool start(const TypeDesc *d, const Text &t, Document *doc) {
 Direct direct_record(const TypeDesc *d, const char *text, size_t len, void *rec) {
     const Text t{reinterpret_cast<const u8 *>(text), len};
     Document doc;
-    if (!start(d, t, &doc)) return Direct::UseTree;
+    Members m;
+    m.d = d;
+    m.clear();
+    if (!start(d, t, &doc, &m)) return Direct::UseTree;
     if (t.s[doc.root] != '{') return Direct::NotObject;
-    size_t at[kMaxFields];
-    find_members(d, t.s, doc.root, at);
-    return fill_record(d, t, at, rec) ? Direct::Done : Direct::ReaderFailed;
+    return fill_record(t, m, rec) ? Direct::Done : Direct::ReaderFailed;
 }
 
 Direct direct_array(const TypeDesc *d, const char *text, size_t len, void *arr, uint32_t *count) {
     const Text t{reinterpret_cast<const u8 *>(text), len};
     Document doc;
-    if (!start(d, t, &doc)) return Direct::UseTree;
+    if (!start(d, t, &doc, nullptr)) return Direct::UseTree;
     if (t.s[doc.root] != '[') return Direct::NotArray;
     if (arr == nullptr) {  // query mode: how many elements to provide
         *count = doc.elements;
@@ -576,13 +724,14 @@ Direct direct_array(const TypeDesc *d, const char *text, size_t len, void *arr, 
     char *base = static_cast<char *>(arr);
     uint32_t k = 0;
     bool ok = true;
-    each_child(t.s, doc.root, [&](size_t value, size_t) {
-        if (k == filled) return false;
-        size_t at[kMaxFields];
-        find_members(d, t.s, value, at);
-        ok = fill_record(d, t, at, base + static_cast<size_t>(k) * d->size);
+    Members m;
+    m.d = d;
+    each_element(t, doc.root, [&](size_t value) -> size_t {
+        if (k == filled) return 0;
+        const size_t end = find_members(t, value, &m);
+        ok = fill_record(t, m, base + static_cast<size_t>(k) * d->size);
         ++k;
-        return ok;
+        return ok ? end : 0;
     });
     if (!ok) return Direct::ReaderFailed;
     *count = filled;
@@ -592,15 +741,16 @@ Direct direct_array(const TypeDesc *d, const char *text, size_t len, void *arr, 
 Direct direct_update(const TypeDesc *d, const char *text, size_t len, void *arr, uint32_t *count) {
     const Text t{reinterpret_cast<const u8 *>(text), len};
     Document doc;
-    if (!start(d, t, &doc)) return Direct::UseTree;
+    if (!start(d, t, &doc, nullptr)) return Direct::UseTree;
     if (t.s[doc.root] != '[') return Direct::NotArray;
     char *base = static_cast<char *>(arr);
     const uint32_t capacity = *count;  // not changed during the loop
     uint32_t updated = 0;
     Direct outcome = Direct::Done;
-    each_child(t.s, doc.root, [&](size_t value, size_t) {
-        size_t at[kMaxFields];
-        find_members(d, t.s, value, at);
+    Members m;
+    m.d = d;
+    each_element(t, doc.root, [&](size_t value) -> size_t {
+        const size_t end = find_members(t, value, &m);
         // The keyword record of this element, read as the keyword reader
         // reads it: every key present and of its JSON type.
         alignas(8) char keyword[kMaxKeywordSize];
@@ -608,23 +758,23 @@ Direct direct_update(const TypeDesc *d, const char *text, size_t len, void *arr,
             const Key &key = d->keys[k];
             Field f = key.field;
             if (f.kind == Kind::Str) f.size = kKeyStringSize;
-            const size_t member = at[field_of_key(d, key)];
+            const size_t member = m.at[field_of_key(d, key)];
             if (member == 0 || !read_field(t, f, member, keyword + key.keyword_offset)) {
                 outcome = Direct::KeywordMissing;
-                return false;
+                return size_t{0};
             }
         }
         for (uint32_t i = 0; i < capacity; ++i) {
             char *rec = base + static_cast<size_t>(i) * d->size;
             if (!keys_match(d, rec, keyword)) continue;
-            if (!fill_record(d, t, at, rec)) {
+            if (!fill_record(t, m, rec)) {
                 outcome = Direct::ReaderFailed;
-                return false;
+                return size_t{0};
             }
             ++updated;
             break;
         }
-        return true;
+        return end;
     });
     if (outcome == Direct::Done) *count = updated;  // an empty list sets the count to 0
     return outcome;
