@@ -58,10 +58,6 @@ struct Text {
     size_t len;
 };
 
-inline size_t skip_space(const Text &t, size_t i) {
-    while (i < t.len && is_space(t.s[i])) ++i;
-    return i;
-}
 
 // ---- Strings ----------------------------------------------------------------
 
@@ -360,18 +356,6 @@ struct Document {
     size_t root;        // offset of the top-level value
     uint32_t elements;  // its number of elements, when it is an array
 };
-
-// The number literal at t.s[i]: its end, or 0 when the direct reader does not
-// take it (see number_length).  Plain integers, by far the most common, take
-// the first loop only.
-inline size_t number_end(const Text &t, size_t i, bool *fraction) {
-    size_t j = i + (t.s[i] == '-');
-    const size_t digits = j;
-    while (j < t.len && is_digit(t.s[j])) ++j;
-    if (j > digits && j - i <= 63 && (j == t.len || !is_number_char(t.s[j]))) return j;
-    const size_t n = number_length(t, i, fraction);
-    return n == 0 ? 0 : i + n;
-}
 
 // Checks the whole text as cJSON parses it.  With members, the members of a
 // top-level object are found on the way.  Written for speed over pointers:
