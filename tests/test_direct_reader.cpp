@@ -43,15 +43,19 @@ std::string render_array(const std::vector<Object> &list) {
 // A distinct, well-typed value of field f for record r.
 std::string value_of(const Field &f, uint32_t index, uint32_t r) {
     switch (f.kind) {
-        case Kind::Str: return "\"v" + std::to_string(index) + "_" + std::to_string(r) + "\"";
-        case Kind::U32List: return "[" + std::to_string(r + 1) + ",7,9]";
-        default: return std::to_string(100 * r + index + 1);
+        case Kind::Str:
+            return "\"v" + std::to_string(index) + "_" + std::to_string(r) + "\"";
+        case Kind::U32List:
+            return "[" + std::to_string(r + 1) + ",7,9]";
+        default:
+            return std::to_string(100 * r + index + 1);
     }
 }
 
 Object record(const TypeInfo *t, uint32_t r) {
     Object o;
-    for (uint32_t i = 0; i < t->desc->field_count; ++i) o.push_back({t->desc->fields[i].key, value_of(t->desc->fields[i], i, r)});
+    for (uint32_t i = 0; i < t->desc->field_count; ++i)
+        o.push_back({t->desc->fields[i].key, value_of(t->desc->fields[i], i, r)});
     return o;
 }
 
@@ -60,16 +64,81 @@ Object record(const TypeInfo *t, uint32_t r) {
 // that are not UTF-8 and control bytes, malformed ones among them.
 const std::vector<std::string> &values() {
     static const std::vector<std::string> v = {
-        "0", "-1", "1", "4294967295", "4294967296", "-2147483648", "-2147483649", "65535", "65536", "70000",
-        "9223372036854775807", "9223372036854775808", "-9223372036854775808", "-9223372036854775809",
-        "999999999999999", "1000000000000000", "-1000000000000000", "0123", "-01", "00", "1.", "2.e3", "1e999",
-        "1.5", "-0", "-0.0", "1E2", "1e+2", "1e", "-", "-.5", "+1", ".5", "0x10", "1e-2", "123456789012345678901234567890",
-        std::string(62, '0') + "7", std::string(63, '0') + "7", "-" + std::string(61, '0') + "1",
-        "\"\"", "\"text\"", "\"a\\u0000b\"", "\"\\ud83d\\ude00\"", "\"\\udc00\"", "\"\\ud800\"", "\"\\ud800x\"",
-        "\"\\ud800\\u0041\"", "\"\\uZZZZ\"", "\"\\u12\\\"x\"", "\"\\u00e9\\u4e2d\\u0041\"", "\"\\\"\\\\\\/\\b\\f\\n\\r\\t\"",
-        "\"\\x\"", "\"raw\ttab\nline\"", "\"\xff\xfe\xc3\"", "\"\x01\x1f\"", "\"" + std::string(100, 'y') + "\"",
-        "\"" + std::string(300, 'z') + "\"", "\"unterminated", "true", "false", "null", "nul", "tru", "{}", "[]",
-        "[1,2,3]", "[1,\"x\",2]", "[\"x\"]", "[1.5]", "{\"a\":1,\"b\":\"c\"}", "[[1]]", "[1,]", "{\"a\":}", "[1 2]",
+        "0",
+        "-1",
+        "1",
+        "4294967295",
+        "4294967296",
+        "-2147483648",
+        "-2147483649",
+        "65535",
+        "65536",
+        "70000",
+        "9223372036854775807",
+        "9223372036854775808",
+        "-9223372036854775808",
+        "-9223372036854775809",
+        "999999999999999",
+        "1000000000000000",
+        "-1000000000000000",
+        "0123",
+        "-01",
+        "00",
+        "1.",
+        "2.e3",
+        "1e999",
+        "1.5",
+        "-0",
+        "-0.0",
+        "1E2",
+        "1e+2",
+        "1e",
+        "-",
+        "-.5",
+        "+1",
+        ".5",
+        "0x10",
+        "1e-2",
+        "123456789012345678901234567890",
+        std::string(62, '0') + "7",
+        std::string(63, '0') + "7",
+        "-" + std::string(61, '0') + "1",
+        "\"\"",
+        "\"text\"",
+        "\"a\\u0000b\"",
+        "\"\\ud83d\\ude00\"",
+        "\"\\udc00\"",
+        "\"\\ud800\"",
+        "\"\\ud800x\"",
+        "\"\\ud800\\u0041\"",
+        "\"\\uZZZZ\"",
+        "\"\\u12\\\"x\"",
+        "\"\\u00e9\\u4e2d\\u0041\"",
+        "\"\\\"\\\\\\/\\b\\f\\n\\r\\t\"",
+        "\"x#\\\"y]\\\\z##\\\"\"",
+        "\"\\x\"",
+        "\"raw\ttab\nline\"",
+        "\"\xff\xfe\xc3\"",
+        "\"\x01\x1f\"",
+        "\"" + std::string(100, 'y') + "\"",
+        "\"" + std::string(300, 'z') + "\"",
+        "\"unterminated",
+        "true",
+        "false",
+        "null",
+        "nul",
+        "tru",
+        "{}",
+        "[]",
+        "[1,2,3]",
+        "[1,\"x\",2]",
+        "[\"x\"]",
+        "[1.5]",
+        "{\"a\":1,\"b\":\"c\"}",
+        "[[1]]",
+        "[1,]",
+        "{\"a\":}",
+        "[1 2]",
     };
     return v;
 }
@@ -138,7 +207,8 @@ std::vector<std::string> record_texts(const TypeInfo *t, uint32_t r) {
     out.push_back(doc + "xyz");
     out.push_back(doc + " {} ]");
     out.push_back(doc.substr(0, doc.size() - 1) + ",}");
-    for (const char *s : {"", " ", "[]", "[{}]", "{}", "1", "\"s\"", "null", "[", "{", "{\"a\"", "{\"a\":", "]"}) out.push_back(s);
+    for (const char *s : {"", " ", "[]", "[{}]", "{}", "1", "\"s\"", "null", "[", "{", "{\"a\"", "{\"a\":", "]"})
+        out.push_back(s);
     out.push_back("[" + doc + "]");
     for (int depth : {999, 1000, 1001}) {
         std::string deep = std::string(static_cast<size_t>(depth), '[') + std::string(static_cast<size_t>(depth), ']');
@@ -220,10 +290,12 @@ TEST_P(DirectReader, reads_every_generated_text_as_the_tree_path_does) {
         }
         const std::string nul = doc + std::string(1, '\0') + " \x01" + std::string(1, '\0');
         check(Call{Member::J2sLen, nul, nul.size(), false, 0, one});
-        const std::string inner = "{\"" + std::string(t->desc->fields[0].key) + "\":\"a" + std::string(1, '\0') + "b\"}";
+        const std::string inner =
+            "{\"" + std::string(t->desc->fields[0].key) + "\":\"a" + std::string(1, '\0') + "b\"}";
         check(Call{Member::J2sLen, inner, inner.size(), false, 0, one});
         if (reader_diff::has(t, Member::F2s))
-            for (const std::string &file : {doc, record_texts(t, 0)[3], std::string(), std::string("\xEF\xBB\xBF") + doc})
+            for (const std::string &file :
+                 {doc, record_texts(t, 0)[3], std::string(), std::string("\xEF\xBB\xBF") + doc})
                 check(Call{Member::F2s, file, 0, false, 0, one});
     }
     if (reader_diff::has(t, Member::J2sArray)) {
@@ -258,7 +330,8 @@ TEST_P(DirectReader, reads_every_generated_text_as_the_tree_path_does) {
         // Elements without their keys, with keys of the wrong type, with keys
         // that match nothing, and one element naming the same record twice.
         const Object r1 = record(t, 1);
-        std::vector<std::string> docs2 = {"[{}]", "[1]", "[[]]", "[" + render(r1) + ",{}]", "[" + render(r1) + "," + render(r1) + "]"};
+        std::vector<std::string> docs2 = {"[{}]", "[1]", "[[]]", "[" + render(r1) + ",{}]",
+                                          "[" + render(r1) + "," + render(r1) + "]"};
         for (uint32_t k = 0; k < t->desc->key_count; ++k) {
             Object o = r1;
             for (Pair &p : o)
@@ -280,11 +353,14 @@ TEST_P(DirectReader, reads_every_generated_text_as_the_tree_path_does) {
 std::vector<const TypeInfo *> readable_types() {
     std::vector<const TypeInfo *> out;
     for (const TypeInfo *t : testing_support::all_types())
-        if (t->fam.j2s != nullptr || t->fam.j2s_array != nullptr || t->fam.j2s_array_update != nullptr) out.push_back(t);
+        if (t->fam.j2s != nullptr || t->fam.j2s_array != nullptr || t->fam.j2s_array_update != nullptr)
+            out.push_back(t);
     return out;
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryTextType, DirectReader, ::testing::ValuesIn(readable_types()),
-                         [](const ::testing::TestParamInfo<const TypeInfo *> &i) { return std::string(i.param->name); });
+                         [](const ::testing::TestParamInfo<const TypeInfo *> &i) {
+                             return std::string(i.param->name);
+                         });
 
 }  // namespace

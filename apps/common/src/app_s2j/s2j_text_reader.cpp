@@ -120,12 +120,13 @@ unsigned unicode_escape(const u8 *p, const u8 *end, u8 out[4], unsigned *n) {
 }
 
 // The bytes of w that are a quote or a backslash, as the high bit of each
-// such byte; the lowest byte in memory that is one is marked exactly (bytes
-// after it may be marked too).
+// such byte and of no other (exact, so that the first mark is the first such
+// byte in either byte order).
 inline uint64_t quotes_or_backslashes(uint64_t w) {
-    constexpr uint64_t ones = 0x0101010101010101ull, highs = 0x8080808080808080ull;
+    constexpr uint64_t ones = 0x0101010101010101ull, lows = 0x7F7F7F7F7F7F7F7Full;
     const uint64_t q = w ^ (ones * '"'), b = w ^ (ones * '\\');
-    return (((q - ones) & ~q) | ((b - ones) & ~b)) & highs;
+    const uint64_t q_zero = ~(((q & lows) + lows) | q | lows), b_zero = ~(((b & lows) + lows) | b | lows);
+    return q_zero | b_zero;
 }
 
 // The byte in memory order of the first mark of quotes_or_backslashes().
@@ -191,8 +192,8 @@ bool escapes_valid(const u8 *p, const u8 *end) {
 // In a text known to be well formed: the closing quote of the string opening
 // at t.s[i].
 inline size_t string_end(const Text &t, size_t i) {
-    for (i = next_quote_or_backslash(t.s, i + 1, t.len); t.s[i] != '"'; i = next_quote_or_backslash(t.s, i + 2, t.len)) {
-    }
+    i = next_quote_or_backslash(t.s, i + 1, t.len);
+    while (t.s[i] != '"') i = next_quote_or_backslash(t.s, i + 2, t.len);  // past a backslash and its byte
     return i;
 }
 
