@@ -13,7 +13,7 @@ if [ $# -eq 0 ]; then
   exec ctest --preset fuzz -j2
 fi
 ctest --preset fuzz -R fuzz_seed_corpus_from_examples >/dev/null
-for target in fuzz_readers fuzz_properties fuzz_validate; do
+for target in fuzz_readers fuzz_properties fuzz_direct_reader fuzz_validate; do
   mkdir -p "fuzz-corpus/$target"
   "build-fuzz/fuzz/$target" -max_total_time="$1" -timeout=10 -rss_limit_mb=2048 -close_fd_mask=2 \
     -print_final_stats=1 -dict=fuzz/app_s2j.dict -artifact_prefix="fuzz-corpus/" \

@@ -5,6 +5,16 @@
 #define S2J_REGISTRY_PASS
 #include "registry.h"
 
+// This file also builds the registry of the reference library (its own
+// translation unit defines these four names before including this one).
+#ifndef S2J_CALL
+#define S2J_CALL(fn) fn  // the family members of the library itself
+#define S2J_REG_NS reg
+#define S2J_REGISTRY registry
+#define S2J_FIND_TYPE find_type
+#define S2J_REGISTRY_OPEN()  // nothing to load
+#endif
+
 #include <cstring>
 
 #include "s2j_families.h"
@@ -15,7 +25,7 @@ namespace s2j {
 S2J_TYPES(S2J_DECLARE_HOOKS)
 #undef S2J_DECLARE_HOOKS
 
-namespace reg {
+namespace S2J_REG_NS {
 enum Family { kS2j, kC2s, kJ2s, kS2jArray, kC2sArray, kC2sArrayUpdate, kJ2sArray, kJ2sArrayUpdate,
               kF2s, kS2f, kF2sArray, kS2fArray };
 // A family member that the lists do not instantiate for T.
@@ -24,11 +34,11 @@ struct Fam {
     static constexpr std::nullptr_t fn = nullptr, fn_with_len = nullptr;
     static constexpr int line = 0;
 };
-}  // namespace reg
+}  // namespace S2J_REG_NS
 }  // namespace s2j
 
 #define S2J_REG(T, F, f1, f2)                          \
-    namespace s2j::reg {                               \
+    namespace s2j::S2J_REG_NS {                               \
     template <>                                        \
     struct Fam<T, F> {                                 \
         static constexpr auto fn = f1;                 \
@@ -39,38 +49,55 @@ struct Fam {
 #define S2J_AS(T, p) static_cast<T *>(p)
 #define S2J_AS_CONST(T, p) static_cast<const T *>(p)
 
-#define S2J_DEF_S2J(T) S2J_REG(T, kS2j, +[](const void *p, int f) { return s2j_##T(S2J_AS_CONST(T, p), f); }, nullptr)
-#define S2J_DEF_C2S(T) S2J_REG(T, kC2s, +[](const cJSON *j, void *p) { return c2s_##T(j, S2J_AS(T, p)); }, nullptr)
-#define S2J_DEF_J2S(T)                                                                       \
-    S2J_REG(T, kJ2s, +[](const char *s, void *p) { return j2s_##T(s, S2J_AS(T, p)); },       \
-            +[](const char *s, size_t n, void *p) { return j2s_##T##_with_len(s, n, S2J_AS(T, p)); })
-#define S2J_DEF_S2J_ARRAY(T) \
-    S2J_REG(T, kS2jArray, +[](const void *p, uint32_t n, int f) { return s2j_array_##T(S2J_AS_CONST(T, p), n, f); }, nullptr)
-#define S2J_DEF_C2S_ARRAY(T) \
-    S2J_REG(T, kC2sArray, +[](const cJSON *j, void *p, uint32_t *n) { return c2s_array_##T(j, S2J_AS(T, p), n); }, nullptr)
-#define S2J_DEF_C2S_ARRAY_UPDATE(T)                                                                      \
-    S2J_REG(T, kC2sArrayUpdate,                                                                          \
-            +[](const cJSON *j, void *p, uint32_t *n) { return c2s_array_update_##T(j, S2J_AS(T, p), n); }, \
+// Each member as a type-erased function calling the member itself.
+#define S2J_DEF_S2J(T) \
+    S2J_REG(T, kS2j, +[](const void *p, int f) { return S2J_CALL(s2j_##T)(S2J_AS_CONST(T, p), f); }, nullptr)
+#define S2J_DEF_C2S(T) \
+    S2J_REG(T, kC2s, +[](const cJSON *j, void *p) { return S2J_CALL(c2s_##T)(j, S2J_AS(T, p)); }, nullptr)
+#define S2J_DEF_J2S(T)                                                                              \
+    S2J_REG(T, kJ2s, +[](const char *s, void *p) { return S2J_CALL(j2s_##T)(s, S2J_AS(T, p)); },      \
+            +[](const char *s, size_t n, void *p) { return S2J_CALL(j2s_##T##_with_len)(s, n, S2J_AS(T, p)); })
+#define S2J_DEF_S2J_ARRAY(T)                                                                        \
+    S2J_REG(T, kS2jArray,                                                                           \
+            +[](const void *p, uint32_t n, int f) { return S2J_CALL(s2j_array_##T)(S2J_AS_CONST(T, p), n, f); }, \
             nullptr)
-#define S2J_DEF_J2S_ARRAY(T)                                                                               \
-    S2J_REG(T, kJ2sArray, +[](const char *s, void *p, uint32_t *n) { return j2s_array_##T(s, S2J_AS(T, p), n); }, \
-            +[](const char *s, size_t l, void *p, uint32_t *n) {                                           \
-                return j2s_array_##T##_with_len(s, l, S2J_AS(T, p), n);                                    \
+#define S2J_DEF_C2S_ARRAY(T)                                                                        \
+    S2J_REG(T, kC2sArray,                                                                           \
+            +[](const cJSON *j, void *p, uint32_t *n) { return S2J_CALL(c2s_array_##T)(j, S2J_AS(T, p), n); }, \
+            nullptr)
+#define S2J_DEF_C2S_ARRAY_UPDATE(T)                                                                 \
+    S2J_REG(T, kC2sArrayUpdate,                                                                     \
+            +[](const cJSON *j, void *p, uint32_t *n) {                                             \
+                return S2J_CALL(c2s_array_update_##T)(j, S2J_AS(T, p), n);                          \
+            },                                                                                      \
+            nullptr)
+#define S2J_DEF_J2S_ARRAY(T)                                                                        \
+    S2J_REG(T, kJ2sArray,                                                                           \
+            +[](const char *s, void *p, uint32_t *n) { return S2J_CALL(j2s_array_##T)(s, S2J_AS(T, p), n); }, \
+            +[](const char *s, size_t l, void *p, uint32_t *n) {                                    \
+                return S2J_CALL(j2s_array_##T##_with_len)(s, l, S2J_AS(T, p), n);                   \
             })
 #define S2J_DEF_J2S_ARRAY_UPDATE(T)                                                                 \
     S2J_REG(T, kJ2sArrayUpdate,                                                                     \
-            +[](const char *s, void *p, uint32_t *n) { return j2s_array_update_##T(s, S2J_AS(T, p), n); }, \
+            +[](const char *s, void *p, uint32_t *n) {                                              \
+                return S2J_CALL(j2s_array_update_##T)(s, S2J_AS(T, p), n);                          \
+            },                                                                                      \
             +[](const char *s, size_t l, void *p, uint32_t *n) {                                    \
-                return j2s_array_update_##T##_with_len(s, l, S2J_AS(T, p), n);                      \
+                return S2J_CALL(j2s_array_update_##T##_with_len)(s, l, S2J_AS(T, p), n);            \
             })
-#define S2J_DEF_F2S(T) S2J_REG(T, kF2s, +[](const char *f, void *p) { return f2s_##T(f, S2J_AS(T, p)); }, nullptr)
+#define S2J_DEF_F2S(T) \
+    S2J_REG(T, kF2s, +[](const char *f, void *p) { return S2J_CALL(f2s_##T)(f, S2J_AS(T, p)); }, nullptr)
 #define S2J_DEF_S2F(T) \
-    S2J_REG(T, kS2f, +[](const char *f, const void *p) { return s2f_##T(f, S2J_AS_CONST(T, p)); }, nullptr)
-#define S2J_DEF_F2S_ARRAY(T) \
-    S2J_REG(T, kF2sArray, +[](const char *f, void *p, uint32_t *n) { return f2s_array_##T(f, S2J_AS(T, p), n); }, nullptr)
-#define S2J_DEF_S2F_ARRAY(T)                                                                              \
-    S2J_REG(T, kS2fArray,                                                                                 \
-            +[](const char *f, const void *p, uint32_t n) { return s2f_array_##T(f, S2J_AS_CONST(T, p), n); }, \
+    S2J_REG(T, kS2f, +[](const char *f, const void *p) { return S2J_CALL(s2f_##T)(f, S2J_AS_CONST(T, p)); }, nullptr)
+#define S2J_DEF_F2S_ARRAY(T)                                                                        \
+    S2J_REG(T, kF2sArray,                                                                           \
+            +[](const char *f, void *p, uint32_t *n) { return S2J_CALL(f2s_array_##T)(f, S2J_AS(T, p), n); }, \
+            nullptr)
+#define S2J_DEF_S2F_ARRAY(T)                                                                        \
+    S2J_REG(T, kS2fArray,                                                                           \
+            +[](const char *f, const void *p, uint32_t n) {                                         \
+                return S2J_CALL(s2f_array_##T)(f, S2J_AS_CONST(T, p), n);                           \
+            },                                                                                      \
             nullptr)
 
 #include "app_s2j.cpp"
@@ -79,7 +106,7 @@ struct Fam {
 namespace s2j {
 namespace {
 
-using namespace reg;
+using namespace S2J_REG_NS;
 
 template <class T>
 constexpr Families families() {
@@ -127,12 +154,14 @@ const TypeInfo kRegistry[] = {
 
 }  // namespace
 
-const TypeInfo *registry(size_t *count) {
+const TypeInfo *S2J_REGISTRY(size_t *count) {
+    S2J_REGISTRY_OPEN();
     *count = sizeof kRegistry / sizeof kRegistry[0];
     return kRegistry;
 }
 
-const TypeInfo *find_type(const char *name) {
+const TypeInfo *S2J_FIND_TYPE(const char *name) {
+    S2J_REGISTRY_OPEN();
     for (const TypeInfo &t : kRegistry)
         if (std::strcmp(t.name, name) == 0) return &t;
     return nullptr;

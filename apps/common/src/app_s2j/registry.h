@@ -63,6 +63,12 @@ const TypeInfo *registry(size_t *count);
 // The type of that exact name, or null.
 const TypeInfo *find_type(const char *name);
 
+// The same registry over the reference library, libapp_s2j_tree: the library
+// built to read every text through cJSON's tree (the static library
+// app_s2j_tree_registry, for tests and fuzz targets).
+const TypeInfo *tree_registry(size_t *count);
+const TypeInfo *find_tree_type(const char *name);
+
 
 }  // namespace s2j
 

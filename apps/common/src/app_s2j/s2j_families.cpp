@@ -7,6 +7,7 @@
 
 #include "s2j_families.h"
 #include "s2j_messages.h"
+#include "s2j_text_reader.h"
 
 namespace s2j {
 
@@ -119,30 +120,6 @@ int fam_c2s(Site s, const TypeDesc *d, const cJSON *json, void *rec) {
     return 0;
 }
 
-int fam_j2s(Site s, const TypeDesc *d, const char *json_str, void *rec, C2sFn c2s) {
-    if (json_str == nullptr || rec == nullptr) {
-        diag(s, d->name, S2J_MSG_J2S_ARGS);
-        return -2;
-    }
-    cJSON *tree = parse(s, d->name, json_str, 0, false, S2J_MSG_PARSE_FAILED);
-    if (tree == nullptr) return -2;
-    int rc = c2s(tree, rec);
-    cJSON_Delete(tree);
-    return rc;
-}
-
-int fam_j2s_with_len(Site s, const TypeDesc *d, const char *json_str, size_t len, void *rec, C2sFn c2s) {
-    if (json_str == nullptr || len == 0 || rec == nullptr) {
-        diag(s, d->name, S2J_MSG_J2S_LEN_ARGS);
-        return -2;
-    }
-    cJSON *tree = parse(s, d->name, json_str, len, true, nullptr);
-    if (tree == nullptr) return -2;
-    int rc = c2s(tree, rec);
-    cJSON_Delete(tree);
-    return rc;
-}
-
 // ---- Record arrays ----------------------------------------------------------
 
 char *fam_s2j_array(Site s, const TypeDesc *d, const void *arr, uint32_t count, int formatted) {
@@ -199,31 +176,6 @@ int fam_c2s_array(Site s, const TypeDesc *d, const cJSON *json, void *arr, uint3
     return 0;
 }
 
-int fam_j2s_array(Site s, const TypeDesc *d, const char *json_str, void *arr, uint32_t *count, C2sArrayFn c2s) {
-    if (json_str == nullptr || count == nullptr) {
-        diag(s, d->name, S2J_MSG_J2S_ARRAY_ARGS);
-        return -2;
-    }
-    cJSON *tree = parse(s, d->name, json_str, 0, false, S2J_MSG_PARSE_FAILED_NO_NL);
-    if (tree == nullptr) return -2;
-    int rc = c2s(tree, arr, count);
-    cJSON_Delete(tree);
-    return rc;
-}
-
-int fam_j2s_array_with_len(Site s, const TypeDesc *d, const char *json_str, size_t len, void *arr, uint32_t *count,
-                           C2sArrayFn c2s) {
-    if (json_str == nullptr || len == 0 || count == nullptr) {
-        diag(s, d->name, S2J_MSG_J2S_ARRAY_LEN_ARGS);
-        return -2;
-    }
-    cJSON *tree = parse(s, d->name, json_str, len, true, nullptr);
-    if (tree == nullptr) return -2;
-    int rc = c2s(tree, arr, count);
-    cJSON_Delete(tree);
-    return rc;
-}
-
 // ---- Keyed update -----------------------------------------------------------
 
 int fam_c2s_array_update(Site s, const TypeDesc *d, const cJSON *json, void *arr, uint32_t *count) {
@@ -265,29 +217,123 @@ int fam_c2s_array_update(Site s, const TypeDesc *d, const cJSON *json, void *arr
     return 0;
 }
 
-int fam_j2s_array_update(Site s, const TypeDesc *d, const char *json_str, void *arr, uint32_t *count, C2sArrayFn c2s) {
+// ---- Text members -------------------------------------------------------------
+
+namespace {
+
+enum class Shape : uint8_t { Record, Array, Update };
+
+#ifndef S2J_TREE_ONLY
+// What cJSON's parser leaves behind after a successful parse: no error
+// position.  The direct reader parses nothing, so it leaves the same.
+void as_after_a_parse() { cJSON_ParseWithLengthOpts(nullptr, 0, nullptr, 0); }
+
+// The status and diagnostic of a text the direct reader has read.
+int answer(Site tree, const TypeDesc *d, Direct outcome) {
+    as_after_a_parse();
+    switch (outcome) {
+        case Direct::Done:
+            return 0;
+        case Direct::NotObject:
+            diag(tree, d->name, S2J_MSG_NOT_OBJECT);
+            return -2;
+        case Direct::NotArray:
+            diag(tree, d->name, S2J_MSG_NOT_ARRAY);
+            return -2;
+        case Direct::ReaderFailed:
+            diag(tree, d->name, S2J_MSG_READER_FAILED, d->name);
+            return -1;
+        case Direct::KeywordMissing:
+        case Direct::UseTree:
+            break;
+    }
+    diag(tree, d->name, S2J_MSG_KEYWORD_MISSING);
+    return -2;
+}
+#endif
+
+// One body for every text member: json_str (NUL-terminated, or len bytes
+// with_len) read into a record, an array or an update of an array.  The
+// direct reader reads it when it can; otherwise the text is parsed into a
+// tree and read by the tree member, which is the reference for every input.
+// msg is the parse diagnostic of a NUL-terminated text.
+int read_text(Site s, Site tree, Shape shape, const TypeDesc *d, const char *json_str, size_t len, bool with_len,
+              const char *msg, void *dst, uint32_t *count) {
+#ifndef S2J_TREE_ONLY
+    const size_t bytes = with_len ? len : std::strlen(json_str) + 1;  // cJSON_Parse counts the NUL
+    Direct outcome = shape == Shape::Record  ? direct_record(d, json_str, bytes, dst)
+                     : shape == Shape::Array ? direct_array(d, json_str, bytes, dst, count)
+                                             : direct_update(d, json_str, bytes, dst, count);
+    if (outcome != Direct::UseTree) return answer(tree, d, outcome);
+#endif
+    cJSON *parsed = parse(s, d->name, json_str, len, with_len, msg);
+    if (parsed == nullptr) return -2;
+    int rc = shape == Shape::Record  ? fam_c2s(tree, d, parsed, dst)
+             : shape == Shape::Array ? fam_c2s_array(tree, d, parsed, dst, count)
+                                     : fam_c2s_array_update(tree, d, parsed, dst, count);
+    cJSON_Delete(parsed);
+    return rc;
+}
+
+Site tree_site(Site s, uint32_t line, Family fam) { return Site{s.file, line, fam}; }
+
+}  // namespace
+
+int fam_j2s(Site s, uint32_t tree_line, const TypeDesc *d, const char *json_str, void *rec) {
+    if (json_str == nullptr || rec == nullptr) {
+        diag(s, d->name, S2J_MSG_J2S_ARGS);
+        return -2;
+    }
+    return read_text(s, tree_site(s, tree_line, Family::C2S), Shape::Record, d, json_str, 0, false,
+                     S2J_MSG_PARSE_FAILED, rec, nullptr);
+}
+
+int fam_j2s_with_len(Site s, uint32_t tree_line, const TypeDesc *d, const char *json_str, size_t len, void *rec) {
+    if (json_str == nullptr || len == 0 || rec == nullptr) {
+        diag(s, d->name, S2J_MSG_J2S_LEN_ARGS);
+        return -2;
+    }
+    return read_text(s, tree_site(s, tree_line, Family::C2S), Shape::Record, d, json_str, len, true, nullptr, rec,
+                     nullptr);
+}
+
+int fam_j2s_array(Site s, uint32_t tree_line, const TypeDesc *d, const char *json_str, void *arr, uint32_t *count) {
+    if (json_str == nullptr || count == nullptr) {
+        diag(s, d->name, S2J_MSG_J2S_ARRAY_ARGS);
+        return -2;
+    }
+    return read_text(s, tree_site(s, tree_line, Family::C2S_ARRAY), Shape::Array, d, json_str, 0, false,
+                     S2J_MSG_PARSE_FAILED_NO_NL, arr, count);
+}
+
+int fam_j2s_array_with_len(Site s, uint32_t tree_line, const TypeDesc *d, const char *json_str, size_t len,
+                           void *arr, uint32_t *count) {
+    if (json_str == nullptr || len == 0 || count == nullptr) {
+        diag(s, d->name, S2J_MSG_J2S_ARRAY_LEN_ARGS);
+        return -2;
+    }
+    return read_text(s, tree_site(s, tree_line, Family::C2S_ARRAY), Shape::Array, d, json_str, len, true, nullptr,
+                     arr, count);
+}
+
+int fam_j2s_array_update(Site s, uint32_t tree_line, const TypeDesc *d, const char *json_str, void *arr,
+                         uint32_t *count) {
     if (json_str == nullptr || arr == nullptr || count == nullptr) {
         diag(s, d->name, S2J_MSG_UPDATE_ARGS);
         return -2;
     }
-    cJSON *tree = parse(s, d->name, json_str, 0, false, S2J_MSG_PARSE_FAILED_NO_NL);
-    if (tree == nullptr) return -2;
-    int rc = c2s(tree, arr, count);
-    cJSON_Delete(tree);
-    return rc;
+    return read_text(s, tree_site(s, tree_line, Family::C2S_ARRAY_UPDATE), Shape::Update, d, json_str, 0, false,
+                     S2J_MSG_PARSE_FAILED_NO_NL, arr, count);
 }
 
-int fam_j2s_array_update_with_len(Site s, const TypeDesc *d, const char *json_str, size_t len, void *arr,
-                                  uint32_t *count, C2sArrayFn c2s) {
+int fam_j2s_array_update_with_len(Site s, uint32_t tree_line, const TypeDesc *d, const char *json_str, size_t len,
+                                  void *arr, uint32_t *count) {
     if (json_str == nullptr || len == 0 || arr == nullptr || count == nullptr) {
         diag(s, d->name, S2J_MSG_UPDATE_LEN_ARGS);
         return -2;
     }
-    cJSON *tree = parse(s, d->name, json_str, len, true, nullptr);
-    if (tree == nullptr) return -2;
-    int rc = c2s(tree, arr, count);
-    cJSON_Delete(tree);
-    return rc;
+    return read_text(s, tree_site(s, tree_line, Family::C2S_ARRAY_UPDATE), Shape::Update, d, json_str, len, true,
+                     nullptr, arr, count);
 }
 
 }  // namespace s2j

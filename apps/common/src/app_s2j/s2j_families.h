@@ -34,100 +34,107 @@ static_assert(sizeof(Site) == (sizeof(void *) == 8 ? 16 : 12), "a site travels i
 // message (the format itself), reset.
 void diag(Site site, const char *type, const char *fmt, ...) __attribute__((format(printf, 3, 4)));
 
-using C2sFn = int (*)(const cJSON *, void *);
-using C2sArrayFn = int (*)(const cJSON *, void *, uint32_t *);
-
 char *fam_s2j(Site s, const TypeDesc *d, const void *rec, int formatted);
 int fam_c2s(Site s, const TypeDesc *d, const cJSON *json, void *rec);
-int fam_j2s(Site s, const TypeDesc *d, const char *json_str, void *rec, C2sFn c2s);
-int fam_j2s_with_len(Site s, const TypeDesc *d, const char *json_str, size_t len, void *rec, C2sFn c2s);
-
 char *fam_s2j_array(Site s, const TypeDesc *d, const void *arr, uint32_t count, int formatted);
 int fam_c2s_array(Site s, const TypeDesc *d, const cJSON *json, void *arr, uint32_t *count);
-int fam_j2s_array(Site s, const TypeDesc *d, const char *json_str, void *arr, uint32_t *count, C2sArrayFn c2s);
-int fam_j2s_array_with_len(Site s, const TypeDesc *d, const char *json_str, size_t len, void *arr, uint32_t *count,
-                           C2sArrayFn c2s);
-
 int fam_c2s_array_update(Site s, const TypeDesc *d, const cJSON *json, void *arr, uint32_t *count);
-int fam_j2s_array_update(Site s, const TypeDesc *d, const char *json_str, void *arr, uint32_t *count, C2sArrayFn c2s);
-int fam_j2s_array_update_with_len(Site s, const TypeDesc *d, const char *json_str, size_t len, void *arr,
-                                  uint32_t *count, C2sArrayFn c2s);
+
+// The text members.  tree_line is the line of the type's member that reads
+// the same shape from a tree (c2s, c2s_array, c2s_array_update): a text that
+// parses is read exactly as that member reads its tree, and what it reports
+// is reported under its name and line.
+int fam_j2s(Site s, uint32_t tree_line, const TypeDesc *d, const char *json_str, void *rec);
+int fam_j2s_with_len(Site s, uint32_t tree_line, const TypeDesc *d, const char *json_str, size_t len, void *rec);
+int fam_j2s_array(Site s, uint32_t tree_line, const TypeDesc *d, const char *json_str, void *arr, uint32_t *count);
+int fam_j2s_array_with_len(Site s, uint32_t tree_line, const TypeDesc *d, const char *json_str, size_t len,
+                           void *arr, uint32_t *count);
+int fam_j2s_array_update(Site s, uint32_t tree_line, const TypeDesc *d, const char *json_str, void *arr,
+                         uint32_t *count);
+int fam_j2s_array_update_with_len(Site s, uint32_t tree_line, const TypeDesc *d, const char *json_str, size_t len,
+                                  void *arr, uint32_t *count);
 
 }  // namespace s2j
 
 #define S2J_SITE(fam) const ::s2j::Site site{__FILE__, __LINE__, ::s2j::Family::fam}
+// A tree member records its line, for the text member of its type below it.
+#define S2J_MARK_LINE(fam, T) \
+    namespace s2j::lines {    \
+    inline constexpr uint32_t fam##_##T = __LINE__; \
+    }
+#define S2J_LINE_OF(fam, T) ::s2j::lines::fam##_##T
 
 // The registry reads the same lists with these macros defined its own way.
 #ifndef S2J_REGISTRY_PASS
 
-#define S2J_DEF_S2J(T)                                                                       \
-    S2J_API char *s2j_##T(const T *struct_ptr, int formatted) {                              \
-        S2J_SITE(S2J);                                                                 \
-        return ::s2j::fam_s2j(site, &::s2j::desc_##T, struct_ptr, formatted);               \
+#define S2J_DEF_S2J(T)                                                                         \
+    S2J_API char *s2j_##T(const T *struct_ptr, int formatted) {                                \
+        S2J_SITE(S2J);                                                                         \
+        return ::s2j::fam_s2j(site, &::s2j::desc_##T, struct_ptr, formatted);                  \
     }
 
-#define S2J_DEF_C2S(T)                                                                       \
-    S2J_API int c2s_##T(const cJSON *json, T *struct_ptr) {                                  \
-        S2J_SITE(C2S);                                                                 \
-        return ::s2j::fam_c2s(site, &::s2j::desc_##T, json, struct_ptr);                    \
+#define S2J_DEF_C2S(T)                                                                         \
+    S2J_MARK_LINE(C2S, T)                                                                      \
+    S2J_API int c2s_##T(const cJSON *json, T *struct_ptr) {                                    \
+        S2J_SITE(C2S);                                                                         \
+        return ::s2j::fam_c2s(site, &::s2j::desc_##T, json, struct_ptr);                       \
     }
 
-#define S2J_C2S_OF(T) +[](const cJSON *j, void *p) { return c2s_##T(j, static_cast<T *>(p)); }
-#define S2J_DEF_J2S(T)                                                                       \
-    S2J_API int j2s_##T(const char *json_str, T *struct_ptr) {                               \
-        S2J_SITE(J2S);                                                                 \
-        return ::s2j::fam_j2s(site, &::s2j::desc_##T, json_str, struct_ptr, S2J_C2S_OF(T));                   \
-    }                                                                                        \
+#define S2J_DEF_J2S(T)                                                                         \
+    S2J_API int j2s_##T(const char *json_str, T *struct_ptr) {                                 \
+        S2J_SITE(J2S);                                                                         \
+        return ::s2j::fam_j2s(site, S2J_LINE_OF(C2S, T), &::s2j::desc_##T, json_str, struct_ptr); \
+    }                                                                                          \
     S2J_API int j2s_##T##_with_len(const char *json_str, size_t json_str_len, T *struct_ptr) { \
-        S2J_SITE(J2S_LEN);                                                     \
-        return ::s2j::fam_j2s_with_len(site, &::s2j::desc_##T, json_str, json_str_len, struct_ptr, S2J_C2S_OF(T)); \
+        S2J_SITE(J2S_LEN);                                                                     \
+        return ::s2j::fam_j2s_with_len(site, S2J_LINE_OF(C2S, T), &::s2j::desc_##T, json_str,  \
+                                       json_str_len, struct_ptr);                              \
     }
 
-#define S2J_DEF_S2J_ARRAY(T)                                                                 \
+#define S2J_DEF_S2J_ARRAY(T)                                                                   \
     S2J_API char *s2j_array_##T(const T *struct_array, uint32_t struct_array_size, int formatted) { \
-        S2J_SITE(S2J_ARRAY);                                                           \
+        S2J_SITE(S2J_ARRAY);                                                                   \
         return ::s2j::fam_s2j_array(site, &::s2j::desc_##T, struct_array, struct_array_size, formatted); \
     }
 
-#define S2J_DEF_C2S_ARRAY(T)                                                                 \
+#define S2J_DEF_C2S_ARRAY(T)                                                                   \
+    S2J_MARK_LINE(C2S_ARRAY, T)                                                                \
     S2J_API int c2s_array_##T(const cJSON *json, T *struct_array, uint32_t *struct_array_size) { \
-        S2J_SITE(C2S_ARRAY);                                                           \
+        S2J_SITE(C2S_ARRAY);                                                                   \
         return ::s2j::fam_c2s_array(site, &::s2j::desc_##T, json, struct_array, struct_array_size); \
     }
 
-#define S2J_DEF_C2S_ARRAY_UPDATE(T)                                                          \
+#define S2J_DEF_C2S_ARRAY_UPDATE(T)                                                            \
+    S2J_MARK_LINE(C2S_ARRAY_UPDATE, T)                                                         \
     S2J_API int c2s_array_update_##T(const cJSON *json, T *struct_array, uint32_t *struct_array_size) { \
-        S2J_SITE(C2S_ARRAY_UPDATE);                                                    \
+        S2J_SITE(C2S_ARRAY_UPDATE);                                                            \
         return ::s2j::fam_c2s_array_update(site, &::s2j::desc_##T, json, struct_array, struct_array_size); \
     }
 
-#define S2J_C2S_ARRAY_OF(fn, T) \
-    +[](const cJSON *j, void *p, uint32_t *n) { return fn##T(j, static_cast<T *>(p), n); }
-#define S2J_DEF_J2S_ARRAY(T)                                                                 \
+#define S2J_DEF_J2S_ARRAY(T)                                                                   \
     S2J_API int j2s_array_##T(const char *json_str, T *struct_array, uint32_t *struct_array_size) { \
-        S2J_SITE(J2S_ARRAY);                                                           \
-        return ::s2j::fam_j2s_array(site, &::s2j::desc_##T, json_str, struct_array, struct_array_size,        \
-                                    S2J_C2S_ARRAY_OF(c2s_array_, T));                        \
-    }                                                                                        \
+        S2J_SITE(J2S_ARRAY);                                                                   \
+        return ::s2j::fam_j2s_array(site, S2J_LINE_OF(C2S_ARRAY, T), &::s2j::desc_##T, json_str, struct_array, \
+                                    struct_array_size);                                        \
+    }                                                                                          \
     S2J_API int j2s_array_##T##_with_len(const char *json_str, size_t json_str_len, T *struct_array, \
-                                         uint32_t *struct_array_size) {                      \
-        S2J_SITE(J2S_ARRAY_LEN);                                               \
-        return ::s2j::fam_j2s_array_with_len(site, &::s2j::desc_##T, json_str, json_str_len, struct_array,    \
-                                             struct_array_size, S2J_C2S_ARRAY_OF(c2s_array_, T)); \
+                                         uint32_t *struct_array_size) {                        \
+        S2J_SITE(J2S_ARRAY_LEN);                                                               \
+        return ::s2j::fam_j2s_array_with_len(site, S2J_LINE_OF(C2S_ARRAY, T), &::s2j::desc_##T, json_str, \
+                                             json_str_len, struct_array, struct_array_size);   \
     }
 
-#define S2J_DEF_J2S_ARRAY_UPDATE(T)                                                          \
+#define S2J_DEF_J2S_ARRAY_UPDATE(T)                                                            \
     S2J_API int j2s_array_update_##T(const char *json_str, T *struct_array, uint32_t *struct_array_size) { \
-        S2J_SITE(J2S_ARRAY_UPDATE);                                                    \
-        return ::s2j::fam_j2s_array_update(site, &::s2j::desc_##T, json_str, struct_array, struct_array_size, \
-                                           S2J_C2S_ARRAY_OF(c2s_array_update_, T));          \
-    }                                                                                        \
-    S2J_API int j2s_array_update_##T##_with_len(const char *json_str, size_t json_str_len,   \
+        S2J_SITE(J2S_ARRAY_UPDATE);                                                            \
+        return ::s2j::fam_j2s_array_update(site, S2J_LINE_OF(C2S_ARRAY_UPDATE, T), &::s2j::desc_##T, json_str, \
+                                           struct_array, struct_array_size);                   \
+    }                                                                                          \
+    S2J_API int j2s_array_update_##T##_with_len(const char *json_str, size_t json_str_len,     \
                                                 T *struct_array, uint32_t *struct_array_size) { \
-        S2J_SITE(J2S_ARRAY_UPDATE_LEN);                                        \
-        return ::s2j::fam_j2s_array_update_with_len(site, &::s2j::desc_##T, json_str, json_str_len, struct_array, \
-                                                    struct_array_size,                       \
-                                                    S2J_C2S_ARRAY_OF(c2s_array_update_, T)); \
+        S2J_SITE(J2S_ARRAY_UPDATE_LEN);                                                        \
+        return ::s2j::fam_j2s_array_update_with_len(site, S2J_LINE_OF(C2S_ARRAY_UPDATE, T), &::s2j::desc_##T, \
+                                                    json_str, json_str_len, struct_array, struct_array_size); \
     }
 
 #endif  // S2J_REGISTRY_PASS

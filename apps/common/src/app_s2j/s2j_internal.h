@@ -30,6 +30,7 @@ struct Field {
     uint32_t offset;
     uint32_t size;  // bytes
     Kind kind;
+    uint8_t key_length;  // strlen(key), for comparing keys in place
 #ifdef S2J_TABLES_ONLY
     // What the field holds, in words for people (schemas, the reference of
     // records).  Only the internal library's tables carry it: the shared
@@ -180,6 +181,10 @@ inline int64_t int_value(const cJSON *item) {
 // parse, or when memory for a raw integer's text runs out.  With parse_end,
 // *parse_end receives where the document ends in the text.
 cJSON *parse_marked(const char *text, size_t len, bool with_len, const char **parse_end = nullptr);
+// Reads the number literal at p (a '-' or a digit), moving p past its run of
+// number characters: true when it is an integer literal (no fraction, no
+// exponent) within the int64_t range, with its value in *value.
+bool read_literal(const char *&p, const char *end, int64_t *value);
 
 // ---- Engines (s2j_codec.cpp) ------------------------------------------
 
@@ -219,7 +224,7 @@ bool keys_match(const TypeDesc *d, const void *rec, const void *keyword);
 #define S2J_FIELD(T, m, note)                                                                  \
     ::s2j::Field {                                                                             \
         #m, static_cast<uint32_t>(offsetof(T, m)), static_cast<uint32_t>(sizeof(T::m)),        \
-            ::s2j::KindOf<std::remove_cv_t<decltype(T::m)>>::value S2J_FIELD_NOTE(note)         \
+            ::s2j::KindOf<std::remove_cv_t<decltype(T::m)>>::value, sizeof(#m) - 1 S2J_FIELD_NOTE(note) \
     }
 // A key field of T that its keyword record T##Keyword holds too.
 #define S2J_KEY(T, m) \

@@ -127,6 +127,8 @@ void skip_to_number(const char *&p, const char *end) {
     }
 }
 
+}  // namespace
+
 // Reads the number literal at p, moving p past it, in one pass: whether it is
 // an integer as cJSON's strtod() reads it (an optional '-' and digits, not
 // followed by a fraction or an exponent, within the int64_t range) and then
@@ -134,8 +136,7 @@ void skip_to_number(const char *&p, const char *end) {
 // packaged cJSON reads a number of any length, and where a parser reads fewer
 // characters the rest fails the parse inside a container and ends the text
 // at the top level, so taking the whole run never moves a later literal onto
-// the wrong item (a cap at 63 did, for a longer number before it).  The
-// literal may end the text.
+// the wrong item.  The literal may end the text.
 bool read_literal(const char *&p, const char *end, int64_t *value) {
     const bool neg = *p == '-';
     if (neg) ++p;
@@ -166,6 +167,8 @@ bool read_literal(const char *&p, const char *end, int64_t *value) {
     *value = neg ? static_cast<int64_t>(0 - u) : static_cast<int64_t>(u);
     return true;
 }
+
+namespace {
 
 // Moves the walk's stack to the heap, with room for cJSON's deepest tree.
 bool grow(cJSON ***stack, size_t *capacity, cJSON **local, size_t depth) {

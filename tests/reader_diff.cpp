@@ -1,0 +1,132 @@
+#include "reader_diff.h"
+
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+namespace reader_diff {
+
+namespace {
+
+// The standard error stream of one call: the C library's stderr stream is
+// pointed at a memory buffer for the call (no system call per call, so that
+// fuzzing stays fast), and read back after it.
+class ErrorStream {
+public:
+    ErrorStream() : buf_(static_cast<char *>(std::malloc(kSize))) {
+        mem_ = fmemopen(buf_, kSize, "w");
+        if (mem_ == nullptr) std::abort();
+        char file[] = "/tmp/app_s2j_diff_file_XXXXXX";
+        int f = mkstemp(file);
+        close(f);
+        file_ = file;
+    }
+    void begin() {
+        std::fflush(stderr);
+        std::rewind(mem_);
+        saved_ = stderr;
+        stderr = mem_;
+    }
+    std::string end() {
+        std::fflush(mem_);
+        stderr = saved_;
+        long n = std::ftell(mem_);
+        return std::string(buf_, n > 0 ? static_cast<size_t>(n) : 0);
+    }
+    const std::string &file() const { return file_; }
+
+private:
+    static constexpr size_t kSize = 8 << 20;  // more than any diagnostic of the inputs compared
+    char *buf_;
+    FILE *mem_ = nullptr;
+    FILE *saved_ = nullptr;
+    std::string file_;
+};
+
+ErrorStream &errors() {
+    static ErrorStream e;
+    return e;
+}
+
+struct Outcome {
+    int rc = 0;
+    std::vector<char> records;
+    uint32_t count = 0;
+    std::string err;
+};
+
+Outcome run(const s2j::TypeInfo *t, const Call &c) {
+    Outcome o;
+    o.records = c.records;
+    o.count = c.capacity;
+    void *arr = c.query ? nullptr : o.records.data();
+    const char *s = c.text.c_str();
+    const s2j::Families &f = t->fam;
+    if (c.member == Member::F2s || c.member == Member::F2sArray) {
+        FILE *out = std::fopen(errors().file().c_str(), "wb");
+        std::fwrite(c.text.data(), 1, c.text.size(), out);
+        std::fclose(out);
+    }
+    errors().begin();
+    switch (c.member) {
+        case Member::J2s: o.rc = f.j2s(s, arr); break;
+        case Member::J2sLen: o.rc = f.j2s_with_len(s, c.len, arr); break;
+        case Member::J2sArray: o.rc = f.j2s_array(s, arr, &o.count); break;
+        case Member::J2sArrayLen: o.rc = f.j2s_array_with_len(s, c.len, arr, &o.count); break;
+        case Member::J2sArrayUpdate: o.rc = f.j2s_array_update(s, arr, &o.count); break;
+        case Member::J2sArrayUpdateLen: o.rc = f.j2s_array_update_with_len(s, c.len, arr, &o.count); break;
+        case Member::F2s: o.rc = f.f2s(errors().file().c_str(), arr); break;
+        case Member::F2sArray: o.rc = f.f2s_array(errors().file().c_str(), arr, &o.count); break;
+    }
+    o.err = errors().end();
+    return o;
+}
+
+std::string hex_diff(const std::vector<char> &a, const std::vector<char> &b) {
+    for (size_t i = 0; i < a.size(); ++i)
+        if (a[i] != b[i]) {
+            char buf[96];
+            std::snprintf(buf, sizeof buf, "record bytes differ first at %zu: %02x against %02x", i,
+                          static_cast<unsigned char>(a[i]), static_cast<unsigned char>(b[i]));
+            return buf;
+        }
+    return "";
+}
+
+}  // namespace
+
+const char *member_name(Member m) {
+    static const char *const names[kMembers] = {"j2s", "j2s_with_len", "j2s_array", "j2s_array_with_len",
+                                                "j2s_array_update", "j2s_array_update_with_len", "f2s", "f2s_array"};
+    return names[static_cast<int>(m)];
+}
+
+bool has(const s2j::TypeInfo *t, Member m) {
+    const s2j::Families &f = t->fam;
+    switch (m) {
+        case Member::J2s: case Member::J2sLen: return f.j2s != nullptr;
+        case Member::J2sArray: case Member::J2sArrayLen: return f.j2s_array != nullptr;
+        case Member::J2sArrayUpdate: case Member::J2sArrayUpdateLen: return f.j2s_array_update != nullptr;
+        case Member::F2s: return f.f2s != nullptr;
+        case Member::F2sArray: return f.f2s_array != nullptr;
+    }
+    return false;
+}
+
+const s2j::TypeInfo *reference_of(const s2j::TypeInfo *t) { return s2j::find_tree_type(t->name); }
+
+std::string compare(const s2j::TypeInfo *lib, const s2j::TypeInfo *ref, const Call &call) {
+    const Outcome a = run(lib, call), b = run(ref, call);
+    std::string what;
+    if (a.rc != b.rc) what += "status " + std::to_string(a.rc) + " against " + std::to_string(b.rc) + "; ";
+    if (a.count != b.count)
+        what += "count " + std::to_string(a.count) + " against " + std::to_string(b.count) + "; ";
+    if (a.records != b.records) what += hex_diff(a.records, b.records) + "; ";
+    if (a.err != b.err) what += "standard error \"" + a.err + "\" against \"" + b.err + "\"; ";
+    if (!what.empty()) what = std::string(lib->name) + " " + member_name(call.member) + ": " + what;
+    return what;
+}
+
+}  // namespace reader_diff
