@@ -381,7 +381,7 @@ Validation validate_text(const s2j::TypeInfo &t, const std::string &whole, bool 
                   "a string holds \\u0000 at " + position(text, static_cast<size_t>(first_nul - text)) +
                       (escaped_nuls > 1 ? printf_string(" (and %zu more)", escaped_nuls - 1) : std::string()) +
                       "; the library keeps a string only up to it");
-    v.is_array = update || is_array_text(text, len);
+    v.is_array = update || shape_is_array(t, text);
     const char *end = nullptr;
     cJSON *tree = s2j::parse_marked(text, 0, false, &end);
     if (tree == nullptr) {
@@ -414,10 +414,18 @@ Validation validate_text(const s2j::TypeInfo &t, const std::string &whole, bool 
         v.records = 1;
         if (!cJSON_IsObject(tree))
             check.add(Finding::kError, "",
-                      "expected an object (one " + std::string(t.name) + " record) or an array of records, found " +
-                          describe(tree));
+                      "expected an object (one " + std::string(t.name) + " record" +
+                          (reads_arrays(t) ? ") or an array of records" : "; the library reads no arrays of them)") +
+                          ", found " + describe(tree));
         else
             check.record(tree, "");
+        cJSON_Delete(tree);
+        return v;
+    }
+    if (!cJSON_IsArray(tree)) {
+        check.add(Finding::kError, "",
+                  "expected an array of " + std::string(t.name) + " records (the library reads " + t.name +
+                      " as a record array only), found " + describe(tree));
         cJSON_Delete(tree);
         return v;
     }
@@ -458,7 +466,7 @@ Validation validate_text(const s2j::TypeInfo &t, const std::string &whole, bool 
         } else {
             check.add(Finding::kError, place,
                       "expected an object, found " + describe(e) + "; " + t.name +
-                          " has no array families, so each element is read as one record");
+                          " has no array reader, so its reader reads each element as one record");
         }
     }
     v.records = i;
