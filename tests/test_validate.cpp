@@ -429,13 +429,64 @@ TEST(ValidatorFindings, ListsReportSkippedAndSurplusEntries) {
 
 TEST(ValidatorFindings, TextThatIsNotJsonSaysWhereItStops) {
     EXPECT_EQ(report("DeviceInfo", "{\"ProductModel\": \"x\",\n \"Serial"),
-              "f.json: error: the text is not JSON: it stops parsing at line 2, column 3, near \"Serial\"\n");
+              "f.json: error: the text is not JSON: a string that does not end, at line 2, column 2, near "
+              "\"\\\"Serial\"\n");
+    // A trailing comma is named at the comma, inside the object.
+    EXPECT_EQ(report("DeviceInfo", "{\"ProductModel\": \"x\",\n}"),
+              "f.json: error: the text is not JSON: a comma before '}' (JSON allows no trailing comma), at line 1, "
+              "column 21, near \",\"\n");
+    EXPECT_EQ(report("CrontabParameter", "[{\"Index\": 1},]"),
+              "f.json: error: the text is not JSON: a comma before ']' (JSON allows no trailing comma), at line 1, "
+              "column 14, near \",]\"\n");
     EXPECT_EQ(report("DeviceInfo", ""), "f.json: error: the text is not JSON: it ends before the document does\n");
     EXPECT_EQ(report("DeviceInfo", "{} x"),
               "f.json: warning: text after the document, from line 1, column 4, is ignored by the library\n");
     EXPECT_EQ(report("DeviceInfo", std::string("{}\0x", 4)),
               "f.json: warning: a NUL byte at offset 2 (line 1, column 3) ends the text; the library reads no "
               "further\n");
+}
+
+TEST(ValidatorFindings, JsonNestedDeeperThanTheLibraryReadsIsNamedSo) {
+    const std::string deep = "{\"ProductModel\":" + std::string(1000, '[') + std::string(1000, ']') + "}";
+    EXPECT_EQ(report("DeviceInfo", deep),
+              "f.json: error: the text is JSON, but nested 1001 levels deep; the library reads no deeper than 1000 "
+              "levels\n");
+    const std::string fits = "{\"ProductModel\":" + std::string(999, '[') + std::string(999, ']') + "}";
+    EXPECT_EQ(report("DeviceInfo", fits), "f.json: error: ProductModel: expected a string, found an array\n");
+}
+
+TEST(ValidatorFindings, TextOnlyTheLibrarysParserReadsIsAWarningWithItsPlace) {
+    const char *tail = "; the library reads it, other JSON parsers may not\n";
+    EXPECT_EQ(report("DeviceInfo", "{\"ProductModel\": \"a\tb\"}"),
+              std::string("f.json: warning: not standard JSON: the control byte 0x09 unescaped inside a string (JSON "
+                          "wants \\u0009), at line 1, column 20") + tail);
+    EXPECT_EQ(report("DeviceInfo", "{\"ProductModel\": \"a\nb\"}"),
+              std::string("f.json: warning: not standard JSON: the control byte 0x0a unescaped inside a string (JSON "
+                          "wants \\u000a), at line 1, column 20") + tail);
+    EXPECT_EQ(report("DeviceInfo", "{\"ProductModel\": \"a\xff\xfe\"}"),
+              std::string("f.json: warning: not standard JSON: the byte 0xff, which is not UTF-8, at line 1, column "
+                          "20 (and 1 more)") + tail);
+    EXPECT_EQ(report("DeviceInfo", "\xEF\xBB\xBF{}"),
+              std::string("f.json: warning: not standard JSON: a byte order mark (JSON texts carry none), at line 1, "
+                          "column 1") + tail);
+    EXPECT_EQ(report("CrontabParameter", "[{\"Index\": 00}]"),
+              std::string("f.json: warning: not standard JSON: a number with a leading zero (JSON allows none), at "
+                          "line 1, column 12") + tail);
+    EXPECT_EQ(report("CrontabParameter", "\f[]"),
+              std::string("f.json: warning: not standard JSON: the control byte 0x0c as a blank (JSON allows space, "
+                          "tab, CR and LF), at line 1, column 1") + tail +
+                  "f.json: note: the array is empty: it holds no records\n");
+    EXPECT_EQ(status("DeviceInfo", "{\"ProductModel\": \"a\tb\"}"), 3);
+    // Well-formed UTF-8 and every escape are standard.
+    EXPECT_EQ(status("DeviceInfo", "{\"ProductModel\": \"\xc3\xa9\xe2\x82\xac\xf0\x9f\x98\x80 \\t\\u00e9\\/\"}"), 0);
+}
+
+TEST(ValidatorFindings, NulBytesFillingTheFileAfterTheDocumentAreANote) {
+    EXPECT_EQ(report("DeviceInfo", std::string("{}\n\0\0\0", 6)),
+              "f.json: note: NUL bytes from offset 3 (line 2, column 1) to the end of the file; the library reads "
+              "the text before them\n");
+    EXPECT_EQ(status("DeviceInfo", std::string("{}\n\0\0\0", 6)), 0);
+    EXPECT_EQ(status("DeviceInfo", std::string("{}\n\0\0x", 6)), 3);
 }
 
 TEST(ValidatorFindings, AnEscapedNulEndsItsString) {

@@ -79,34 +79,46 @@ const s2j::TypeInfo *find_type_or_report(const std::string &name) {
     return nullptr;
 }
 
-bool read_stream(FILE *f, const char *name, std::string *text) {
+namespace {
+
+// Prints "app_s2j: cannot read NAME: REASON", or keeps it in *why.
+bool cannot_read(const std::string &name, int err, std::string *why) {
+    std::string text = "cannot read " + name + ": " + std::strerror(err);
+    if (why != nullptr)
+        *why = text;
+    else
+        std::fprintf(stderr, "app_s2j: %s\n", text.c_str());
+    return false;
+}
+
+bool read_stream_as(FILE *f, const std::string &name, std::string *text, std::string *why) {
     char buf[65536];
     size_t got;
     while ((got = std::fread(buf, 1, sizeof buf, f)) > 0) text->append(buf, got);
     if (!std::ferror(f)) return true;
-    std::fprintf(stderr, "app_s2j: cannot read %s: %s\n", name, std::strerror(errno));
-    return false;
+    return cannot_read(name, errno, why);
 }
 
-bool read_whole(const std::string &path, std::string *text) {
+}  // namespace
+
+bool read_stream(FILE *f, const char *name, std::string *text) { return read_stream_as(f, name, text, nullptr); }
+
+bool read_whole(const std::string &path, std::string *text, std::string *why) {
+    const std::string name = "'" + path + "'";
     FILE *f = std::fopen(path.c_str(), "rb");
-    if (f == nullptr) {
-        std::fprintf(stderr, "app_s2j: cannot read '%s': %s\n", path.c_str(), std::strerror(errno));
-        return false;
-    }
+    if (f == nullptr) return cannot_read(name, errno, why);
     struct stat st;
     if (fstat(fileno(f), &st) == 0 && S_ISDIR(st.st_mode)) {
         std::fclose(f);
-        std::fprintf(stderr, "app_s2j: cannot read '%s': %s\n", path.c_str(), std::strerror(EISDIR));
-        return false;
+        return cannot_read(name, EISDIR, why);
     }
-    bool ok = read_stream(f, ("'" + path + "'").c_str(), text);
+    bool ok = read_stream_as(f, name, text, why);
     std::fclose(f);
     return ok;
 }
 
-bool read_input(const std::string &path, std::string *text) {
-    return path == "-" ? read_stream(stdin, "standard input", text) : read_whole(path, text);
+bool read_input(const std::string &path, std::string *text, std::string *why) {
+    return path == "-" ? read_stream_as(stdin, "standard input", text, why) : read_whole(path, text, why);
 }
 
 bool reads_arrays(const s2j::TypeInfo &t) {

@@ -58,14 +58,16 @@ std::string families_of(const s2j::TypeInfo &t, const char *sep);
 int usage_error(const Command &cmd, const std::string &why);
 // The type of that name, or null after printing the unknown-type message.
 const s2j::TypeInfo *find_type_or_report(const std::string &name);
-// The whole file into *text; false after printing why it cannot be read.
-bool read_whole(const std::string &path, std::string *text);
+// The whole file into *text; false after printing why it cannot be read
+// ("cannot read 'PATH': REASON"), or keeping that text in *why.
+bool read_whole(const std::string &path, std::string *text, std::string *why = nullptr);
 // The rest of an open stream into *text; false after printing that name
 // cannot be read, and why.
 bool read_stream(FILE *f, const char *name, std::string *text);
 // The input named by path, read once: a file, a pipe or a FIFO, or standard
-// input for "-".  False after printing why it cannot be read.
-bool read_input(const std::string &path, std::string *text);
+// input for "-".  False after printing why it cannot be read, or keeping
+// that text in *why.
+bool read_input(const std::string &path, std::string *text, std::string *why = nullptr);
 
 // The shapes of a type's documents, as its families read them: a record
 // array for a type with array families, one record (an object) for a type
