@@ -50,7 +50,7 @@ expect_contains "$out" "print TYPE FILE [--compact]" "--help text"
 # Every command answers --help with its synopsis and exit status 0, and
 # every command that takes arguments rejects an unknown option with 2.
 commands=$("$tool" --help | sed -n 's/^ *\(usage:\)\{0,1\} *app_s2j \([a-z]*\) .*/\2/p; s/^ *\(usage:\)\{0,1\} *app_s2j \([a-z]*\)$/\2/p' | grep -v '^$' | sort -u)
-expect_eq "$(echo $commands)" "check print reference schema template types validate" "the usage lists every command"
+expect_eq "$(echo $commands)" "check diff print reference schema template types update validate" "the usage lists every command"
 for c in $commands; do
   out=$("$tool" "$c" --help); rc=$?
   expect_eq "$rc" "0" "$c --help"

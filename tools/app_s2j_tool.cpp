@@ -1,6 +1,6 @@
 // app_s2j - command-line front end of libapp_s2j: lists the record types,
 // checks and validates JSON files against a type, prints them back as the
-// library writes them, and describes the records (schemas, templates, the
+// library writes them, updates them and compares them, and describes the records (schemas, templates, the
 // reference).  Loading always goes through the library's own families.
 #include <cstdio>
 #include <cstdlib>
@@ -30,16 +30,6 @@ int run_types(const std::vector<std::string> &args) {
 }
 
 // ---- check, print ------------------------------------------------------------
-
-const char *status_text(int rc) {
-    switch (rc) {
-        case -1: return "a member has the wrong JSON type";
-        case -2: return "bad argument, wrong JSON type, or text that does not parse";
-        case -7: return "file not written";
-        case -15: return "file not read";
-        default: return "failure";
-    }
-}
 
 int load_or_report(const s2j::TypeInfo &t, const std::string &path, const std::string &text, Loaded *out,
                    const RecordSink &sink = nullptr) {
@@ -159,6 +149,8 @@ const Command *const kCommands[] = {
     &app_s2j_tool::kCheckCommand,
     &app_s2j_tool::kPrintCommand,
     &app_s2j_tool::kValidateCommand,
+    &app_s2j_tool::kUpdateCommand,
+    &app_s2j_tool::kDiffCommand,
     &app_s2j_tool::kSchemaCommand,
     &app_s2j_tool::kTemplateCommand,
     &app_s2j_tool::kReferenceCommand,
@@ -174,8 +166,8 @@ void print_usage(FILE *out) {
     std::fprintf(out, "%-6s app_s2j --version\n\n", "");
     for (const Command *c : kCommands) std::fprintf(out, "  %-10s %s\n", c->name, c->summary);
     std::fputs("\n"
-               "Exit status: 0 success, 1 the file is rejected, 2 wrong usage,\n"
-               "3 (validate) the file is accepted but not exactly as written.\n",
+               "Exit status: 0 success, 1 the file is rejected (diff: the files differ),\n"
+               "2 wrong usage, 3 (validate) the file is accepted but not exactly as written.\n",
                out);
 }
 

@@ -57,6 +57,16 @@ std::string families_of(const s2j::TypeInfo &t, const char *sep) {
     return s;
 }
 
+const char *status_text(int rc) {
+    switch (rc) {
+        case -1: return "a member has the wrong JSON type";
+        case -2: return "bad argument, wrong JSON type, or text that does not parse";
+        case -7: return "file not written";
+        case -15: return "file not read";
+        default: return "failure";
+    }
+}
+
 int usage_error(const Command &cmd, const std::string &why) {
     std::fprintf(stderr, "app_s2j: %s\nusage: app_s2j %s\n(app_s2j %s --help tells more)\n", why.c_str(),
                  cmd.synopsis, cmd.name);
@@ -297,9 +307,6 @@ int load(const s2j::TypeInfo &t, const std::string &text, Loaded *out, const Rec
     return out->is_array ? load_array(t, text, out, sink) : load_record(t, text, out, sink);
 }
 
-// Text of count records (an array when array) as the library writes them.
-namespace {
-
 char *emit_text(const s2j::TypeInfo &t, const char *recs, uint32_t count, bool array, int formatted) {
     const s2j::Families &f = t.fam;
     if (!array && f.s2j) return f.s2j(recs, formatted);
@@ -312,8 +319,6 @@ char *emit_text(const s2j::TypeInfo &t, const char *recs, uint32_t count, bool a
     cJSON_Delete(tree);
     return text;
 }
-
-}  // namespace
 
 int write_document(const s2j::TypeInfo &t, const std::string &text, bool compact,
                    const std::function<void(const std::string &)> &put) {

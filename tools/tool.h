@@ -36,6 +36,8 @@ extern const Command kTypesCommand;
 extern const Command kCheckCommand;
 extern const Command kPrintCommand;
 extern const Command kValidateCommand;
+extern const Command kUpdateCommand;
+extern const Command kDiffCommand;
 extern const Command kSchemaCommand;
 extern const Command kTemplateCommand;
 extern const Command kReferenceCommand;
@@ -53,6 +55,9 @@ IntRange range_of(s2j::Kind k);
 // The families a type has ("s2j", "c2s", ... "s2f_array", then "keyword"
 // and "get_keyword" for its keyword readers), joined by sep; "" for none.
 std::string families_of(const s2j::TypeInfo &t, const char *sep);
+
+// What a status of the library means, in a few words.
+const char *status_text(int rc);
 
 // Prints "app_s2j: WHY" and the command's synopsis to stderr; returns 2.
 int usage_error(const Command &cmd, const std::string &why);
@@ -111,6 +116,12 @@ constexpr uint32_t kChunkRecords = 64;
 // reader.  The library's diagnostics are shown through quoted_call.
 // Returns the library's status (0 on success).
 int load(const s2j::TypeInfo &t, const std::string &text, Loaded *out, const RecordSink &sink = nullptr);
+
+// Text of count records at recs (a JSON array when array) as the library
+// writes them: with the type's s2j or s2j_array, or else its emitter's tree
+// printed as those print; formatted as the file families write.  Null when
+// no text could be made; the caller frees it.
+char *emit_text(const s2j::TypeInfo &t, const char *recs, uint32_t count, bool array, int formatted);
 
 // Loads text as load does and hands put the records' text as the library
 // writes them (indented, or on one line when compact), a part at a time:
