@@ -96,8 +96,9 @@ before=$(inode "$tmp/u/tasks.json")
 printf '[{"Index":3,"Enable":0}]' > "$tmp/req0.json"
 out=$(trap '' XFSZ; ulimit -f 0; "$tool" update CrontabParameter "$tmp/u/tasks.json" "$tmp/req0.json" 2>&1); rc=$?
 expect_eq "$rc" "1" "a failed write"
-expect_contains "$out" "app_s2j: cannot write '$tmp/u/.tasks.json." "a failed write: the message"
-expect_contains "$out" "File too large" "a failed write: the reason"
+expect_contains "$out" "app_s2j: cannot write the new file '" "a failed write: the message"
+expect_contains "$out" "/.tasks.json." "a failed write: the new file's name"
+expect_contains "$out" ": File too large; '$tmp/u/tasks.json' is left as it was" "a failed write: the reason"
 cmp -s "$tmp/u/tasks.json" "$tmp/saved.json" && ok || fail "a failed write changed the old file"
 expect_eq "$(inode "$tmp/u/tasks.json")" "$before" "a failed write keeps the old file"
 expect_eq "$(others "$tmp/u" tasks.json)" "" "a failed write leaves no new file"

@@ -131,21 +131,28 @@ bool replace_file(const std::string &path, const std::string &text, std::string 
     const std::string dir = slash == 0 ? "/" : target.substr(0, slash);
     std::string temp = target.substr(0, slash + 1) + "." + target.substr(slash + 1) + ".XXXXXX";
     int fd = mkstemp(&temp[0]);
-    if (fd < 0) return failed("create a new file beside", path, errno, why);
+    const std::string kept = "; '" + path + "' is left as it was";
+    if (fd < 0) {
+        failed("create a new file beside", path, errno, why);
+        *why += kept;
+        return false;
+    }
     // Until the rename, a failure removes the new file and leaves the old one.
     auto abandon = [&](const char *what) {
         int err = errno;
         if (fd >= 0) close(fd);
         unlink(temp.c_str());
-        return failed(what, temp, err, why);
+        failed(what, temp, err, why);
+        *why += kept;
+        return false;
     };
-    if (fchmod(fd, st.st_mode & 07777) != 0) return abandon("set the permissions of");
-    if (!write_all(fd, text)) return abandon("write");
-    if (fsync(fd) != 0) return abandon("sync");
+    if (fchmod(fd, st.st_mode & 07777) != 0) return abandon("set the permissions of the new file");
+    if (!write_all(fd, text)) return abandon("write the new file");
+    if (fsync(fd) != 0) return abandon("sync the new file");
     int rc = close(fd);
     fd = -1;
-    if (rc != 0) return abandon("close");
-    if (rename(temp.c_str(), target.c_str()) != 0) return abandon("rename");
+    if (rc != 0) return abandon("close the new file");
+    if (rename(temp.c_str(), target.c_str()) != 0) return abandon("rename the new file");
     // The rename is on disk once the directory is.
     int dfd = open(dir.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (dfd < 0 || fsync(dfd) != 0) {

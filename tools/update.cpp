@@ -104,6 +104,7 @@ int run_update(const std::vector<std::string> &args) {
     std::string new_text = out;
     std::free(out);
     std::string why;
+    std::fflush(stdout);
     if (!replace_file(path, new_text, &why)) {
         std::fprintf(stderr, "app_s2j: %s\n", why.c_str());
         return kExitRejected;
