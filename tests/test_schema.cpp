@@ -108,27 +108,53 @@ TEST(Schema, CTypesInDescriptionsAreTheStructMembersTypes) {
     EXPECT_EQ(str(at(props, "IndexList"), "description"), "uint32[256]; JSON array of integers");
 }
 
-TEST(Schema, DocumentIsOneRecordOrAnArrayOfThemUnderItsOwnId) {
+TEST(Schema, DocumentHasTheShapeTheTypesFamiliesReadUnderItsOwnId) {
+    int both = 0, arrays = 0, records = 0;
     for (const s2j::TypeInfo *t : all_types()) {
         Tree doc(app_s2j_tool::schema_of(*t, false));
         EXPECT_EQ(str(doc.p, "$schema"), "https://json-schema.org/draft/2020-12/schema") << t->name;
         EXPECT_EQ(str(doc.p, "$id"), std::string("urn:app-s2j:") + t->name);
         EXPECT_EQ(str(doc.p, "title"), t->name);
-        Tree want(cJSON_Parse(R"([{"$ref": "#/$defs/record"},
-                                  {"type": "array", "items": {"$ref": "#/$defs/record"}}])"));
-        EXPECT_TRUE(cJSON_Compare(at(doc.p, "anyOf"), want.p, 1)) << t->name;
+        const bool reads_records = app_s2j_tool::reads_records(*t), reads_arrays = app_s2j_tool::reads_arrays(*t);
+        const char *record = R"({"$ref": "#/$defs/record"})";
+        const char *array = R"({"type": "array", "items": {"$ref": "#/$defs/record"}})";
+        const std::string one_of = reads_records && reads_arrays ? "anyOf" : "allOf";
+        const std::string want_text = reads_records && reads_arrays ? std::string("[") + record + "," + array + "]"
+                                      : reads_arrays                ? std::string("[") + array + "]"
+                                                                    : std::string("[") + record + "]";
+        both += reads_records && reads_arrays;
+        arrays += reads_arrays && !reads_records;
+        records += reads_records && !reads_arrays;
+        Tree want(cJSON_Parse(want_text.c_str()));
+        EXPECT_TRUE(cJSON_Compare(at(doc.p, one_of.c_str()), want.p, 1)) << t->name;
+        EXPECT_EQ(at(doc.p, one_of == "anyOf" ? "allOf" : "anyOf"), nullptr) << t->name;
         EXPECT_EQ(names_of(at(doc.p, "$defs")), std::vector<std::string>{"record"}) << t->name;
     }
+    EXPECT_GT(both, 0);
+    EXPECT_GT(arrays, 0);
+    EXPECT_GT(records, 0);
+    // One type of each shape, named.
+    Tree cron(app_s2j_tool::schema_of(*s2j::find_type("CrontabParameter"), false));
+    EXPECT_EQ(str(cJSON_GetArrayItem(at(cron.p, "allOf"), 0), "type"), "array");
+    Tree info(app_s2j_tool::schema_of(*s2j::find_type("DeviceInfo"), false));
+    EXPECT_EQ(str(cJSON_GetArrayItem(at(info.p, "allOf"), 0), "$ref"), "#/$defs/record");
+    Tree user(app_s2j_tool::schema_of(*s2j::find_type("CreateUserParameter"), false));
+    EXPECT_EQ(cJSON_GetArraySize(at(user.p, "anyOf")), 2);
 }
 
 TEST(Schema, DescriptionNamesTheFamiliesOfTheType) {
     Tree doc(app_s2j_tool::schema_of(*s2j::find_type("CrontabParameter"), false));
     const std::string d = str(doc.p, "description");
-    EXPECT_NE(d.find("One CrontabParameter record (a JSON object) or an array of them"), std::string::npos) << d;
+    EXPECT_NE(d.find("An array of CrontabParameter records (a record array)."), std::string::npos) << d;
     EXPECT_NE(d.find("c2s_array_update"), std::string::npos) << d;
     EXPECT_NE(d.find("get_keyword"), std::string::npos) << d;
     Tree info(app_s2j_tool::schema_of(*s2j::find_type("DeviceInfo"), false));
-    EXPECT_EQ(str(info.p, "description").find("array_update"), std::string::npos) << str(info.p, "description");
+    const std::string di = str(info.p, "description");
+    EXPECT_EQ(di.find("array_update"), std::string::npos) << di;
+    EXPECT_NE(di.find("One DeviceInfo record (a JSON object)."), std::string::npos) << di;
+    Tree user(app_s2j_tool::schema_of(*s2j::find_type("CreateUserParameter"), false));
+    const std::string du = str(user.p, "description");
+    EXPECT_NE(du.find("One CreateUserParameter record (a JSON object) or an array of them"), std::string::npos) << du;
 }
 
 TEST(Schema, UpdateRequestRequiresExactlyTheKeyFieldsInKeyOrder) {

@@ -5,6 +5,10 @@
 // reads back exactly as written.
 #include <gtest/gtest.h>
 
+#include <dirent.h>
+
+#include <algorithm>
+#include <cstdlib>
 #include <cstring>
 #include <map>
 #include <string>
@@ -59,18 +63,39 @@ Members example_record(const s2j::TypeInfo &t) {
     return m;
 }
 
-bool has_array_reader(const s2j::TypeInfo &t) { return t.fam.c2s_array || t.fam.j2s_array || t.fam.f2s_array; }
+bool has_array_reader(const s2j::TypeInfo &t) { return app_s2j_tool::reads_arrays(t); }
 
 // The library's verdict through the tool's loader (file families included).
 struct Library {
     std::string dir = temp_dir();
     std::string path = dir + "/doc.json";
 
+    std::vector<char> bytes;    // the records of the last load
+    bool against_files = false;  // compare each load with the file family
+
+    // The tool's load of the text; against_files, it must give the status
+    // the type's file family gives for a file holding that text.
     int load(const s2j::TypeInfo &t, const std::string &text, app_s2j_tool::Loaded *l) {
-        write_file(path, text);
+        bytes.clear();
         StderrCapture quiet;
-        int rc = app_s2j_tool::load(t, path, text, l);
+        int rc = app_s2j_tool::load(t, text, l, [&](const char *recs, uint32_t n) {
+            bytes.insert(bytes.end(), recs, recs + static_cast<size_t>(n) * t.desc->size);
+            return true;
+        });
+        int file_rc = rc;
+        if (against_files) write_file(path, text);
+        if (!against_files) {
+        } else if (l->is_array && t.fam.f2s_array != nullptr) {
+            uint32_t n = 0;
+            file_rc = t.fam.f2s_array(path.c_str(), nullptr, &n);
+            std::vector<char> arr(t.desc->size * (n + 1), 0);
+            if (file_rc == 0) file_rc = t.fam.f2s_array(path.c_str(), arr.data(), &n);
+        } else if (!l->is_array && t.fam.f2s != nullptr) {
+            std::vector<char> rec(t.desc->size, 0);
+            file_rc = t.fam.f2s(path.c_str(), rec.data());
+        }
         quiet.text();
+        EXPECT_EQ(rc, file_rc) << t.name << ": the tool and the file family differ on\n" << text;
         return rc;
     }
 
@@ -111,7 +136,7 @@ void expect_read_as_written(const s2j::TypeInfo &t, const std::string &text, Lib
     ASSERT_NE(doc, nullptr);
     const cJSON *rec = cJSON_IsArray(doc) ? doc->child : doc;
     for (uint32_t i = 0; i < l.count && rec != nullptr; ++i, rec = rec->next) {
-        cJSON *back = t.hooks->emit(l.bytes.data() + static_cast<size_t>(i) * t.desc->size);
+        cJSON *back = t.hooks->emit(lib.bytes.data() + static_cast<size_t>(i) * t.desc->size);
         for (const cJSON *m = rec->child; m != nullptr; m = m->next) {
             const cJSON *b = cJSON_GetObjectItemCaseSensitive(back, m->string);
             if (cJSON_IsArray(m) && cJSON_IsArray(b)) {
@@ -258,6 +283,7 @@ TEST(Validator, AgreesWithTheLibraryOnKeySpellingsRepetitionsAndUnknownKeys) {
 
 TEST(Validator, AgreesWithTheLibraryOnDocumentsOfEveryShape) {
     Library lib;
+    lib.against_files = true;
     Tally tally;
     for (const s2j::TypeInfo *type : all_types()) {
         const s2j::TypeInfo &t = *type;
@@ -403,13 +429,64 @@ TEST(ValidatorFindings, ListsReportSkippedAndSurplusEntries) {
 
 TEST(ValidatorFindings, TextThatIsNotJsonSaysWhereItStops) {
     EXPECT_EQ(report("DeviceInfo", "{\"ProductModel\": \"x\",\n \"Serial"),
-              "f.json: error: the text is not JSON: it stops parsing at line 2, column 3, near \"Serial\"\n");
+              "f.json: error: the text is not JSON: a string that does not end, at line 2, column 2, near "
+              "\"\\\"Serial\"\n");
+    // A trailing comma is named at the comma, inside the object.
+    EXPECT_EQ(report("DeviceInfo", "{\"ProductModel\": \"x\",\n}"),
+              "f.json: error: the text is not JSON: a comma before '}' (JSON allows no trailing comma), at line 1, "
+              "column 21, near \",\"\n");
+    EXPECT_EQ(report("CrontabParameter", "[{\"Index\": 1},]"),
+              "f.json: error: the text is not JSON: a comma before ']' (JSON allows no trailing comma), at line 1, "
+              "column 14, near \",]\"\n");
     EXPECT_EQ(report("DeviceInfo", ""), "f.json: error: the text is not JSON: it ends before the document does\n");
     EXPECT_EQ(report("DeviceInfo", "{} x"),
               "f.json: warning: text after the document, from line 1, column 4, is ignored by the library\n");
     EXPECT_EQ(report("DeviceInfo", std::string("{}\0x", 4)),
               "f.json: warning: a NUL byte at offset 2 (line 1, column 3) ends the text; the library reads no "
               "further\n");
+}
+
+TEST(ValidatorFindings, JsonNestedDeeperThanTheLibraryReadsIsNamedSo) {
+    const std::string deep = "{\"ProductModel\":" + std::string(1000, '[') + std::string(1000, ']') + "}";
+    EXPECT_EQ(report("DeviceInfo", deep),
+              "f.json: error: the text is JSON, but nested 1001 levels deep; the library reads no deeper than 1000 "
+              "levels\n");
+    const std::string fits = "{\"ProductModel\":" + std::string(999, '[') + std::string(999, ']') + "}";
+    EXPECT_EQ(report("DeviceInfo", fits), "f.json: error: ProductModel: expected a string, found an array\n");
+}
+
+TEST(ValidatorFindings, TextOnlyTheLibrarysParserReadsIsAWarningWithItsPlace) {
+    const char *tail = "; the library reads it, other JSON parsers may not\n";
+    EXPECT_EQ(report("DeviceInfo", "{\"ProductModel\": \"a\tb\"}"),
+              std::string("f.json: warning: not standard JSON: the control byte 0x09 unescaped inside a string (JSON "
+                          "wants \\u0009), at line 1, column 20") + tail);
+    EXPECT_EQ(report("DeviceInfo", "{\"ProductModel\": \"a\nb\"}"),
+              std::string("f.json: warning: not standard JSON: the control byte 0x0a unescaped inside a string (JSON "
+                          "wants \\u000a), at line 1, column 20") + tail);
+    EXPECT_EQ(report("DeviceInfo", "{\"ProductModel\": \"a\xff\xfe\"}"),
+              std::string("f.json: warning: not standard JSON: the byte 0xff, which is not UTF-8, at line 1, column "
+                          "20 (and 1 more)") + tail);
+    EXPECT_EQ(report("DeviceInfo", "\xEF\xBB\xBF{}"),
+              std::string("f.json: warning: not standard JSON: a byte order mark (JSON texts carry none), at line 1, "
+                          "column 1") + tail);
+    EXPECT_EQ(report("CrontabParameter", "[{\"Index\": 00}]"),
+              std::string("f.json: warning: not standard JSON: a number with a leading zero (JSON allows none), at "
+                          "line 1, column 12") + tail);
+    EXPECT_EQ(report("CrontabParameter", "\f[]"),
+              std::string("f.json: warning: not standard JSON: the control byte 0x0c as a blank (JSON allows space, "
+                          "tab, CR and LF), at line 1, column 1") + tail +
+                  "f.json: note: the array is empty: it holds no records\n");
+    EXPECT_EQ(status("DeviceInfo", "{\"ProductModel\": \"a\tb\"}"), 3);
+    // Well-formed UTF-8 and every escape are standard.
+    EXPECT_EQ(status("DeviceInfo", "{\"ProductModel\": \"\xc3\xa9\xe2\x82\xac\xf0\x9f\x98\x80 \\t\\u00e9\\/\"}"), 0);
+}
+
+TEST(ValidatorFindings, NulBytesFillingTheFileAfterTheDocumentAreANote) {
+    EXPECT_EQ(report("DeviceInfo", std::string("{}\n\0\0\0", 6)),
+              "f.json: note: NUL bytes from offset 3 (line 2, column 1) to the end of the file; the library reads "
+              "the text before them\n");
+    EXPECT_EQ(status("DeviceInfo", std::string("{}\n\0\0\0", 6)), 0);
+    EXPECT_EQ(status("DeviceInfo", std::string("{}\n\0\0x", 6)), 3);
 }
 
 TEST(ValidatorFindings, AnEscapedNulEndsItsString) {
@@ -470,16 +547,134 @@ TEST(ValidatorFindings, JsonReportHoldsVerdictShapeAndEveryFinding) {
 
 TEST(ValidatorFindings, ShapesTheLibraryDoesNotRead) {
     EXPECT_EQ(report("DeviceInfo", "5"),
-              "f.json: error: expected an object (one DeviceInfo record) or an array of records, found the integer "
-              "5\n");
-    EXPECT_EQ(report("DeviceInfo", "[5]"),
-              "f.json: error: [0]: expected an object, found the integer 5; DeviceInfo has no array families, so "
-              "each element is read as one record\n");
+              "f.json: error: expected an object (one DeviceInfo record; the library reads no arrays of them), "
+              "found the integer 5\n");
+    EXPECT_EQ(report("DeviceInfo", "[{\"ProductModel\":\"A\"}]"),
+              "f.json: error: expected an object (one DeviceInfo record; the library reads no arrays of them), "
+              "found an array\n");
+    EXPECT_EQ(report("CrontabParameter", "{\"Index\":1,\"Enable\":1}"),
+              "f.json: error: expected an array of CrontabParameter records (the library reads CrontabParameter as "
+              "a record array only), found an object\n");
+    EXPECT_EQ(report("UserList", "[5]"),
+              "f.json: error: [0]: expected an object, found the integer 5; UserList has no array reader, so its "
+              "reader reads each element as one record\n");
     EXPECT_EQ(report("CrontabParameter", "[5]"),
               "f.json: warning: [0]: expected an object, found the integer 5; the library reads it as a record with "
               "no members\n");
     EXPECT_EQ(report("CrontabParameter", "[]"), "f.json: note: the array is empty: it holds no records\n");
     EXPECT_EQ(status("CrontabParameter", "[]"), 0);
+    // A type of both shapes takes either.
+    EXPECT_EQ(status("CreateUserParameter", "{}"), 0);
+    EXPECT_EQ(status("CreateUserParameter", "[{}]"), 0);
+}
+
+// ---- The tool's loader against the file families ------------------------------
+
+// The files of dir whose names begin with prefix and end with suffix, sorted.
+std::vector<std::string> files_in(const std::string &dir, const std::string &prefix, const std::string &suffix) {
+    std::vector<std::string> out;
+    DIR *d = opendir(dir.c_str());
+    if (d == nullptr) return out;
+    for (const dirent *e = readdir(d); e != nullptr; e = readdir(d)) {
+        std::string name = e->d_name;
+        if (name.size() >= prefix.size() + suffix.size() && name.compare(0, prefix.size(), prefix) == 0 &&
+            name.compare(name.size() - suffix.size(), suffix.size(), suffix) == 0)
+            out.push_back(dir + "/" + name);
+    }
+    closedir(d);
+    std::sort(out.begin(), out.end());
+    return out;
+}
+
+// The verdict of the type's file family (f2s or f2s_array) on path; 1 when
+// the type has no file family of that shape.
+int file_family_status(const s2j::TypeInfo &t, bool array, const std::string &path) {
+    StderrCapture quiet;
+    if (array && t.fam.f2s_array != nullptr) {
+        uint32_t n = 0;
+        int rc = t.fam.f2s_array(path.c_str(), nullptr, &n);
+        std::vector<char> arr(t.desc->size * (n + 1), 0);
+        return rc != 0 ? rc : t.fam.f2s_array(path.c_str(), arr.data(), &n);
+    }
+    if (!array && t.fam.f2s != nullptr) {
+        std::vector<char> rec(t.desc->size, 0);
+        return t.fam.f2s(path.c_str(), rec.data());
+    }
+    return 1;
+}
+
+TEST(ToolLoader, GivesTheFileFamilysVerdictOnEveryExampleAndCorpusFile) {
+    size_t compared = 0;
+    for (const std::string &dir : {std::string(APP_S2J_SOURCE_DIR) + "/examples",
+                                   std::string(APP_S2J_SOURCE_DIR) + "/tests/validate-corpus"}) {
+        for (const s2j::TypeInfo *type : all_types()) {
+            const s2j::TypeInfo &t = *type;
+            for (const std::string &path : files_in(dir, std::string(t.name) + ".", ".json")) {
+                if (path.find(".update.") != std::string::npos) continue;
+                const std::string text = read_file(path);
+                app_s2j_tool::Loaded l;
+                int rc;
+                {
+                    StderrCapture quiet;
+                    rc = app_s2j_tool::load(t, text, &l);
+                }
+                int file_rc = file_family_status(t, l.is_array, path);
+                if (file_rc == 1) continue;
+                EXPECT_EQ(rc, file_rc) << path;
+                ++compared;
+            }
+        }
+    }
+    EXPECT_GE(compared, 30u);
+}
+
+TEST(ToolLoader, ReadsTheShapeTheTypesFamiliesRead) {
+    const s2j::TypeInfo &cron = *s2j::find_type("CrontabParameter");
+    const s2j::TypeInfo &info = *s2j::find_type("DeviceInfo");
+    app_s2j_tool::Loaded l;
+    StderrCapture quiet;
+    // Any byte up to 0x20 is a blank to the parser: a form feed included.
+    EXPECT_EQ(app_s2j_tool::load(cron, "\f[{\"Index\":1}]", &l), 0);
+    EXPECT_TRUE(l.is_array);
+    EXPECT_EQ(l.count, 1u);
+    EXPECT_EQ(app_s2j_tool::load(cron, "{\"Index\":1,\"Enable\":1}", &l), -2);
+    EXPECT_EQ(app_s2j_tool::load(info, "[{\"ProductModel\":\"A\"}]", &l), -2);
+    EXPECT_FALSE(l.is_array);
+}
+
+TEST(ToolLoader, WritesAnArrayOfManyChunksAsTheLibraryWritesItWhole) {
+    const s2j::TypeInfo &t = *s2j::find_type("CrontabParameter");
+    const uint32_t n = 3 * app_s2j_tool::kChunkRecords + 5;
+    std::string doc = "[";
+    for (uint32_t i = 0; i < n; ++i) doc += (i ? "," : "") + std::string("{\"Index\":") + std::to_string(i) + "}";
+    doc += "]";
+    std::vector<char> arr(t.desc->size * n, 0);
+    uint32_t count = n;
+    ASSERT_EQ(t.fam.j2s_array(doc.c_str(), arr.data(), &count), 0);
+    ASSERT_EQ(count, n);
+    for (int formatted : {0, 1}) {
+        char *whole = t.fam.s2j_array(arr.data(), n, formatted);
+        ASSERT_NE(whole, nullptr);
+        std::string parts;
+        size_t calls = 0;
+        EXPECT_EQ(app_s2j_tool::write_document(t, doc, formatted == 0,
+                                               [&](const std::string &p) {
+                                                   parts += p;
+                                                   ++calls;
+                                               }),
+                  0);
+        EXPECT_EQ(parts, whole);
+        EXPECT_GT(calls, 3u);
+        std::free(whole);
+    }
+}
+
+TEST(ToolLoader, CutsLongDiagnosticLinesAndEndsEveryLine) {
+    EXPECT_EQ(app_s2j_tool::cut_diagnostic("abc", 10), "abc\n");
+    EXPECT_EQ(app_s2j_tool::cut_diagnostic("0123456789abc\nx", 10), "0123456789... (3 more bytes)\nx\n");
+    EXPECT_EQ(app_s2j_tool::cut_diagnostic("\033[1;31m0123456789", 8), "\033[1;31m0... (9 more bytes)\033[0m\n");
+    // A cut never splits a multi-byte character.
+    EXPECT_EQ(app_s2j_tool::cut_diagnostic("abcd\xc3\xa9z", 5), "abcd... (3 more bytes)\n");
 }
 
 }  // namespace

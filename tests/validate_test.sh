@@ -46,12 +46,12 @@ cd - > /dev/null
 # Usage.
 out=$("$tool" validate --help); rc=$?
 expect_eq "$rc" "0" "validate --help"
-expect_contains "$out" "usage: app_s2j validate TYPE FILE [--update] [--quiet] [--json]" "validate --help synopsis"
+expect_contains "$out" "usage: app_s2j validate TYPE FILE... [--update] [--quiet] [--json]" "validate --help synopsis"
 expect_contains "$out" "Exit status: 0 the library reads the file exactly as written" "validate --help exit statuses"
 out=$("$tool" validate 2>&1); rc=$?
 expect_eq "$rc" "2" "validate without arguments"
 expect_eq "$out" "app_s2j: 'validate' takes TYPE and FILE
-usage: app_s2j validate TYPE FILE [--update] [--quiet] [--json]
+usage: app_s2j validate TYPE FILE... [--update] [--quiet] [--json]
 (app_s2j validate --help tells more)" "validate without arguments message"
 out=$("$tool" validate NoSuchType "$corpus/DeviceInfo.good.json" 2>&1); rc=$?
 expect_eq "$rc" "2" "validate unknown type"
@@ -85,6 +85,49 @@ expect_eq "$out" "{
 	\"verdict\":	\"valid\",
 	\"findings\":	[]
 }" "--json --quiet: the verdict without notes"
+# A file that cannot be read is still one JSON object, its error the reason.
+out=$("$tool" validate DeviceInfo "$tmp" --json 2> "$tmp/err"); rc=$?
+expect_eq "$rc" "1" "--json of a directory"
+expect_eq "$out" "{
+	\"file\":	\"$tmp\",
+	\"type\":	\"DeviceInfo\",
+	\"shape\":	\"record\",
+	\"records\":	0,
+	\"verdict\":	\"rejected\",
+	\"findings\":	[{
+			\"level\":	\"error\",
+			\"place\":	\"\",
+			\"text\":	\"cannot read '$tmp': Is a directory\"
+		}]
+}" "--json of a directory: one object"
+expect_eq "$(cat "$tmp/err")" "app_s2j: cannot read '$tmp': Is a directory" "--json of a directory: stderr"
+out=$("$tool" validate DeviceInfo "$tmp/missing.json" --json 2> /dev/null | grep -c '"verdict":	"rejected"')
+expect_eq "$out" "1" "--json of a missing file: one object"
+# Several files: each reported, one summary, the worst exit status.
+cd "$corpus" || exit 1
+out=$("$tool" validate DeviceInfo DeviceInfo.good.json DeviceInfo.string-too-long.json); rc=$?
+expect_eq "$rc" "3" "valid and altered files: exit 3"
+expect_eq "$(printf '%s\n' "$out" | tail -1)" "2 files: 1 valid, 1 accepted but not as written, 0 rejected" \
+  "the summary of two files"
+out=$("$tool" validate DeviceInfo DeviceInfo.good.json DeviceInfo.top-level-string.json \
+      DeviceInfo.string-too-long.json); rc=$?
+expect_eq "$rc" "1" "a rejected file among others: exit 1"
+expect_eq "$(printf '%s\n' "$out" | tail -1)" "3 files: 1 valid, 1 accepted but not as written, 1 rejected" \
+  "the summary of three files"
+expect_eq "$(printf '%s\n' "$out" | grep -c ': valid DeviceInfo$')" "1" "each file has its verdict"
+out=$("$tool" validate DeviceInfo DeviceInfo.good.json "$tmp/missing.json" 2> /dev/null); rc=$?
+expect_eq "$rc" "1" "an unreadable file among others: exit 1"
+expect_eq "$(printf '%s\n' "$out" | tail -1)" "2 files: 1 valid, 0 accepted but not as written, 1 rejected" \
+  "an unreadable file counts as rejected"
+out=$("$tool" validate DeviceInfo DeviceInfo.good.json DeviceInfo.good.json); rc=$?
+expect_eq "$rc" "0" "valid files: exit 0"
+out=$("$tool" validate DeviceInfo DeviceInfo.good.json DeviceInfo.string-too-long.json --json); rc=$?
+expect_eq "$rc" "3" "several files as JSON: the worst exit status"
+expect_eq "$(printf '%s\n' "$out" | grep -c '^{')" "2" "several files as JSON: one object each"
+out=$("$tool" validate DeviceInfo - - < DeviceInfo.good.json 2>&1); rc=$?
+expect_eq "$rc" "2" "standard input twice"
+expect_contains "$out" "standard input (-) can be read only once" "standard input twice: message"
+cd - > /dev/null
 # Findings go to standard output, nothing to standard error.
 "$tool" validate VideoEncodeParameter "$corpus/VideoEncodeParameter.width-as-text.json" > /dev/null 2> "$tmp/err"
 expect_eq "$(cat "$tmp/err")" "" "validate writes nothing to stderr"

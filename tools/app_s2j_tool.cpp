@@ -1,13 +1,15 @@
 // app_s2j - command-line front end of libapp_s2j: lists the record types,
 // checks and validates JSON files against a type, prints them back as the
-// library writes them, and describes the records (schemas, templates, the
+// library writes them, updates them and compares them, and describes the records (schemas, templates, the
 // reference).  Loading always goes through the library's own families.
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <new>
 #include <string>
 #include <vector>
 
+#include "app_s2j.h"
 #include "tool.h"
 
 namespace app_s2j_tool {
@@ -29,20 +31,9 @@ int run_types(const std::vector<std::string> &args) {
 
 // ---- check, print ------------------------------------------------------------
 
-const char *status_text(int rc) {
-    switch (rc) {
-        case -1: return "a member has the wrong JSON type";
-        case -2: return "bad argument, wrong JSON type, or text that does not parse";
-        case -7: return "file not written";
-        case -15: return "file not read";
-        default: return "failure";
-    }
-}
-
-int load_or_report(const s2j::TypeInfo &t, const std::string &path, Loaded *out) {
-    std::string text;
-    if (!read_whole(path, &text)) return kExitRejected;
-    int rc = load(t, path, text, out);
+int load_or_report(const s2j::TypeInfo &t, const std::string &path, const std::string &text, Loaded *out,
+                   const RecordSink &sink = nullptr) {
+    int rc = load(t, text, out, sink);
     if (rc != 0) {
         std::fprintf(stderr, "app_s2j: %s: not a valid %s%s: status %d (%s)\n", path.c_str(), t.name,
                      out->is_array ? " array" : "", rc, status_text(rc));
@@ -77,26 +68,15 @@ int run_check(const std::vector<std::string> &args) {
     if (!type_and_file(kCheckCommand, args, nullptr, nullptr, &rest, &status)) return status;
     const s2j::TypeInfo *t = find_type_or_report(rest[0]);
     if (t == nullptr) return kExitUsage;
+    std::string text;
+    if (!read_input(rest[1], &text)) return kExitRejected;
     Loaded l;
-    if (int rc = load_or_report(*t, rest[1], &l)) return rc;
+    if (int rc = load_or_report(*t, rest[1], text, &l)) return rc;
     if (l.is_array)
         std::printf("%s: valid %s array, %u record%s\n", rest[1].c_str(), t->name, l.count, l.count == 1 ? "" : "s");
     else
         std::printf("%s: valid %s\n", rest[1].c_str(), t->name);
     return kExitOk;
-}
-
-char *emit_text(const s2j::TypeInfo &t, const Loaded &l, int formatted) {
-    const s2j::Families &f = t.fam;
-    if (!l.is_array && f.s2j) return f.s2j(l.bytes.data(), formatted);
-    if (l.is_array && f.s2j_array) return f.s2j_array(l.bytes.data(), l.count, formatted);
-    // No text family: the emitter's tree, printed as the families print.
-    cJSON *tree = l.is_array ? cJSON_CreateArray() : t.hooks->emit(l.bytes.data());
-    for (uint32_t i = 0; l.is_array && tree != nullptr && i < l.count; ++i)
-        cJSON_AddItemToArray(tree, t.hooks->emit(l.bytes.data() + i * t.desc->size));
-    char *text = tree == nullptr ? nullptr : formatted ? cJSON_Print(tree) : cJSON_PrintUnformatted(tree);
-    cJSON_Delete(tree);
-    return text;
 }
 
 int run_print(const std::vector<std::string> &args) {
@@ -107,19 +87,22 @@ int run_print(const std::vector<std::string> &args) {
     const s2j::TypeInfo *t = find_type_or_report(rest[0]);
     if (t == nullptr) return kExitUsage;
     const std::string &path = rest[1];
+    std::string text;
+    if (!read_input(path, &text)) return kExitRejected;
+    // A first pass decides; nothing is printed of a document the library
+    // rejects.
     Loaded l;
-    if (int rc = load_or_report(*t, path, &l)) return rc;
+    if (int rc = load_or_report(*t, path, text, &l)) return rc;
     if (l.is_array && l.count == 0) {
         std::fprintf(stderr, "app_s2j: %s: the array is empty; the library writes no empty arrays\n", path.c_str());
         return kExitRejected;
     }
-    char *text = emit_text(*t, l, compact ? 0 : 1);
-    if (text == nullptr) {
+    // The second pass prints a few records at a time.
+    if (write_document(*t, text, compact, [](const std::string &part) { std::fputs(part.c_str(), stdout); }) != 0) {
         std::fprintf(stderr, "app_s2j: %s could not be written as text\n", t->name);
         return kExitRejected;
     }
-    std::printf("%s\n", text);
-    std::free(text);
+    std::fputs("\n", stdout);
     return kExitOk;
 }
 
@@ -134,9 +117,13 @@ const Command kTypesCommand = {
 
 const Command kCheckCommand = {
     "check", "check TYPE FILE", "load FILE as TYPE through the library and report the result",
-    "Loads FILE as TYPE with the library's own families: a JSON array as a\n"
-    "record array, an object as one record.  Prints what was loaded, or the\n"
-    "library's diagnostic and status.\n"
+    "Reads FILE once (- for standard input; a pipe or a FIFO will do) and\n"
+    "loads its text as TYPE with the library's own families, in the shape\n"
+    "they read: a record array for a type kept in record arrays, one record\n"
+    "(an object) for a type of single records, either for a type that has\n"
+    "both.  For a file, the verdict is the one of the type's file family\n"
+    "(f2s or f2s_array).  Prints what was loaded, or the library's diagnostic\n"
+    "(each line cut to 200 bytes) and status.\n"
     "\n"
     "Exit status: 0 loaded, 1 the library rejects the file, 2 wrong usage.\n",
     run_check};
@@ -162,6 +149,8 @@ const Command *const kCommands[] = {
     &app_s2j_tool::kCheckCommand,
     &app_s2j_tool::kPrintCommand,
     &app_s2j_tool::kValidateCommand,
+    &app_s2j_tool::kUpdateCommand,
+    &app_s2j_tool::kDiffCommand,
     &app_s2j_tool::kSchemaCommand,
     &app_s2j_tool::kTemplateCommand,
     &app_s2j_tool::kReferenceCommand,
@@ -173,11 +162,12 @@ void print_usage(FILE *out) {
         std::fprintf(out, "%-6s app_s2j %s\n", lead, c->synopsis);
         lead = "";
     }
-    std::fprintf(out, "%-6s app_s2j COMMAND --help\n\n", lead);
+    std::fprintf(out, "%-6s app_s2j COMMAND --help\n", lead);
+    std::fprintf(out, "%-6s app_s2j --version\n\n", "");
     for (const Command *c : kCommands) std::fprintf(out, "  %-10s %s\n", c->name, c->summary);
     std::fputs("\n"
-               "Exit status: 0 success, 1 the file is rejected, 2 wrong usage,\n"
-               "3 (validate) the file is accepted but not exactly as written.\n",
+               "Exit status: 0 success, 1 the file is rejected (diff: the files differ),\n"
+               "2 wrong usage, 3 (validate) the file is accepted but not exactly as written.\n",
                out);
 }
 
@@ -189,9 +179,14 @@ int usage(const char *why) {
 
 }  // namespace
 
-int main(int argc, char **argv) {
+static int run(int argc, char **argv) {
     if (argc < 2) return usage("no command given");
     std::string name = argv[1];
+    if (name == "--version" || name == "-V") {
+        std::printf("app_s2j %s (libapp_s2j %d.%d.%d)\n", APP_S2J_VERSION_STRING, APP_S2J_VERSION_MAJOR,
+                    APP_S2J_VERSION_MINOR, APP_S2J_VERSION_PATCH);
+        return app_s2j_tool::kExitOk;
+    }
     if (name == "-h" || name == "--help" || name == "help") {
         print_usage(stdout);
         return app_s2j_tool::kExitOk;
@@ -208,4 +203,14 @@ int main(int argc, char **argv) {
         return c->run(args);
     }
     return usage(("unknown command '" + name + "'").c_str());
+}
+
+int main(int argc, char **argv) {
+    try {
+        return run(argc, argv);
+    } catch (const std::bad_alloc &) {
+        std::fflush(stdout);
+        std::fputs("app_s2j: out of memory\n", stderr);
+        return app_s2j_tool::kExitRejected;
+    }
 }

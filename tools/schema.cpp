@@ -119,16 +119,28 @@ cJSON *schema_of(const s2j::TypeInfo &t, bool update) {
         return doc;
     }
     std::string fams = families_of(t, ", ");
+    const bool records = reads_records(t), arrays = reads_arrays(t);
+    const std::string shape = records && arrays ? "One " + name + " record (a JSON object) or an array of them (a "
+                                                                   "record array)."
+                              : arrays          ? "An array of " + name + " records (a record array)."
+                                                : "One " + name + " record (a JSON object).";
     cJSON *doc = document_head(
         "urn:app-s2j:" + name, name,
-        "One " + name + " record (a JSON object) or an array of them (a record array). Members left out leave "
-        "the record's fields as they are. Families of the library for " + name + ": " +
-        (fams.empty() ? "none (emitter and reader only)" : fams) + ".");
+        shape + " Members left out leave the record's fields as they are. Families of the library for " + name +
+            ": " + (fams.empty() ? "none (emitter and reader only)" : fams) + ".");
     cJSON *defs = cJSON_AddObjectToObject(doc, "$defs");
     cJSON_AddItemToObject(defs, "record", record_schema(t, false));
-    cJSON *any = cJSON_AddArrayToObject(doc, "anyOf");
-    cJSON_AddItemToArray(any, ref_record());
-    cJSON_AddItemToArray(any, array_of_records());
+    if (records && arrays) {
+        cJSON *any = cJSON_AddArrayToObject(doc, "anyOf");
+        cJSON_AddItemToArray(any, ref_record());
+        cJSON_AddItemToArray(any, array_of_records());
+    } else if (arrays) {
+        cJSON *all = cJSON_AddArrayToObject(doc, "allOf");
+        cJSON_AddItemToArray(all, array_of_records());
+    } else {
+        cJSON *all = cJSON_AddArrayToObject(doc, "allOf");
+        cJSON_AddItemToArray(all, ref_record());
+    }
     return doc;
 }
 
@@ -198,8 +210,9 @@ const Command kSchemaCommand = {
     "print the JSON Schema (draft 2020-12) of a record type, or of all of them",
     "Prints a JSON Schema (draft 2020-12) made from TYPE's field table:\n"
     "\n"
-    "  schema TYPE           one TYPE record (an object) or a record array,\n"
-    "                        \"$id\" urn:app-s2j:TYPE; the record is\n"
+    "  schema TYPE           the shape TYPE's families read: a record array,\n"
+    "                        one record (an object), or either for a type\n"
+    "                        with both; \"$id\" urn:app-s2j:TYPE; the record is\n"
     "                        \"$defs\"/\"record\": one property per field, in the\n"
     "                        order the library writes them, and no others\n"
     "  schema TYPE --update  a keyed update request (types with\n"

@@ -64,8 +64,14 @@ int run_template(const std::vector<std::string> &args) {
     if (rest.size() != 1) return usage_error(kTemplateCommand, "'template' takes one TYPE");
     const s2j::TypeInfo *t = find_type_or_report(rest[0]);
     if (t == nullptr) return kExitUsage;
+    if (array && !reads_arrays(*t))
+        return usage_error(kTemplateCommand,
+                           std::string(t->name) + " is read as one record, never as an array; --array does not apply");
+    if (record && !reads_records(*t))
+        return usage_error(kTemplateCommand, std::string(t->name) +
+                                                 " is read as a record array only; --record does not apply");
     std::string text;
-    if (!template_json(*t, array || (!record && holds_arrays(*t)), &text)) {
+    if (!template_json(*t, array || (!record && reads_arrays(*t)), &text)) {
         std::fprintf(stderr, "app_s2j: %s could not be written as text\n", t->name);
         return kExitRejected;
     }
@@ -83,7 +89,9 @@ const Command kTemplateCommand = {
     "every key is there, in the library's order, with 0, \"\" or a list of\n"
     "zeros.  The document is an array holding one record for the types the\n"
     "library reads and writes as record arrays, one object otherwise;\n"
-    "--record forces an object, --array an array holding one record.\n"
+    "for a type the library reads in both shapes, --record gives an object\n"
+    "and --array an array holding one record.  A shape the type's families\n"
+    "do not read is wrong usage.\n"
     "\n"
     "Exit status: 0 printed, 1 the library could not write it, 2 wrong usage.\n",
     run_template};

@@ -340,6 +340,9 @@ private:
     Validation *out_;
 };
 
+// The deepest nesting cJSON parses (its CJSON_NESTING_LIMIT).
+constexpr size_t kNestingLimit = CJSON_NESTING_LIMIT;
+
 bool has_array_reader(const s2j::Families &f) { return f.c2s_array || f.j2s_array || f.f2s_array; }
 
 // Line and column (from 1) of byte offset at of text.
@@ -356,6 +359,240 @@ std::string position(const char *text, size_t at) {
     return printf_string("line %zu, column %zu", line, col);
 }
 
+// ---- Standard JSON ------------------------------------------------------------
+
+// Where the text departs from standard JSON (RFC 8259), read up to the end
+// of its first value: the first departure, how many there are, whether one
+// of them makes it no JSON to any parser (hard), and how deep it nests.
+struct JsonScan {
+    size_t departures = 0;
+    size_t at = 0;  // of the first departure
+    std::string why;
+    bool hard = false;
+    size_t hard_at = 0;
+    std::string hard_why;
+    size_t depth = 0;
+};
+
+class JsonScanner {
+public:
+    JsonScanner(const char *text, size_t len) : s_(reinterpret_cast<const unsigned char *>(text)), n_(len) {}
+
+    JsonScan run() {
+        if (n_ >= 3 && std::memcmp(s_, "\xEF\xBB\xBF", 3) == 0) {
+            depart(0, "a byte order mark (JSON texts carry none)");
+            i_ = 3;
+        }
+        std::vector<unsigned char> open;  // '{' or '[' per level
+        for (;;) {
+            // A value.
+            blanks();
+            if (i_ >= n_) return stop(i_, "the text ends where a value should begin");
+            const unsigned char c = s_[i_];
+            if (c == '{' || c == '[') {
+                open.push_back(c);
+                r_.depth = std::max(r_.depth, open.size());
+                ++i_;
+                blanks();
+                if (i_ < n_ && s_[i_] == (c == '{' ? '}' : ']')) {
+                    ++i_;
+                    open.pop_back();
+                } else {
+                    if (c == '{' && !member_name()) return r_;
+                    continue;
+                }
+            } else if (!scalar()) {
+                return r_;
+            }
+            // After a value: a comma, the end of its container, or the end.
+            for (;;) {
+                if (open.empty()) return r_;
+                blanks();
+                const unsigned char close = open.back() == '{' ? '}' : ']';
+                if (i_ < n_ && s_[i_] == close) {
+                    ++i_;
+                    open.pop_back();
+                    continue;
+                }
+                if (i_ < n_ && s_[i_] == ',') {
+                    const size_t comma = i_++;
+                    blanks();
+                    if (i_ < n_ && s_[i_] == close)
+                        return stop(comma, printf_string("a comma before '%c' (JSON allows no trailing comma)", close));
+                    if (open.back() == '{' && !member_name()) return r_;
+                    break;
+                }
+                return stop(i_, printf_string("expected ',' or '%c'", close));
+            }
+        }
+    }
+
+private:
+    void depart(size_t at, const std::string &why) {
+        if (r_.departures++ == 0) {
+            r_.at = at;
+            r_.why = why;
+        }
+    }
+
+    JsonScan stop(size_t at, const std::string &why) {
+        depart(at, why);
+        r_.hard = true;
+        r_.hard_at = at;
+        r_.hard_why = why;
+        return r_;
+    }
+
+    void blanks() {
+        for (; i_ < n_ && s_[i_] <= 0x20; ++i_)
+            if (s_[i_] != ' ' && s_[i_] != '\t' && s_[i_] != '\n' && s_[i_] != '\r')
+                depart(i_, printf_string("the control byte 0x%02x as a blank (JSON allows space, tab, CR and LF)",
+                                         s_[i_]));
+    }
+
+    // A member's name and its colon.
+    bool member_name() {
+        blanks();
+        if (i_ >= n_ || s_[i_] != '"') {
+            stop(i_, "expected a member name (a string)");
+            return false;
+        }
+        if (!string()) return false;
+        blanks();
+        if (i_ >= n_ || s_[i_] != ':') {
+            stop(i_, "expected ':' after the member name");
+            return false;
+        }
+        ++i_;
+        return true;
+    }
+
+    bool scalar() {
+        const unsigned char c = s_[i_];
+        if (c == '"') return string();
+        if (c == '-' || (c >= '0' && c <= '9')) return number();
+        for (const char *word : {"true", "false", "null"}) {
+            const size_t len = std::strlen(word);
+            if (n_ - i_ >= len && std::memcmp(s_ + i_, word, len) == 0) {
+                i_ += len;
+                return true;
+            }
+        }
+        stop(i_, "not a JSON value");
+        return false;
+    }
+
+    bool string() {
+        const size_t start = i_++;
+        while (i_ < n_) {
+            const unsigned char c = s_[i_];
+            if (c == '"') {
+                ++i_;
+                return true;
+            }
+            if (c == '\\') {
+                if (i_ + 1 < n_ && std::strchr("\"\\/bfnrt", s_[i_ + 1]) != nullptr && s_[i_ + 1] != '\0') {
+                    i_ += 2;
+                    continue;
+                }
+                if (i_ + 1 < n_ && s_[i_ + 1] == 'u') {
+                    size_t k = 0;
+                    while (k < 4 && i_ + 2 + k < n_ && std::isxdigit(s_[i_ + 2 + k])) ++k;
+                    if (k == 4) {
+                        i_ += 6;
+                        continue;
+                    }
+                }
+                stop(i_, "an escape that JSON does not have");
+                return false;
+            }
+            if (c < 0x20) {
+                depart(i_, printf_string("the control byte 0x%02x unescaped inside a string (JSON wants \\u%04x)", c,
+                                         c));
+                ++i_;
+            } else if (c < 0x80) {
+                ++i_;
+            } else {
+                const size_t len = utf8_length(i_);
+                if (len == 0) {
+                    depart(i_, printf_string("the byte 0x%02x, which is not UTF-8", c));
+                    ++i_;
+                } else {
+                    i_ += len;
+                }
+            }
+        }
+        stop(start, "a string that does not end");
+        return false;
+    }
+
+    // Bytes of the well-formed UTF-8 sequence at i, or 0.
+    size_t utf8_length(size_t i) const {
+        const unsigned char c = s_[i];
+        size_t len;
+        uint32_t cp;
+        if (c >= 0xC2 && c <= 0xDF) {
+            len = 2;
+            cp = c & 0x1F;
+        } else if (c >= 0xE0 && c <= 0xEF) {
+            len = 3;
+            cp = c & 0x0F;
+        } else if (c >= 0xF0 && c <= 0xF4) {
+            len = 4;
+            cp = c & 0x07;
+        } else {
+            return 0;
+        }
+        if (n_ - i < len) return 0;
+        for (size_t k = 1; k < len; ++k) {
+            if ((s_[i + k] & 0xC0) != 0x80) return 0;
+            cp = (cp << 6) | (s_[i + k] & 0x3F);
+        }
+        if ((len == 3 && cp < 0x800) || (len == 4 && (cp < 0x10000 || cp > 0x10FFFF))) return 0;
+        if (cp >= 0xD800 && cp <= 0xDFFF) return 0;
+        return len;
+    }
+
+    bool digits() {
+        const size_t from = i_;
+        while (i_ < n_ && s_[i_] >= '0' && s_[i_] <= '9') ++i_;
+        return i_ > from;
+    }
+
+    bool number() {
+        const size_t start = i_;
+        if (s_[i_] == '-') ++i_;
+        if (i_ < n_ && s_[i_] == '0' && i_ + 1 < n_ && s_[i_ + 1] >= '0' && s_[i_ + 1] <= '9')
+            depart(start, "a number with a leading zero (JSON allows none)");
+        if (!digits()) {
+            if (i_ < n_ && s_[i_] == '.') {
+                depart(start, "a number without digits before its '.'");
+            } else {
+                stop(start, "a '-' without digits");
+                return false;
+            }
+        }
+        if (i_ < n_ && s_[i_] == '.') {
+            ++i_;
+            if (!digits()) depart(start, "a number without digits after its '.'");
+        }
+        if (i_ < n_ && (s_[i_] == 'e' || s_[i_] == 'E')) {
+            ++i_;
+            if (i_ < n_ && (s_[i_] == '+' || s_[i_] == '-')) ++i_;
+            if (!digits()) {
+                stop(start, "a number without digits in its exponent");
+                return false;
+            }
+        }
+        return true;
+    }
+
+    const unsigned char *s_;
+    size_t n_;
+    size_t i_ = 0;
+    JsonScan r_;
+};
+
 }  // namespace
 
 Validation validate_text(const s2j::TypeInfo &t, const std::string &whole, bool update) {
@@ -363,10 +600,17 @@ Validation validate_text(const s2j::TypeInfo &t, const std::string &whole, bool 
     Checker check(t, &v);
     const char *text = whole.c_str();
     const size_t len = std::strlen(text);
-    if (len < whole.size())
-        check.add(Finding::kWarning, "",
-                  printf_string("a NUL byte at offset %zu (%s) ends the text; the library reads no further", len,
-                                position(text, len).c_str()));
+    if (len < whole.size()) {
+        // NUL bytes to the end (a preallocated file, a flash image) lose
+        // nothing; anything else after the first NUL is lost.
+        const bool padding = whole.find_first_not_of('\0', len) == std::string::npos;
+        check.add(padding ? Finding::kNote : Finding::kWarning, "",
+                  padding ? printf_string("NUL bytes from offset %zu (%s) to the end of the file; the library reads "
+                                          "the text before them",
+                                          len, position(text, len).c_str())
+                          : printf_string("a NUL byte at offset %zu (%s) ends the text; the library reads no further",
+                                          len, position(text, len).c_str()));
+    }
     // An escaped NUL in a string: cJSON keeps the string only up to it.
     // The first is named with its place, the others counted.
     size_t escaped_nuls = 0;
@@ -381,9 +625,25 @@ Validation validate_text(const s2j::TypeInfo &t, const std::string &whole, bool 
                   "a string holds \\u0000 at " + position(text, static_cast<size_t>(first_nul - text)) +
                       (escaped_nuls > 1 ? printf_string(" (and %zu more)", escaped_nuls - 1) : std::string()) +
                       "; the library keeps a string only up to it");
-    v.is_array = update || is_array_text(text, len);
+    v.is_array = update || shape_is_array(t, text);
     const char *end = nullptr;
     cJSON *tree = s2j::parse_marked(text, 0, false, &end);
+    const JsonScan scan = JsonScanner(text, len).run();
+    if (tree == nullptr && !scan.hard && scan.depth > kNestingLimit) {
+        check.add(Finding::kError, "",
+                  printf_string("the text is JSON, but nested %zu levels deep; the library reads no deeper than %zu "
+                                "levels",
+                                scan.depth, kNestingLimit));
+        return v;
+    }
+    if (tree == nullptr && scan.hard && scan.hard_at < len) {
+        const size_t at = scan.hard_at;
+        size_t line_end = std::min({len, at + 20, static_cast<size_t>(std::strcspn(text + at, "\r\n")) + at});
+        check.add(Finding::kError, "",
+                  "the text is not JSON: " + scan.hard_why + ", at " + position(text, at) + ", near " +
+                      quoted(std::string(text + at, line_end - at).c_str()));
+        return v;
+    }
     if (tree == nullptr) {
         const char *e = cJSON_GetErrorPtr();
         size_t at = e != nullptr && e >= text && e <= text + len ? static_cast<size_t>(e - text) : len;
@@ -394,6 +654,12 @@ Validation validate_text(const s2j::TypeInfo &t, const std::string &whole, bool 
                                   quoted(std::string(text + at, line_end - at).c_str()));
         return v;
     }
+    // Text the library reads that other JSON parsers may read otherwise.
+    if (scan.departures > 0)
+        check.add(Finding::kWarning, "",
+                  "not standard JSON: " + scan.why + ", at " + position(text, scan.at) +
+                      (scan.departures > 1 ? printf_string(" (and %zu more)", scan.departures - 1) : std::string()) +
+                      "; the library reads it, other JSON parsers may not");
     // Text after the document: the library's parser stops at the document's end.
     if (end != nullptr) {
         size_t at = static_cast<size_t>(end - text);
@@ -414,10 +680,18 @@ Validation validate_text(const s2j::TypeInfo &t, const std::string &whole, bool 
         v.records = 1;
         if (!cJSON_IsObject(tree))
             check.add(Finding::kError, "",
-                      "expected an object (one " + std::string(t.name) + " record) or an array of records, found " +
-                          describe(tree));
+                      "expected an object (one " + std::string(t.name) + " record" +
+                          (reads_arrays(t) ? ") or an array of records" : "; the library reads no arrays of them)") +
+                          ", found " + describe(tree));
         else
             check.record(tree, "");
+        cJSON_Delete(tree);
+        return v;
+    }
+    if (!cJSON_IsArray(tree)) {
+        check.add(Finding::kError, "",
+                  "expected an array of " + std::string(t.name) + " records (the library reads " + t.name +
+                      " as a record array only), found " + describe(tree));
         cJSON_Delete(tree);
         return v;
     }
@@ -458,7 +732,7 @@ Validation validate_text(const s2j::TypeInfo &t, const std::string &whole, bool 
         } else {
             check.add(Finding::kError, place,
                       "expected an object, found " + describe(e) + "; " + t.name +
-                          " has no array families, so each element is read as one record");
+                          " has no array reader, so its reader reads each element as one record");
         }
     }
     v.records = i;
@@ -511,32 +785,28 @@ std::string format_json(const std::string &file, const s2j::TypeInfo &t, const V
 
 namespace {
 
-int run_validate(const std::vector<std::string> &args) {
-    bool update = false, quiet = false, json = false;
-    std::vector<std::string> rest;
-    for (const std::string &a : args) {
-        if (a == "--update")
-            update = true;
-        else if (a == "--quiet" || a == "-q")
-            quiet = true;
-        else if (a == "--json")
-            json = true;
-        else if (a.size() > 1 && a[0] == '-')
-            return usage_error(kValidateCommand, "unknown option '" + a + "'");
-        else
-            rest.push_back(a);
+// The worse of two exit statuses: rejected, then altered, then valid.
+int worse(int a, int b) {
+    auto rank = [](int s) { return s == kExitRejected ? 2 : s == kExitAltered ? 1 : 0; };
+    return rank(b) > rank(a) ? b : a;
+}
+
+// Validates one file and prints its report; returns its exit status.
+int validate_file(const s2j::TypeInfo &t, const std::string &path, bool update, bool quiet, bool json) {
+    std::string text, why;
+    if (!read_input(path, &text, json ? &why : nullptr)) {
+        if (!json) return kExitRejected;
+        // Always one JSON object: the reason is its one error.
+        std::fprintf(stderr, "app_s2j: %s\n", why.c_str());
+        Validation unread;
+        unread.is_array = update || !reads_records(t);
+        unread.findings.push_back(Finding{Finding::kError, "", why});
+        std::fputs(format_json(path, t, unread, update, !quiet).c_str(), stdout);
+        return kExitRejected;
     }
-    if (rest.size() != 2) return usage_error(kValidateCommand, "'validate' takes TYPE and FILE");
-    const s2j::TypeInfo *t = find_type_or_report(rest[0]);
-    if (t == nullptr) return kExitUsage;
-    if (update && t->fam.c2s_array_update == nullptr)
-        return usage_error(kValidateCommand, std::string(t->name) + " has no keyed update; --update does not apply");
-    const std::string &path = rest[1];
-    std::string text;
-    if (!(path == "-" ? read_stream(stdin, "standard input", &text) : read_whole(path, &text))) return kExitRejected;
-    Validation v = validate_text(*t, text, update);
+    Validation v = validate_text(t, text, update);
     if (json) {
-        std::fputs(format_json(path, *t, v, update, !quiet).c_str(), stdout);
+        std::fputs(format_json(path, t, v, update, !quiet).c_str(), stdout);
         return v.exit_status();
     }
     std::fputs(format_findings(path, v, !quiet).c_str(), stdout);
@@ -545,7 +815,7 @@ int run_validate(const std::vector<std::string> &args) {
         errors += f.level == Finding::kError;
         warnings += f.level == Finding::kWarning;
     }
-    const std::string what = std::string(t->name) + (update ? " update" : v.is_array ? " array" : "");
+    const std::string what = std::string(t.name) + (update ? " update" : v.is_array ? " array" : "");
     const std::string records = v.is_array ? printf_string(", %zu record%s", v.records, v.records == 1 ? "" : "s") : "";
     switch (v.exit_status()) {
         case kExitRejected:
@@ -563,10 +833,47 @@ int run_validate(const std::vector<std::string> &args) {
     return v.exit_status();
 }
 
+int run_validate(const std::vector<std::string> &args) {
+    bool update = false, quiet = false, json = false;
+    std::vector<std::string> rest;
+    for (const std::string &a : args) {
+        if (a == "--update")
+            update = true;
+        else if (a == "--quiet" || a == "-q")
+            quiet = true;
+        else if (a == "--json")
+            json = true;
+        else if (a.size() > 1 && a[0] == '-')
+            return usage_error(kValidateCommand, "unknown option '" + a + "'");
+        else
+            rest.push_back(a);
+    }
+    if (rest.size() < 2) return usage_error(kValidateCommand, "'validate' takes TYPE and FILE");
+    const s2j::TypeInfo *t = find_type_or_report(rest[0]);
+    if (t == nullptr) return kExitUsage;
+    if (update && t->fam.c2s_array_update == nullptr)
+        return usage_error(kValidateCommand, std::string(t->name) + " has no keyed update; --update does not apply");
+    const std::vector<std::string> files(rest.begin() + 1, rest.end());
+    if (std::count(files.begin(), files.end(), "-") > 1)
+        return usage_error(kValidateCommand, "standard input (-) can be read only once");
+    int status = kExitOk;
+    size_t tally[4] = {0, 0, 0, 0};
+    for (const std::string &path : files) {
+        const int one = validate_file(*t, path, update, quiet, json);
+        ++tally[one];
+        status = worse(status, one);
+    }
+    // Several files: one summary after their reports.
+    if (files.size() > 1 && !json)
+        std::printf("%zu files: %zu valid, %zu accepted but not as written, %zu rejected\n", files.size(),
+                    tally[kExitOk], tally[kExitAltered], tally[kExitRejected]);
+    return status;
+}
+
 }  // namespace
 
 const Command kValidateCommand = {
-    "validate", "validate TYPE FILE [--update] [--quiet] [--json]",
+    "validate", "validate TYPE FILE... [--update] [--quiet] [--json]",
     "explain, member by member, how the library reads FILE as TYPE",
     "Reads FILE as the library reads it as TYPE (a JSON array as a record\n"
     "array, an object as one record) and names every problem with its place,\n"
@@ -593,11 +900,22 @@ const Command kValidateCommand = {
     "TEXT), followed by one line with the verdict; with --json as one JSON\n"
     "object instead: {\"file\", \"type\", \"shape\" (record, array or update),\n"
     "\"records\", \"verdict\" (valid, altered or rejected), \"findings\": [{\"level\",\n"
-    "\"place\", \"text\"}]}.  FILE - reads standard input.\n"
+    "\"place\", \"text\"}]}, also when FILE cannot be read (its one error says\n"
+    "why).  FILE - reads standard input.  Text that the library reads but that\n"
+    "is not standard JSON (a byte order mark, a control byte as a blank or\n"
+    "unescaped inside a string, bytes that are not UTF-8, a leading zero) is a\n"
+    "warning naming the place and the reason; NUL bytes that fill the file\n"
+    "after the document are a note.\n"
     "\n"
-    "Exit status: 0 the library reads the file exactly as written, 1 it\n"
-    "rejects the file (or the file cannot be read), 2 wrong usage, 3 it\n"
-    "accepts the file but not exactly as written (see the warnings).\n",
+    "Several files are each reported as one is, then summed up in one line\n"
+    "(\"N files: V valid, A accepted but not as written, R rejected\"); with\n"
+    "--json each file is one JSON object, one after the other.\n"
+    "\n"
+    "Exit status: 0 the library reads the file exactly as written and any\n"
+    "JSON parser reads the same values, 1 it rejects the file (or the file\n"
+    "cannot be read), 2 wrong usage, 3 it accepts the file but not exactly as\n"
+    "written (see the warnings); for several files the worst of theirs\n"
+    "(1, then 3, then 0).\n",
     run_validate};
 
 }  // namespace app_s2j_tool

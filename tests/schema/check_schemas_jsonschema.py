@@ -78,9 +78,12 @@ counts = {"agree": 0, "known": 0}
 for path in sorted(glob.glob(os.path.join(corpus, "*.json"))):
     t, case = os.path.basename(path).split(".", 1)
     update = case.startswith("update.")
-    text = open(path, encoding="utf-8", errors="replace").read()
+    # What a conforming parser reads: strict UTF-8, no byte order mark; NUL
+    # bytes that only pad the file after the document are not part of it.
+    raw = open(path, "rb").read().rstrip(b"\0")
+    text = raw.decode("utf-8", errors="replace")
     try:
-        doc = json.loads(text.lstrip("\ufeff"))
+        doc = json.loads(raw.decode("utf-8"))
         valid = Draft202012Validator(schemas[t + ".update" if update else t]).is_valid(doc)
     except ValueError:
         valid = False
