@@ -7,6 +7,7 @@
 
 #include "s2j_families.h"
 #include "s2j_messages.h"
+#include "s2j_write.h"
 
 namespace s2j {
 
@@ -89,6 +90,10 @@ char *fam_s2j(Site s, const TypeDesc *d, const void *rec, int formatted) {
         diag(s, d->name, S2J_MSG_STRUCT_PTR_EMPTY);
         return nullptr;
     }
+    // The text straight from the record; the tree below only when its
+    // buffer cannot be had (it then fails or succeeds allocation by
+    // allocation as a printed tree does).
+    if (char *text = write_text(d, rec, 1, false, formatted != 0)) return text;
     char *ints = int_texts(d, 1);
     char *cursor = ints;
     cJSON *tree = emit_record(d, rec, ints != nullptr ? &cursor : nullptr);
@@ -150,6 +155,7 @@ char *fam_s2j_array(Site s, const TypeDesc *d, const void *arr, uint32_t count, 
         diag(s, d->name, S2J_MSG_ARRAY_ARGS);
         return nullptr;
     }
+    if (char *text = write_text(d, arr, count, true, formatted != 0)) return text;  // else the tree, as for one record
     cJSON *list = cJSON_CreateArray();
     if (list == nullptr) {
         diag(s, d->name, S2J_MSG_CREATE_ARRAY_FAILED);

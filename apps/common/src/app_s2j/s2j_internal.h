@@ -57,6 +57,11 @@ struct TypeDesc {
     uint32_t key_count;
     uint32_t int_text_bytes;  // room for the decimal text of every integer of a record
     bool key_twins;           // two keys equal but for letter case
+    // The longest text of one record with its strings empty, compact and
+    // indented as the only object of a text: what the text writer reserves
+    // before it adds the strings' escaped lengths (s2j_write.cpp).
+    uint32_t text_bytes;
+    uint32_t text_bytes_formatted;
 };
 
 // The most fields a record may have (the reader keeps one slot per field).
@@ -92,6 +97,33 @@ constexpr bool covers(const Field *f, size_t n, size_t struct_size) {
         if (a > max_align) max_align = a;
     }
     return (end + max_align - 1) / max_align * max_align == struct_size;
+}
+
+// Bytes of one record's text with every integer at its longest and every
+// string empty, as cJSON prints the record's object at depth 1: braces,
+// "key": and a comma per member; indented, a newline after the brace, per
+// member a tab before it, a tab after the colon and a newline, and ", "
+// between list entries.
+constexpr uint32_t text_bytes(const Field *f, size_t n, bool formatted) {
+    const uint32_t members = static_cast<uint32_t>(n);
+    uint32_t bytes = 2 + (members > 0 ? members - 1 : 0) + (formatted ? 1 + 3 * members : 0);
+    for (size_t i = 0; i < n; ++i) {
+        uint32_t key = 0;
+        while (f[i].key[key] != '\0') ++key;
+        bytes += key + 3;  // "key":
+        switch (f[i].kind) {
+            case Kind::I32: bytes += 11; break;
+            case Kind::U32: bytes += 10; break;
+            case Kind::U16: bytes += 5; break;
+            case Kind::Str: bytes += 2; break;
+            case Kind::U32List: {
+                uint32_t m = f[i].size / 4;
+                bytes += 2 + 10 * m + (m > 0 ? (m - 1) * (formatted ? 2 : 1) : 0);
+                break;
+            }
+        }
+    }
+    return bytes;
 }
 
 constexpr uint32_t int_text_bytes(const Field *f, size_t n) {
@@ -248,7 +280,9 @@ bool keys_match(const TypeDesc *d, const void *rec, const void *keyword);
     constexpr TypeDesc desc_##T = {                                                            \
         #T, sizeof(T), T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0]), keys, nkeys,    \
         int_text_bytes(T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0])),                \
-        has_key_twins(T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0]))};                \
+        has_key_twins(T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0])),                 \
+        text_bytes(T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0]), false),             \
+        text_bytes(T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0]), true)};             \
     }
 
 #ifdef S2J_TABLES_ONLY
