@@ -40,8 +40,8 @@ set xtics nomirror
 plot "$data" using 2:xtic(1) title "libapp\\\\_s2j" linecolor rgb "#1f77b4", \
      "" using 3 title "cJSON alone" linecolor rgb "#7f7f7f", \
      "" using 4 title "hand-written cJSON code" linecolor rgb "#ff7f0e", \
-     "" using (\$0-0.25):(\$2*1.15):(sprintf("%.0f", \$2)) with labels notitle, \
-     "" using (\$0):(\$3*1.15):(sprintf("%.0f", \$3)) with labels notitle, \
-     "" using (\$0+0.25):(\$4*1.15):(sprintf("%.0f", \$4)) with labels notitle
+     "" using (\$0-0.25):(\$2*1.35):(sprintf("%.0f", \$2)) with labels notitle, \
+     "" using (\$0):(\$3*1.35):(sprintf("%.0f", \$3)) with labels notitle, \
+     "" using (\$0+0.25):(\$4*1.35):(sprintf("%.0f", \$4)) with labels notitle
 GNUPLOT
 echo "perf-chart: docs/performance-throughput.svg from $1" >&2
