@@ -23,6 +23,9 @@ struct Registration {
             std::string name = std::string(op->workload) + "/" + op->call + "/" + op->side;
             benchmark::RegisterBenchmark(name.c_str(), [op](benchmark::State &state) {
                 for (auto _ : state) op->run();
+                // MB/s of text for the throughput workloads.
+                if (op->text_bytes != nullptr)
+                    state.SetBytesProcessed(state.iterations() * static_cast<int64_t>(*op->text_bytes));
             });
         }
     }

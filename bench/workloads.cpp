@@ -118,25 +118,63 @@ std::string ipv4(uint32_t a, uint32_t b, uint32_t c, uint32_t d) {
 }
 
 constexpr size_t kN = 64;
+constexpr size_t kThroughputN = 1024;  // records of the throughput workload
 
 DeviceTime device_time;
 WatermarkOSDParameter watermark;
 VideoEncodeParameter encoders[kN];
+VideoEncodeParameter encoders_1024[kThroughputN];
 CrontabParameter tasks[kN];
 NetworkLANParameter lans[kN];
 
 // Texts and trees the read side works on, made once (plain pointers, so that
 // they are ready before any constructor runs: the timing driver prepares the
 // workloads from one).
-char *device_time_text, *watermark_text, *encoders_text, *update_text;
+char *device_time_text, *watermark_text, *encoders_text, *update_text, *encoders_1024_text;
+size_t encoders_1024_bytes;
 cJSON *device_time_tree, *watermark_tree, *encoders_tree;
 
 // Destinations (reset by nobody: every read overwrites the same fields).
 DeviceTime device_time_out;
 WatermarkOSDParameter watermark_out[1];
 VideoEncodeParameter encoders_out[kN];
+VideoEncodeParameter encoders_1024_out[kThroughputN];
 CrontabParameter tasks_out[kN];
 NetworkLANParameter lans_out[kN];
+
+// One encoder stream of the ladder, record i of the list.
+void make_encoder(VideoEncodeParameter &e, size_t i) {
+    static const char *codecs[] = {"H264", "H265", "MJPEG"};
+    static const char *profiles[] = {"High", "Main", "Baseline"};
+    static const char *controls[] = {"CBR", "VBR", "AVBR"};
+    static const uint32_t widths[] = {3840, 1920, 1280, 720};
+    static const uint32_t heights[] = {2160, 1080, 720, 576};
+    std::memset(&e, 0, sizeof e);
+    uint32_t r = rnd(4);
+    e.Channel = static_cast<uint32_t>(i / 4 + 1);
+    e.StreamIndex = static_cast<uint32_t>(i % 4);
+    e.Enable = static_cast<int32_t>(rnd(2));
+    e.SelfAdaptiveVideoEncodeSize = 0;
+    e.Width = widths[r];
+    e.Height = heights[r];
+    e.FramerateInteger = static_cast<uint16_t>(rnd(2) ? 30 : 25);
+    e.FramerateDecimal = static_cast<uint16_t>(rnd(2) ? 0 : 97);
+    set(e.Codec, codecs[rnd(3)]);
+    set(e.Profile, profiles[rnd(3)]);
+    set(e.BitrateControl, controls[rnd(3)]);
+    e.GOP = 30 + rnd(90);
+    e.Bitrate = 512 + rnd(16000);
+    e.ImageQuality = rnd(6);
+    e.Rotate = 90 * rnd(4);
+    e.Mirror = static_cast<int32_t>(rnd(2));
+    e.Flip = static_cast<int32_t>(rnd(2));
+    e.Crop = 0;
+    e.CropLeftOffset = rnd(64);
+    e.CropTopOffset = rnd(64);
+    e.CropRightOffset = rnd(64);
+    e.CropBottomOffset = rnd(64);
+    e.CropOffsetBase = 1920;
+}
 
 void make_values() {
     device_time = {1700000000 + static_cast<int32_t>(rnd(86400)), 2024, 11, 22, 13, 47, 5, 250};
@@ -169,39 +207,7 @@ void make_values() {
     w.MovingSpeed = 30;
     w.MovingDirection = 2;
 
-    static const char *codecs[] = {"H264", "H265", "MJPEG"};
-    static const char *profiles[] = {"High", "Main", "Baseline"};
-    static const char *controls[] = {"CBR", "VBR", "AVBR"};
-    static const uint32_t widths[] = {3840, 1920, 1280, 720};
-    static const uint32_t heights[] = {2160, 1080, 720, 576};
-    for (size_t i = 0; i < kN; ++i) {
-        VideoEncodeParameter &e = encoders[i];
-        std::memset(&e, 0, sizeof e);
-        uint32_t r = rnd(4);
-        e.Channel = static_cast<uint32_t>(i / 4 + 1);
-        e.StreamIndex = static_cast<uint32_t>(i % 4);
-        e.Enable = static_cast<int32_t>(rnd(2));
-        e.SelfAdaptiveVideoEncodeSize = 0;
-        e.Width = widths[r];
-        e.Height = heights[r];
-        e.FramerateInteger = static_cast<uint16_t>(rnd(2) ? 30 : 25);
-        e.FramerateDecimal = static_cast<uint16_t>(rnd(2) ? 0 : 97);
-        set(e.Codec, codecs[rnd(3)]);
-        set(e.Profile, profiles[rnd(3)]);
-        set(e.BitrateControl, controls[rnd(3)]);
-        e.GOP = 30 + rnd(90);
-        e.Bitrate = 512 + rnd(16000);
-        e.ImageQuality = rnd(6);
-        e.Rotate = 90 * rnd(4);
-        e.Mirror = static_cast<int32_t>(rnd(2));
-        e.Flip = static_cast<int32_t>(rnd(2));
-        e.Crop = 0;
-        e.CropLeftOffset = rnd(64);
-        e.CropTopOffset = rnd(64);
-        e.CropRightOffset = rnd(64);
-        e.CropBottomOffset = rnd(64);
-        e.CropOffsetBase = 1920;
-    }
+    for (size_t i = 0; i < kN; ++i) make_encoder(encoders[i], i);
 
     static const char *commands[] = {"/usr/sbin/logrotate /etc/logrotate.conf",
                                      "/usr/bin/snapshot --channel 1 --upload",
@@ -243,6 +249,10 @@ void make_values() {
         set(l.MACAddress, mac);
         l.MTUSize = 1500;
     }
+
+    // The throughput workload: the same 64 streams, then more of the ladder.
+    std::memcpy(encoders_1024, encoders, sizeof encoders);
+    for (size_t i = kN; i < kThroughputN; ++i) make_encoder(encoders_1024[i], i);
 }
 
 std::string take(char *text) {
@@ -315,7 +325,8 @@ void parse_delete(const char *text) {
     cJSON_Delete(t);
 }
 
-#define OP(w, c, s, body) Op{w, c, s, [] { body; }}
+#define OP(w, c, s, body) Op{w, c, s, [] { body; }, nullptr}
+#define THROUGHPUT_OP(w, c, s, bytes, body) Op{w, c, s, [] { body; }, &bytes}
 
 const Op kOps[] = {
     // A small record.
@@ -411,6 +422,24 @@ const Op kOps[] = {
         cJSON_Delete(t);
         std::free(text);
     }),
+
+    // Throughput: 1024 records written and read (compact text), MB/s of text.
+    THROUGHPUT_OP("VideoEncode1024", "s2j", "lib", encoders_1024_bytes,
+                  keep_text(s2j_array_VideoEncodeParameter(encoders_1024, kThroughputN, 0))),
+    THROUGHPUT_OP("VideoEncode1024", "s2j", "floor", encoders_1024_bytes,
+                  keep_text(print(emit_array(floor_emit, encoders_1024, kThroughputN), false))),
+    THROUGHPUT_OP("VideoEncode1024", "s2j", "peer", encoders_1024_bytes,
+                  keep_text(print(emit_array(peer_emit, encoders_1024, kThroughputN), false))),
+    THROUGHPUT_OP("VideoEncode1024", "j2s", "lib", encoders_1024_bytes, {
+        uint32_t n = kThroughputN;
+        keep(j2s_array_VideoEncodeParameter(encoders_1024_text, encoders_1024_out, &n));
+    }),
+    THROUGHPUT_OP("VideoEncode1024", "j2s", "floor", encoders_1024_bytes, parse_delete(encoders_1024_text)),
+    THROUGHPUT_OP("VideoEncode1024", "j2s", "peer", encoders_1024_bytes, {
+        cJSON *t = cJSON_Parse(encoders_1024_text);
+        keep(read_array(peer_read, encoders_1024_out, kThroughputN, t));
+        cJSON_Delete(t);
+    }),
 };
 
 }  // namespace
@@ -461,6 +490,10 @@ bool prepare() {
         ok &= outputs_agree("VideoEncode64 s2j", s2j_array_VideoEncodeParameter(encoders, kN, formatted),
                             floor_emit, peer_emit, encoders, kN, formatted, false);
     }
+    ok &= outputs_agree("VideoEncode1024 s2j", s2j_array_VideoEncodeParameter(encoders_1024, kThroughputN, 0),
+                        floor_emit, peer_emit, encoders_1024, kThroughputN, false, false);
+    encoders_1024_text = s2j_array_VideoEncodeParameter(encoders_1024, kThroughputN, 0);
+    encoders_1024_bytes = encoders_1024_text != nullptr ? std::strlen(encoders_1024_text) : 0;
     // The read side works on the library's own compact texts.
     device_time_text = s2j_DeviceTime(&device_time, 0);
     watermark_text = s2j_array_WatermarkOSDParameter(&watermark, 1, 0);
@@ -496,6 +529,14 @@ bool prepare() {
     std::memset(encoders_out, 0, sizeof encoders_out);
     ok &= read_array(peer_read, encoders_out, kN, encoders_tree) == static_cast<int>(kN);
     ok &= same_records("VideoEncode64 peer", encoders_out, encoders, kN);
+    n = kThroughputN;
+    ok &= j2s_array_VideoEncodeParameter(encoders_1024_text, encoders_1024_out, &n) == 0 && n == kThroughputN;
+    ok &= same_records("VideoEncode1024 j2s", encoders_1024_out, encoders_1024, kThroughputN);
+    std::memset(encoders_1024_out, 0, sizeof encoders_1024_out);
+    cJSON *t1024 = cJSON_Parse(encoders_1024_text);
+    ok &= read_array(peer_read, encoders_1024_out, kThroughputN, t1024) == static_cast<int>(kThroughputN);
+    cJSON_Delete(t1024);
+    ok &= same_records("VideoEncode1024 peer", encoders_1024_out, encoders_1024, kThroughputN);
 
     n = 1;
     ok &= c2s_array_WatermarkOSDParameter(watermark_tree, watermark_out, &n) == 0 && n == 1;
@@ -522,7 +563,8 @@ bool prepare() {
 }
 
 void release() {
-    for (char *text : {device_time_text, watermark_text, encoders_text, update_text}) std::free(text);
+    for (char *text : {device_time_text, watermark_text, encoders_text, update_text, encoders_1024_text})
+        std::free(text);
     cJSON_Delete(device_time_tree);
     cJSON_Delete(watermark_tree);
     cJSON_Delete(encoders_tree);

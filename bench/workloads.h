@@ -15,10 +15,14 @@
 namespace bench {
 
 struct Op {
-    const char *workload;  // DeviceTime, WatermarkOSD, VideoEncode64, CrontabUpdate4of64, NetworkLAN64File
+    const char *workload;  // DeviceTime, WatermarkOSD, VideoEncode64, CrontabUpdate4of64, NetworkLAN64File,
+                           // VideoEncode1024
     const char *call;      // s2j, s2j_formatted, j2s, c2s, update, save, load
     const char *side;      // lib, floor, peer
     void (*run)();
+    // Throughput workloads (VideoEncode1024): the bytes of text written or
+    // read per call, for MB/s; their calls are timed, not counted.  Else null.
+    const size_t *text_bytes;
 };
 
 // Generates the values and texts of every workload (deterministic) and

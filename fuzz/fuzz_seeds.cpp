@@ -4,6 +4,9 @@
 //       one seed per (type, text reader) pair whose example fits the reader:
 //       the example object for j2s and j2s_with_len, the example array for
 //       the array readers; plus a few texts for every pair's neighbourhood.
+//   fuzz_seeds writer-corpus <examples dir> <out dir>
+//       for fuzz_writers: per type with a text writer, the records of its
+//       example (read with j2s or j2s_array) as bytes, compact and indented.
 //   fuzz_seeds dict
 //       every JSON key of every record type, in libFuzzer's dictionary form,
 //       with the JSON punctuation around it.
@@ -61,6 +64,36 @@ int corpus(const std::string &examples, const std::string &out) {
     return written > 0 ? 0 : 1;
 }
 
+// The writer types in fuzz_writers' order: those with s2j or s2j_array.
+int writer_corpus(const std::string &examples, const std::string &out) {
+    size_t n = 0;
+    const s2j::TypeInfo *types = s2j::registry(&n);
+    size_t index = 0, written = 0;
+    for (size_t i = 0; i < n; ++i) {
+        const s2j::TypeInfo *t = &types[i];
+        if (t->fam.s2j == nullptr && t->fam.s2j_array == nullptr) continue;
+        const size_t at = index++;
+        std::string text = read_file(examples + "/" + t->name + ".json");
+        uint32_t count = 8;
+        std::string recs(static_cast<size_t>(t->desc->size) * count, '\0');
+        bool read = false;
+        if (t->fam.j2s_array != nullptr && t->fam.j2s_array(text.c_str(), &recs[0], &count) == 0 && count > 0) {
+            recs.resize(static_cast<size_t>(t->desc->size) * count);
+            read = true;
+        } else if (t->fam.j2s != nullptr && t->fam.j2s(text.c_str(), &recs[0]) == 0) {
+            recs.resize(t->desc->size);
+            read = true;
+        }
+        if (!read) continue;
+        for (uint8_t formatted = 0; formatted < 2; ++formatted)
+            if (!write_seed(out, std::string(t->name) + (formatted ? ".indented" : ".compact"), at, formatted, recs))
+                return 1;
+        ++written;
+    }
+    std::printf("fuzz_seeds: records of %zu of %zu writer types in %s\n", written, index, out.c_str());
+    return written > 0 ? 0 : 1;
+}
+
 int dict() {
     size_t n = 0;
     const s2j::TypeInfo *types = s2j::registry(&n);
@@ -76,7 +109,8 @@ int dict() {
 
 int main(int argc, char **argv) {
     if (argc == 4 && std::strcmp(argv[1], "corpus") == 0) return corpus(argv[2], argv[3]);
+    if (argc == 4 && std::strcmp(argv[1], "writer-corpus") == 0) return writer_corpus(argv[2], argv[3]);
     if (argc == 2 && std::strcmp(argv[1], "dict") == 0) return dict();
-    std::fprintf(stderr, "usage: fuzz_seeds corpus <examples dir> <out dir> | fuzz_seeds dict\n");
+    std::fprintf(stderr, "usage: fuzz_seeds corpus|writer-corpus <examples dir> <out dir> | fuzz_seeds dict\n");
     return 2;
 }

@@ -2,7 +2,10 @@
 # Deterministic counts of the benchmark workloads: per workload and call, the
 # instructions executed (callgrind) and the heap allocations (count, bytes)
 # of the library, the floor (cJSON alone) and the peer (hand-written cJSON
-# code), side by side, as a Markdown table on stdout.
+# code), side by side, as a Markdown table on stdout; then, in the same run,
+# the throughput of writing and reading 1024 VideoEncodeParameter records
+# (Google Benchmark, MB/s), whose JSON output stays in
+# build-bench/throughput.json for scripts/perf-chart.sh.
 #   scripts/bench-counts.sh [repetitions]     (default 10; counts are per call)
 # Builds the release configuration (-O2) with the benchmarks in build-bench/.
 set -euo pipefail
@@ -12,7 +15,7 @@ scripts/setup.sh --bench >&2
 cmake -S . -B build-bench -DCMAKE_BUILD_TYPE=Release -DAPP_S2J_BENCH=ON \
       -DCMAKE_C_FLAGS_RELEASE="-O2 -DNDEBUG" -DCMAKE_CXX_FLAGS_RELEASE="-O2 -DNDEBUG" \
       -DAPP_S2J_TESTS=OFF -DAPP_S2J_TOOLS=OFF >/dev/null
-cmake --build build-bench -j2 --target s2j_counts >&2
+cmake --build build-bench -j2 --target s2j_counts s2j_bench >&2
 out="$(mktemp -d)"
 trap 'rm -rf "$out"' EXIT
 TMPDIR="$out" valgrind --tool=callgrind --callgrind-out-file="$out/cg" \
@@ -41,3 +44,10 @@ awk -v reps="$reps" '
              al[w "/lib"], (w "/floor" in al) ? al[w "/floor"] : "-", al[w "/peer"]
     }
   }' "$out/instr" "$out/allocs"
+echo
+echo "Throughput (Google Benchmark, CPU time, median of 5 repetitions):"
+echo
+build-bench/bench/s2j_bench --benchmark_filter='^VideoEncode1024/' --benchmark_repetitions=5 \
+    --benchmark_report_aggregates_only=true --benchmark_out=build-bench/throughput.json \
+    --benchmark_out_format=json >/dev/null
+scripts/throughput.py table build-bench/throughput.json

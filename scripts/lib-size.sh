@@ -14,7 +14,7 @@ stripped="$(mktemp)"
 trap 'rm -f "$stripped"' EXIT
 strip -o "$stripped" "$lib"
 bytes=$(stat -c %s "$stripped")
-echo "stripped libapp_s2j.so.1: $bytes bytes ($(( (bytes + 1023) / 1024 )) KiB; budget 192 KiB = 196608 bytes)"
+echo "stripped libapp_s2j.so.1: $bytes bytes ($(( (bytes + 1023) / 1024 )) KiB; budget 200 KiB = 204800 bytes)"
 echo "exported symbols: $(nm -D --defined-only "$lib" | wc -l)"
 echo
 echo "| section | bytes |"

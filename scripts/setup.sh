@@ -4,7 +4,8 @@
 #   scripts/setup.sh             the native build and tests
 #   scripts/setup.sh --fuzz      also libFuzzer with clang
 #   scripts/setup.sh --valgrind  also valgrind (memory checking)
-#   scripts/setup.sh --bench     also Google Benchmark and valgrind (benchmarks and their counts)
+#   scripts/setup.sh --bench     also Google Benchmark, valgrind and gnuplot (benchmarks, their counts
+#                                and the throughput chart)
 #   scripts/setup.sh TRIPLET...  also cross builds for these targets (see cmake/toolchains/):
 #                                the cross compilers, the target's cJSON and GoogleTest
 #                                through multiarch, and qemu-user to run the tests
@@ -15,7 +16,7 @@ for arg in "$@"; do
   case "$arg" in
     --fuzz) packages+=(clang-14 libclang-rt-14-dev) ;;
     --valgrind) packages+=(valgrind) ;;
-    --bench) packages+=(libbenchmark-dev valgrind) ;;
+    --bench) packages+=(libbenchmark-dev valgrind gnuplot-nox) ;;
     arm-linux-gnueabihf) arch=armhf ;;
     aarch64-linux-gnu) arch=arm64 ;;
     s390x-linux-gnu) arch=s390x ;;

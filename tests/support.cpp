@@ -122,18 +122,21 @@ Text::~Text() { std::free(p); }
 namespace {
 long g_fail_at = -1;
 bool g_once = false;
+bool g_refuse_first = false;
 long g_count = 0;
 void *faulty_malloc(size_t n) {
     long i = g_count++;
+    if (g_refuse_first && i == 0) return nullptr;
     if (g_fail_at >= 0 && (g_once ? i == g_fail_at : i >= g_fail_at)) return nullptr;
     return std::malloc(n);
 }
 void plain_free(void *p) { std::free(p); }
 }  // namespace
 
-CjsonFaults::CjsonFaults(long fail_at, bool once) {
+CjsonFaults::CjsonFaults(long fail_at, bool once, bool refuse_first) {
     g_fail_at = fail_at;
     g_once = once;
+    g_refuse_first = refuse_first;
     g_count = 0;
     cJSON_Hooks hooks = {faulty_malloc, plain_free};
     cJSON_InitHooks(&hooks);
@@ -142,6 +145,7 @@ CjsonFaults::CjsonFaults(long fail_at, bool once) {
 CjsonFaults::~CjsonFaults() {
     cJSON_InitHooks(nullptr);
     g_fail_at = -1;
+    g_refuse_first = false;
 }
 
 long CjsonFaults::allocations() { return g_count; }

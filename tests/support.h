@@ -74,10 +74,12 @@ struct Tree {
 };
 
 // While alive, cJSON's allocations fail from the n-th on (counted from 0),
-// or only the n-th with `once`; allocations made so far are counted.
+// or only the n-th with `once`; with `refuse_first` the first one (the
+// buffer of a text writer, which then prints a tree) fails too.
+// Allocations made so far are counted.
 class CjsonFaults {
 public:
-    explicit CjsonFaults(long fail_at, bool once = false);
+    explicit CjsonFaults(long fail_at, bool once = false, bool refuse_first = false);
     ~CjsonFaults();
     static long allocations();
 

@@ -4,7 +4,10 @@
 // For every family, for n = 1, 2, ... until a call makes fewer than n
 // allocations, each call must: not crash, leave nothing allocated that it
 // does not hand to the caller, and give the outcome documented for the
-// allocation that failed:
+// allocation that failed.  The text writers make one allocation, the text's
+// buffer, and make the text as a printed tree when it is refused: they are
+// checked with that first allocation refused and then the n-th, from 2 on,
+// failing, so that every allocation of the tree is reached.  The outcomes:
 //   - an unterminated string field whose copy fails: that member is missing,
 //     the rest of the text is complete;
 //   - any other failure while building a tree or printing: s2j gives null,
@@ -44,6 +47,7 @@ namespace {
 
 struct FaultState {
     bool armed = false;
+    bool refuse_first = false;  // the first allocation fails too (not counted as the fault)
     long fail_at = 0;  // 1-based index of the allocation to fail; 0: none
     long count = 0;    // allocations attempted while armed
     bool fired = false;
@@ -85,6 +89,7 @@ bool should_fail(const void *caller, size_t size) {
     if (!g.armed) return false;
     ++g.count;
     if (g.count <= 4096) g.callers[g.count - 1] = caller;
+    if (g.refuse_first && g.count == 1) return true;
     if (g.count != g.fail_at) return false;
     g.fired = true;
     g.failed_caller = caller;
@@ -152,10 +157,11 @@ struct FaultRun {
     bool first_of_library;  // the failed one was the library's first allocation of the call
 };
 
-// Runs f with the fail_at-th allocation failing (0: none fails).  f must not
-// allocate beyond the call under test; diagnostics go to /dev/null.
+// Runs f with the fail_at-th allocation failing (0: none fails), and with
+// refuse_first the first one too.  f must not allocate beyond the call under
+// test; diagnostics go to /dev/null.
 template <class F>
-FaultRun under_fault(long fail_at, F f) {
+FaultRun under_fault(long fail_at, F f, bool refuse_first = false) {
     int saved = dup(2);
     int null_fd = open("/dev/null", O_WRONLY);
     dup2(null_fd, 2);
@@ -164,6 +170,7 @@ FaultRun under_fault(long fail_at, F f) {
     g_live_overflow = false;
     g = FaultState{};
     g.fail_at = fail_at;
+    g.refuse_first = refuse_first;
     g.armed = true;
     f();
     g.armed = false;
@@ -172,7 +179,7 @@ FaultRun under_fault(long fail_at, F f) {
     close(null_fd);
     EXPECT_FALSE(g_live_overflow);
     bool first_of_library = g.fired && g.fail_at <= 4096 && owner_of(g.failed_caller) == Owner::Library;
-    for (long i = 0; first_of_library && i + 1 < g.fail_at; ++i)
+    for (long i = refuse_first ? 1 : 0; first_of_library && i + 1 < g.fail_at; ++i)
         if (owner_of(g.callers[i]) == Owner::Library) first_of_library = false;
     return FaultRun{g.count,       g.fired, g.fired ? owner_of(g.failed_caller) : Owner::Other, g.failed_size,
                     g_live_count, first_of_library};
@@ -343,6 +350,22 @@ class TextWriters : public ::testing::TestWithParam<const TypeInfo *> {};
 class TextReaders : public ::testing::TestWithParam<const TypeInfo *> {};
 class TreeReaders : public ::testing::TestWithParam<const TypeInfo *> {};
 
+// The text of a writer: one allocation, and with that one refused, the
+// whole text all the same.
+template <class Call>
+void expect_one_allocation_or_the_whole_text(Call call, const std::string &ref, const char *what) {
+    SCOPED_TRACE(what);
+    const char *text = nullptr;
+    FaultRun r = under_fault(0, [&] { text = keep(call()); });
+    EXPECT_EQ(r.allocations, 1);
+    ASSERT_NE(text, nullptr);
+    EXPECT_EQ(std::string(text), ref);
+    r = under_fault(0, [&] { text = keep(call()); }, true);
+    EXPECT_EQ(r.live, 0);
+    ASSERT_NE(text, nullptr);
+    EXPECT_EQ(std::string(text), ref);
+}
+
 TEST_P(TextWriters, s2j_and_s2j_array_lose_members_or_return_null_and_leak_nothing) {
     const TypeInfo *t = GetParam();
     std::vector<char> recs(t->desc->size * kElements);
@@ -350,9 +373,10 @@ TEST_P(TextWriters, s2j_and_s2j_array_lose_members_or_return_null_and_leak_nothi
     int checked = 0;
     if (t->fam.s2j != nullptr) {
         const std::string ref = emit(t, recs.data(), 1, false);
-        for (long n = 1;; ++n) {
+        expect_one_allocation_or_the_whole_text([&] { return t->fam.s2j(recs.data(), 0); }, ref, "s2j");
+        for (long n = 2;; ++n) {
             const char *text = nullptr;
-            FaultRun r = under_fault(n, [&] { text = keep(t->fam.s2j(recs.data(), 0)); });
+            FaultRun r = under_fault(n, [&] { text = keep(t->fam.s2j(recs.data(), 0)); }, true);
             ASSERT_EQ(r.live, 0) << "s2j leaked at allocation " << n;
             if (!r.fired) {
                 ASSERT_NE(text, nullptr);
@@ -365,9 +389,11 @@ TEST_P(TextWriters, s2j_and_s2j_array_lose_members_or_return_null_and_leak_nothi
     }
     if (t->fam.s2j_array != nullptr) {
         const std::string ref = emit(t, recs.data(), kElements, true);
-        for (long n = 1;; ++n) {
+        expect_one_allocation_or_the_whole_text([&] { return t->fam.s2j_array(recs.data(), kElements, 0); }, ref,
+                                                "s2j_array");
+        for (long n = 2;; ++n) {
             const char *text = nullptr;
-            FaultRun r = under_fault(n, [&] { text = keep(t->fam.s2j_array(recs.data(), kElements, 0)); });
+            FaultRun r = under_fault(n, [&] { text = keep(t->fam.s2j_array(recs.data(), kElements, 0)); }, true);
             ASSERT_EQ(r.live, 0) << "s2j_array leaked at allocation " << n;
             if (!r.fired) {
                 ASSERT_NE(text, nullptr);
@@ -603,12 +629,21 @@ TEST_P(FileWriters, give_minus_15_without_text_and_minus_7_when_fopen_fails) {
         Tree ref_tree(cJSON_Parse(read_file(path).c_str()));
         const std::string ref = print_plain(ref_tree.p);
         bool saw15 = false, saw7 = false;
-        for (long n = 1;; ++n) {
+        // The text's buffer refused: the same file, from the tree.
+        FaultRun first = under_fault(0, [&] {
+            EXPECT_EQ(array ? f.s2f_array(path.c_str(), recs.data(), kElements) : f.s2f(path.c_str(), recs.data()), 0);
+        }, true);
+        EXPECT_EQ(first.live, 0);
+        {
+            Tree got(cJSON_Parse(read_file(path).c_str()));
+            EXPECT_EQ(print_plain(got.p), ref);
+        }
+        for (long n = 2;; ++n) {
             write_file(path, "previous content");
             int rc = 0;
             FaultRun r = under_fault(n, [&] {
                 rc = array ? f.s2f_array(path.c_str(), recs.data(), kElements) : f.s2f(path.c_str(), recs.data());
-            });
+            }, true);
             SCOPED_TRACE(std::string(what) + ", allocation " + std::to_string(n));
             ASSERT_EQ(r.live, 0) << "leaked";
             const std::string on_disk = read_file(path);
@@ -677,8 +712,8 @@ TEST(AllocationFaults, the_replacement_sees_the_library_cjson_and_the_c_library)
     std::vector<char> rec(t->desc->size);
     fill(t, rec.data(), 0);
     bool library = false, cjson = false;
-    for (long n = 1;; ++n) {
-        FaultRun r = under_fault(n, [&] { keep(t->fam.s2j(rec.data(), 1)); });
+    for (long n = 2;; ++n) {
+        FaultRun r = under_fault(n, [&] { keep(t->fam.s2j(rec.data(), 1)); }, true);
         if (!r.fired) break;
         library |= r.owner == Owner::Library;
         cjson |= r.owner == Owner::Cjson;

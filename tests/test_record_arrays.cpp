@@ -71,7 +71,7 @@ TEST(RecordArrays, S2jArrayReportsEmitterFailureWithoutNewlineAndFreesWhatItBuil
     CrontabParameter tasks[2] = {task(1, "x"), task(2, "y")};
     StderrCapture err;
     {
-        CjsonFaults faults(1);  // the array is made, the first object is not
+        CjsonFaults faults(2, false, true);  // no room for the text; the array is made, the first object is not
         EXPECT_EQ(s2j_array_CrontabParameter(tasks, 2, 0), nullptr);
     }
     EXPECT_EQ(err.text(), d(kS2jArrayLine, "s2j_array_CrontabParameter", "struct_to_json_CrontabParameter failed!"));
@@ -80,11 +80,11 @@ TEST(RecordArrays, S2jArrayReportsEmitterFailureWithoutNewlineAndFreesWhatItBuil
 TEST(RecordArrays, S2jArrayUnderEveryFailingAllocationNeverLeaksAndPrintsOnlyItsOwnDiagnostics) {
     CrontabParameter tasks[2] = {task(1, "x"), task(2, "y")};
     Text full(s2j_array_CrontabParameter(tasks, 2, 1));
-    for (long n = 0;; ++n) {
+    for (long n = 1;; ++n) {  // the text's buffer refused, then the n-th allocation of the tree
         StderrCapture err;
         char *text;
         {
-            CjsonFaults faults(n, true);
+            CjsonFaults faults(n, true, true);
             text = s2j_array_CrontabParameter(tasks, 2, 1);
         }
         Text t(text);

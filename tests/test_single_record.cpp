@@ -75,22 +75,38 @@ TEST(SingleRecord, S2jReportsEmitterFailureWithoutNewlineWhenObjectCannotBeMade)
     EXPECT_EQ(err.text(), d(kS2jLine, "s2j_DeviceInfo", "struct_to_json_DeviceInfo failed!"));
 }
 
-// Fails cJSON's n-th allocation for n = 0, 1, ... until the call succeeds:
-// the object itself (diagnostic, null), a member (left out, text made), or
-// the printer (null, no diagnostic).  Every path frees what it made.
+TEST(SingleRecord, S2jWithoutRoomForItsTextMakesTheSameTextThroughATree) {
+    DeviceInfo info = sample();
+    Text full(s2j_DeviceInfo(&info, 0));
+    StderrCapture err;
+    char *text;
+    {
+        CjsonFaults faults(0, true);
+        text = s2j_DeviceInfo(&info, 0);
+        EXPECT_GT(CjsonFaults::allocations(), 1);
+    }
+    Text t(text);
+    EXPECT_EQ(t.str(), full.str());
+    EXPECT_EQ(err.text(), "");
+}
+
+// The text's buffer refused, fails cJSON's n-th allocation for n = 1, 2, ...
+// until the call succeeds: the object itself (diagnostic, null), a member
+// (left out, text made), or the printer (null, no diagnostic).  Every path
+// frees what it made.
 TEST(SingleRecord, S2jUnderFailingAllocationsLosesMembersOrReturnsNullNeverLeaks) {
     DeviceInfo info = sample();
     Text full(s2j_DeviceInfo(&info, 0));
-    for (long n = 0;; ++n) {
+    for (long n = 1;; ++n) {
         StderrCapture err;
         char *text;
         {
-            CjsonFaults faults(n, true);
+            CjsonFaults faults(n, true, true);
             text = s2j_DeviceInfo(&info, 0);
         }
         Text t(text);
         std::string e = err.text();
-        if (n == 0) {
+        if (n == 1) {
             EXPECT_EQ(text, nullptr);
             EXPECT_EQ(e, d(kS2jLine, "s2j_DeviceInfo", "struct_to_json_DeviceInfo failed!"));
             continue;

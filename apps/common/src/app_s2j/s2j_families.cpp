@@ -8,6 +8,7 @@
 #include "s2j_families.h"
 #include "s2j_messages.h"
 #include "s2j_text_reader.h"
+#include "s2j_write.h"
 
 namespace s2j {
 
@@ -85,11 +86,12 @@ cJSON *parse(Site s, const char *type, const char *json_str, size_t len, bool wi
 
 // ---- Single records ---------------------------------------------------------
 
-char *fam_s2j(Site s, const TypeDesc *d, const void *rec, int formatted) {
-    if (rec == nullptr) {
-        diag(s, d->name, S2J_MSG_STRUCT_PTR_EMPTY);
-        return nullptr;
-    }
+namespace {
+
+// The text of a record through its printed tree: what s2j makes when the
+// text writer's buffer cannot be had (it then fails or succeeds allocation
+// by allocation as a printed tree does).
+__attribute__((noinline)) char *s2j_tree(Site s, const TypeDesc *d, const void *rec, int formatted) {
     char *ints = int_texts(d, 1);
     char *cursor = ints;
     cJSON *tree = emit_record(d, rec, ints != nullptr ? &cursor : nullptr);
@@ -102,6 +104,17 @@ char *fam_s2j(Site s, const TypeDesc *d, const void *rec, int formatted) {
     cJSON_Delete(tree);
     std::free(ints);
     return text;
+}
+
+}  // namespace
+
+char *fam_s2j(Site s, const TypeDesc *d, const void *rec, int formatted) {
+    if (rec == nullptr) {
+        diag(s, d->name, S2J_MSG_STRUCT_PTR_EMPTY);
+        return nullptr;
+    }
+    if (char *text = write_text(d, rec, 1, false, formatted != 0)) return text;
+    return s2j_tree(s, d, rec, formatted);
 }
 
 int fam_c2s(Site s, const TypeDesc *d, const cJSON *json, void *rec) {
@@ -122,11 +135,11 @@ int fam_c2s(Site s, const TypeDesc *d, const cJSON *json, void *rec) {
 
 // ---- Record arrays ----------------------------------------------------------
 
-char *fam_s2j_array(Site s, const TypeDesc *d, const void *arr, uint32_t count, int formatted) {
-    if (arr == nullptr || count == 0) {
-        diag(s, d->name, S2J_MSG_ARRAY_ARGS);
-        return nullptr;
-    }
+namespace {
+
+// The text of records through their printed tree, as for one record.
+__attribute__((noinline)) char *s2j_array_tree(Site s, const TypeDesc *d, const void *arr, uint32_t count,
+                                               int formatted) {
     cJSON *list = cJSON_CreateArray();
     if (list == nullptr) {
         diag(s, d->name, S2J_MSG_CREATE_ARRAY_FAILED);
@@ -149,6 +162,17 @@ char *fam_s2j_array(Site s, const TypeDesc *d, const void *arr, uint32_t count, 
     cJSON_Delete(list);
     std::free(ints);
     return text;
+}
+
+}  // namespace
+
+char *fam_s2j_array(Site s, const TypeDesc *d, const void *arr, uint32_t count, int formatted) {
+    if (arr == nullptr || count == 0) {
+        diag(s, d->name, S2J_MSG_ARRAY_ARGS);
+        return nullptr;
+    }
+    if (char *text = write_text(d, arr, count, true, formatted != 0)) return text;
+    return s2j_array_tree(s, d, arr, count, formatted);
 }
 
 int fam_c2s_array(Site s, const TypeDesc *d, const cJSON *json, void *arr, uint32_t *count) {

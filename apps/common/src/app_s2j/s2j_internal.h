@@ -30,7 +30,7 @@ struct Field {
     uint32_t offset;
     uint32_t size;  // bytes
     Kind kind;
-    uint8_t key_length;  // strlen(key), for comparing keys in place
+    uint8_t key_len;  // strlen(key): for writing keys and comparing them in place
 #ifdef S2J_TABLES_ONLY
     // What the field holds, in words for people (schemas, the reference of
     // records).  Only the internal library's tables carry it: the shared
@@ -58,6 +58,12 @@ struct TypeDesc {
     uint32_t key_count;
     uint32_t int_text_bytes;  // room for the decimal text of every integer of a record
     bool key_twins;           // two keys equal but for letter case
+    // The longest text of one record with its strings empty, compact and
+    // indented as the only object of a text: what the text writer reserves
+    // before it adds the strings' escaped lengths (s2j_write.cpp).
+    uint32_t text_bytes;
+    uint32_t text_bytes_formatted;
+    uint64_t string_fields;  // bit i set: row i is a char[N] field (rows < kMaxFields = 64)
 };
 
 // The most fields a record may have (the reader keeps one slot per field).
@@ -93,6 +99,50 @@ constexpr bool covers(const Field *f, size_t n, size_t struct_size) {
         if (a > max_align) max_align = a;
     }
     return (end + max_align - 1) / max_align * max_align == struct_size;
+}
+
+// Bytes of one record's text with every integer at its longest and every
+// string empty, as cJSON prints the record's object at depth 1: braces,
+// "key": and a comma per member; indented, a newline after the brace, per
+// member a tab before it, a tab after the colon and a newline, and ", "
+// between list entries.
+constexpr uint32_t text_bytes(const Field *f, size_t n, bool formatted) {
+    const uint32_t members = static_cast<uint32_t>(n);
+    uint32_t bytes = 2 + (members > 0 ? members - 1 : 0) + (formatted ? 1 + 3 * members : 0);
+    for (size_t i = 0; i < n; ++i) {
+        bytes += f[i].key_len + 3u;  // "key":
+        switch (f[i].kind) {
+            case Kind::I32: bytes += 11; break;
+            case Kind::U32: bytes += 10; break;
+            case Kind::U16: bytes += 5; break;
+            case Kind::Str: bytes += 2; break;
+            case Kind::U32List: {
+                uint32_t m = f[i].size / 4;
+                bytes += 2 + 10 * m + (m > 0 ? (m - 1) * (formatted ? 2 : 1) : 0);
+                break;
+            }
+        }
+    }
+    return bytes;
+}
+
+constexpr uint64_t string_fields(const Field *f, size_t n) {
+    uint64_t bits = 0;
+    for (size_t i = 0; i < n && i < 64; ++i)
+        if (f[i].kind == Kind::Str) bits |= uint64_t{1} << i;
+    return bits;
+}
+
+// Each row's key_len is the length of its key, and its key is text that
+// cJSON prints as it is (no byte to escape): the text writer copies keys.
+constexpr bool keys_as_written(const Field *f, size_t n) {
+    for (size_t i = 0; i < n; ++i) {
+        size_t len = 0;
+        for (; f[i].key[len] != '\0'; ++len)
+            if (f[i].key[len] < 0x20 || f[i].key[len] == '"' || f[i].key[len] == '\\') return false;
+        if (len != f[i].key_len) return false;
+    }
+    return true;
 }
 
 constexpr uint32_t int_text_bytes(const Field *f, size_t n) {
@@ -224,7 +274,8 @@ bool keys_match(const TypeDesc *d, const void *rec, const void *keyword);
 #define S2J_FIELD(T, m, note)                                                                  \
     ::s2j::Field {                                                                             \
         #m, static_cast<uint32_t>(offsetof(T, m)), static_cast<uint32_t>(sizeof(T::m)),        \
-            ::s2j::KindOf<std::remove_cv_t<decltype(T::m)>>::value, sizeof(#m) - 1 S2J_FIELD_NOTE(note) \
+            ::s2j::KindOf<std::remove_cv_t<decltype(T::m)>>::value,                            \
+            static_cast<uint8_t>(sizeof(#m) - 1) S2J_FIELD_NOTE(note)                          \
     }
 // A key field of T that its keyword record T##Keyword holds too.
 #define S2J_KEY(T, m) \
@@ -245,7 +296,10 @@ bool keys_match(const TypeDesc *d, const void *rec, const void *keyword);
 #define S2J_CHECK_TABLE(T)                                                                    \
     static_assert(::s2j::covers(T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0]), sizeof(T)), \
                   #T ": field table does not match the struct member for member");             \
-    static_assert(sizeof(T##_fields) / sizeof(T##_fields[0]) <= ::s2j::kMaxFields, #T ": too many fields")
+    static_assert(sizeof(T##_fields) / sizeof(T##_fields[0]) <= ::s2j::kMaxFields, #T ": too many fields"); \
+    static_assert(sizeof(T##_fields) / sizeof(T##_fields[0]) > 0, #T ": no fields");                  \
+    static_assert(::s2j::keys_as_written(T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0])),      \
+                  #T ": a key is too long or needs escapes")
 
 #define S2J_DESC(T, keys, nkeys)                                                               \
     namespace s2j {                                                                            \
@@ -253,7 +307,10 @@ bool keys_match(const TypeDesc *d, const void *rec, const void *keyword);
     constexpr TypeDesc desc_##T = {                                                            \
         #T, sizeof(T), T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0]), keys, nkeys,    \
         int_text_bytes(T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0])),                \
-        has_key_twins(T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0]))};                \
+        has_key_twins(T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0])),                 \
+        text_bytes(T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0]), false),             \
+        text_bytes(T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0]), true),              \
+        string_fields(T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0]))};                \
     }
 
 #ifdef S2J_TABLES_ONLY

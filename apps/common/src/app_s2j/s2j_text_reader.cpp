@@ -319,7 +319,7 @@ int match_key(const TypeDesc *d, const Text &t, size_t quote, size_t end, uint32
     const u8 *p = t.s + quote + 1;
     if (next < d->field_count) {
         const Field &f = d->fields[next];
-        if (f.key_length == n && std::memcmp(p, f.key, n) == 0) return static_cast<int>(next);
+        if (f.key_len == n && std::memcmp(p, f.key, n) == 0) return static_cast<int>(next);
     }
     KeyText key{p, n};
     u8 buf[kKeyRoom];
@@ -557,8 +557,8 @@ size_t find_members(const Text &t, size_t i, Members *m) {
         size_t end = 0;
         if (m->next < d->field_count) {
             const Field &f = d->fields[m->next];
-            const size_t at = i + 1 + f.key_length;
-            if (at < t.len && s[at] == '"' && std::memcmp(s + i + 1, f.key, f.key_length) == 0) end = at;
+            const size_t at = i + 1 + f.key_len;
+            if (at < t.len && s[at] == '"' && std::memcmp(s + i + 1, f.key, f.key_len) == 0) end = at;
         }
         if (end != 0) {
             const uint32_t f = m->next++;
