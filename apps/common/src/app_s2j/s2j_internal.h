@@ -12,6 +12,7 @@
 #include <cstdint>
 #include <cstring>
 #include <type_traits>
+#include <utility>
 
 #include "app_s2j.h"
 
@@ -80,8 +81,9 @@ constexpr uint32_t align_of(Kind k) {
 
 // Replays the natural C layout of the table's kinds and sizes: true when each
 // row sits exactly where the previous one ends (after alignment) and the last
-// one ends where the struct does.  A member left out, repeated or out of order
-// breaks this.
+// one ends where the struct does.  A row repeated or out of order breaks this,
+// and so does a member left out, unless it would sit where padding would
+// otherwise be (the member count below catches that one).
 constexpr bool covers(const Field *f, size_t n, size_t struct_size) {
     size_t end = 0, max_align = 1;
     for (size_t i = 0; i < n; ++i) {
@@ -92,6 +94,40 @@ constexpr bool covers(const Field *f, size_t n, size_t struct_size) {
         if (a > max_align) max_align = a;
     }
     return (end + max_align - 1) / max_align * max_align == struct_size;
+}
+
+// Member count: the struct's own count of scalar elements, every element of
+// an array member counted (char[64] counts 64), is the largest number of
+// initializers that aggregate initialization of the struct accepts (brace
+// elision spreads them over the arrays).  The table's rows give the same
+// count; a member left out makes the table's count smaller even where the
+// member would sit in padding, which the layout replay above cannot see.
+
+// Converts to any scalar type, never to an array: an initializer of it
+// starts the next scalar element of the struct.
+struct AnyScalar {
+    template <class U>
+    constexpr operator U() const noexcept { return U{}; }
+};
+
+template <class T, class Indices, class = void>
+struct TakesInitializers : std::false_type {};
+template <class T, size_t... I>
+struct TakesInitializers<T, std::index_sequence<I...>,
+                         std::void_t<decltype(T{(static_cast<void>(I), AnyScalar{})...})>> : std::true_type {};
+
+// True when aggregate initialization of T takes n initializers but not n + 1.
+template <class T, size_t n>
+constexpr bool has_scalar_elements() {
+    return std::is_aggregate_v<T> && TakesInitializers<T, std::make_index_sequence<n>>::value &&
+           !TakesInitializers<T, std::make_index_sequence<n + 1>>::value;
+}
+
+constexpr size_t scalar_elements(const Field *f, size_t n) {
+    size_t count = 0;
+    for (size_t i = 0; i < n; ++i)
+        count += f[i].kind == Kind::Str ? f[i].size : f[i].kind == Kind::U32List ? f[i].size / 4 : 1;
+    return count;
 }
 
 constexpr uint32_t int_text_bytes(const Field *f, size_t n) {
@@ -131,15 +167,30 @@ constexpr bool has_key_twins(const Field *f, size_t n) {
     return false;
 }
 
+// The key fields as the keyword record holds them: a string key as char[64].
+template <size_t N>
+struct KeywordFields {
+    Field f[N];
+};
+template <size_t N>
+constexpr KeywordFields<N> keyword_fields(const Key (&k)[N]) {
+    KeywordFields<N> kw = {};
+    for (size_t i = 0; i < N; ++i) {
+        kw.f[i] = k[i].field;
+        kw.f[i].offset = k[i].keyword_offset;
+        if (kw.f[i].kind == Kind::Str) kw.f[i].size = kKeyStringSize;
+    }
+    return kw;
+}
+
 template <size_t N>
 constexpr bool keyword_record_covers(const Key (&k)[N], size_t struct_size) {
-    Field f[N] = {};
-    for (size_t i = 0; i < N; ++i) {
-        f[i] = k[i].field;
-        f[i].offset = k[i].keyword_offset;
-        if (f[i].kind == Kind::Str) f[i].size = kKeyStringSize;
-    }
-    return covers(f, N, struct_size);
+    return covers(keyword_fields(k).f, N, struct_size);
+}
+
+template <size_t N>
+constexpr size_t keyword_scalar_elements(const Key (&k)[N]) {
+    return scalar_elements(keyword_fields(k).f, N);
 }
 
 // ---- Integer items (s2j_int.cpp, s2j_parse.cpp) ------------------------
@@ -240,6 +291,9 @@ bool keys_match(const TypeDesc *d, const void *rec, const void *keyword);
 #define S2J_CHECK_TABLE(T)                                                                    \
     static_assert(::s2j::covers(T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0]), sizeof(T)), \
                   #T ": field table does not match the struct member for member");             \
+    static_assert(::s2j::has_scalar_elements<T, ::s2j::scalar_elements(                       \
+                      T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0]))>(),               \
+                  #T ": field table leaves out a member of the struct");                      \
     static_assert(sizeof(T##_fields) / sizeof(T##_fields[0]) <= ::s2j::kMaxFields, #T ": too many fields")
 
 #define S2J_DESC(T, keys, nkeys)                                                               \
@@ -283,6 +337,8 @@ bool keys_match(const TypeDesc *d, const void *rec, const void *keyword);
 #define S2J_KW_FUNC(T)                                                                         \
     static_assert(::s2j::keyword_record_covers(T##_keys, sizeof(T##Keyword)),                  \
                   #T "Keyword: keyword record does not hold the keys in key order");           \
+    static_assert(::s2j::has_scalar_elements<T##Keyword, ::s2j::keyword_scalar_elements(T##_keys)>(), \
+                  #T "Keyword: keyword record holds a member that is not a key");              \
     static_assert(sizeof(T##Keyword) <= ::s2j::kMaxKeywordSize, #T "Keyword: too large");      \
     S2J_API int json_to_struct_##T##Keyword(T##Keyword *keyword, const cJSON *json) {       \
         return ::s2j::read_keys(&::s2j::desc_##T, keyword, json);                              \
