@@ -15,6 +15,7 @@
 #include <utility>
 
 #include "app_s2j.h"
+#include "s2j_int.h"
 
 namespace s2j {
 
@@ -62,8 +63,6 @@ struct TypeDesc {
 
 // The most fields a record may have (the reader keeps one slot per field).
 inline constexpr uint32_t kMaxFields = 64;
-// Room for the decimal text of one 32-bit integer and its NUL.
-inline constexpr uint32_t kIntTextSize = 12;
 
 // ---- Kinds from C types ------------------------------------------------
 
@@ -192,45 +191,6 @@ template <size_t N>
 constexpr size_t keyword_scalar_elements(const Key (&k)[N]) {
     return scalar_elements(keyword_fields(k).f, N);
 }
-
-// ---- Integer items (s2j_int.cpp, s2j_parse.cpp) ------------------------
-
-inline constexpr int kIntMark = 1 << 12;     // an integer item
-inline constexpr int kNotIntMark = 1 << 13;  // a parsed number that is not one
-inline constexpr int64_t kRawThreshold = 1000000000000000LL;  // 10^15: raw form from here
-inline constexpr double kTwo63 = 9223372036854775808.0;
-
-inline int type_of(const cJSON *item) { return item->type & 0xFF; }
-
-// Decimal text of v into buf (at least 21 bytes); returns buf.
-char *format_int(int64_t v, char *buf);
-// The int nearest to v, as cJSON keeps in valueint.
-int saturate_int(int64_t v);
-
-// cJSON_IsInt(), for the library's own readers.
-inline bool is_int(const cJSON *item) {
-    if (item == nullptr || (item->type & kNotIntMark)) return false;
-    if (item->type & kIntMark) return type_of(item) == cJSON_Number || type_of(item) == cJSON_Raw;
-    if (type_of(item) != cJSON_Number) return false;
-    double d = item->valuedouble;
-    if (!(d >= -kTwo63 && d < kTwo63)) return false;  // NaN fails too
-    return static_cast<double>(static_cast<int64_t>(d)) == d;
-}
-
-// Integer value of a raw integer item.
-int64_t raw_int_value(const cJSON *item);
-// Integer value of an item for which cJSON_IsInt() holds.
-inline int64_t int_value(const cJSON *item) {
-    if (type_of(item) == cJSON_Raw) return raw_int_value(item);
-    return static_cast<int64_t>(item->valuedouble);
-}
-
-// Parses text as cJSON_Parse (nul-terminated text) or cJSON_ParseWithLength
-// (with_len, len bytes) does, then marks every number item as an integer
-// item or not from its literal in the text.  Null when the text does not
-// parse, or when memory for a raw integer's text runs out.  With parse_end,
-// *parse_end receives where the document ends in the text.
-cJSON *parse_marked(const char *text, size_t len, bool with_len, const char **parse_end = nullptr);
 
 // ---- Engines (s2j_codec.cpp) ------------------------------------------
 
