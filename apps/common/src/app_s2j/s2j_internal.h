@@ -253,7 +253,7 @@ bool keys_match(const TypeDesc *d, const void *rec, const void *keyword);
                   #T ": field table does not match the struct member for member");             \
     static_assert(::s2j::has_scalar_elements<T, ::s2j::scalar_elements(                       \
                       T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0]))>(),               \
-                  #T ": field table leaves out a member of the struct");                      \
+                  #T ": field table does not list every member once");                         \
     static_assert(sizeof(T##_fields) / sizeof(T##_fields[0]) <= ::s2j::kMaxFields, #T ": too many fields")
 
 #define S2J_DESC(T, keys, nkeys)                                                               \
@@ -276,9 +276,13 @@ bool keys_match(const TypeDesc *d, const void *rec, const void *keyword);
         keyword, get, kwsize};                                                                 \
     }
 #define S2J_FUNCS(T)
-#define S2J_KW_FN(T) +[](void *k, const cJSON *j) { return json_to_struct_##T##Keyword(static_cast<T##Keyword *>(k), j); }
+#define S2J_KW_FN(T) \
+    +[](void *k, const cJSON *j) { return json_to_struct_##T##Keyword(static_cast<T##Keyword *>(k), j); }
 #define S2J_STRICT_FN(T) +[](void *k, const cJSON *j) { return json_to_struct_##T##Keyword(static_cast<T *>(k), j); }
-#define S2J_GET_FN(T, m) +[](void *k, const cJSON *j) { return json_to_struct_Get##T##Keyword(static_cast<::s2j::GetArg<decltype(T::m)>>(k), j); }
+#define S2J_GET_FN(T, m)                                                                          \
+    +[](void *k, const cJSON *j) {                                                                \
+        return json_to_struct_Get##T##Keyword(static_cast<::s2j::GetArg<decltype(T::m)>>(k), j); \
+    }
 #define S2J_KW_FUNC(T)
 #define S2J_STRICT_FUNC(T)
 #define S2J_GET_FUNC(T, m)
@@ -298,7 +302,7 @@ bool keys_match(const TypeDesc *d, const void *rec, const void *keyword);
     static_assert(::s2j::keyword_record_covers(T##_keys, sizeof(T##Keyword)),                  \
                   #T "Keyword: keyword record does not hold the keys in key order");           \
     static_assert(::s2j::has_scalar_elements<T##Keyword, ::s2j::keyword_scalar_elements(T##_keys)>(), \
-                  #T "Keyword: keyword record holds a member that is not a key");              \
+                  #T "Keyword: keyword record holds other members than the keys");              \
     static_assert(sizeof(T##Keyword) <= ::s2j::kMaxKeywordSize, #T "Keyword: too large");      \
     S2J_API int json_to_struct_##T##Keyword(T##Keyword *keyword, const cJSON *json) {       \
         return ::s2j::read_keys(&::s2j::desc_##T, keyword, json);                              \
