@@ -105,25 +105,26 @@ bool read_list(char *at, uint32_t size, const cJSON *m) {
     uint32_t i = 0;
     for (const cJSON *c = m->child; c != nullptr && i < capacity; c = c->next, ++i) {
         int64_t v;
-        if (!int_of(c, &v)) continue;
+        if (!int_of_item(c, &v)) continue;
         store_u32(at + 4 * i, v);
         stored = true;
     }
     return stored;
 }
 
+// m is not null.
 bool read_field(const Field &f, char *at, const cJSON *m) {
     switch (f.kind) {
         case Kind::I32:
         case Kind::U32: {
             int64_t v;
-            if (!int_of(m, &v)) return false;
+            if (!int_of_item(m, &v)) return false;
             store_u32(at, v);
             return true;
         }
         case Kind::U16: {
             int64_t v;
-            if (!int_of(m, &v)) return false;
+            if (!int_of_item(m, &v)) return false;
             uint16_t low = static_cast<uint16_t>(static_cast<uint64_t>(v));
             std::memcpy(at, &low, sizeof low);
             return true;
@@ -148,7 +149,8 @@ Field keyword_field(const Key &k, uint32_t offset) {
 
 bool read_key(const Key &k, char *keyword, uint32_t offset, const cJSON *json) {
     Field f = keyword_field(k, offset);
-    return read_field(f, keyword + f.offset, cJSON_GetObjectItem(json, f.key));
+    const cJSON *m = cJSON_GetObjectItem(json, f.key);
+    return m != nullptr && read_field(f, keyword + f.offset, m);
 }
 
 }  // namespace

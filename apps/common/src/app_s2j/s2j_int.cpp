@@ -175,6 +175,12 @@ bool read_literal(const char *&p, const char *end, int64_t *value) {
     return true;
 }
 
+// Marks a parsed number that is not an integer literal, with the fingerprint
+// of its value; out of line, as such numbers are rare.
+__attribute__((noinline)) void mark_not_int(cJSON *item) {
+    item->type |= kNotIntMark | fingerprint(item->valuedouble);
+}
+
 // Moves the walk's stack to the heap, with room for cJSON's deepest tree.
 bool grow(cJSON ***stack, size_t *capacity, cJSON **local, size_t depth) {
     const size_t room = CJSON_NESTING_LIMIT + 8;
@@ -223,7 +229,7 @@ cJSON *parse_marked(const char *text, size_t len, bool with_len, const char **pa
         int64_t v = 0;
         skip_to_number(p, end);
         if (!read_literal(p, end, &v)) {
-            item->type |= kNotIntMark | fingerprint(item->valuedouble);
+            mark_not_int(item);
             continue;
         }
         if (v >= kRawThreshold || v <= -kRawThreshold) {

@@ -77,26 +77,28 @@ inline bool is_integral(double d) {
     return static_cast<double>(static_cast<int64_t>(d)) == d;
 }
 
-// cJSON_IsInt() and, when it holds, the item's value in *value: what the
-// readers ask, in one test.
-inline bool int_of(const cJSON *item, int64_t *value) {
-    if (item == nullptr) return false;
+// cJSON_IsInt() and, when it holds, the value in *value, of an item that is
+// not null: what the readers ask, in one test.
+inline bool int_of_item(const cJSON *item, int64_t *value) {
     const int t = item->type;
+    const double d = item->valuedouble;
+    // The usual case: a number without the not-integer mark whose value is a
+    // whole number within int's range, and so its valueint (cJSON and its
+    // setters keep valueint so).
+    if ((t & (0xFF | kNotIntMark)) == cJSON_Number && static_cast<double>(item->valueint) == d) {
+        *value = item->valueint;
+        return true;
+    }
     if ((t & 0xFF) == cJSON_Number) {
-        const double d = item->valuedouble;
-        // A whole number within int's range is its valueint (cJSON and its
-        // setters keep valueint so): one comparison answers the usual case.
-        if (static_cast<double>(item->valueint) == d) {
-            *value = item->valueint;
-        } else if (is_integral(d)) {
-            *value = static_cast<int64_t>(d);
-        } else {
-            return false;
-        }
+        if (!is_integral(d)) return false;
+        *value = static_cast<int64_t>(d);
         return !(t & kNotIntMark) || (t & kFingerprintMask) != fingerprint(d);
     }
     return (t & 0xFF) == cJSON_Raw && (t & kIntMark) && raw_int(item, value);
 }
+
+// The same for any item; false for null.
+inline bool int_of(const cJSON *item, int64_t *value) { return item != nullptr && int_of_item(item, value); }
 
 // cJSON_IsInt(), for the library's own readers.
 inline bool is_int(const cJSON *item) {
