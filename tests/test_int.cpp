@@ -207,4 +207,124 @@ TEST(IsInt, DuplicatedTreeKeepsTheMarks) {
     EXPECT_EQ(print(copy.p), "9223372036854775807");
 }
 
+// What c2s_DeviceTime makes of a tree: its status, the record it leaves and
+// its diagnostics.
+struct Reading {
+    int status;
+    DeviceTime record;
+    std::string diagnostics;
+};
+
+Reading read_device_time(const cJSON *tree) {
+    Reading r{};
+    std::memset(&r.record, 0x5A, sizeof r.record);
+    testing_support::StderrCapture err;
+    r.status = c2s_DeviceTime(tree, &r.record);
+    r.diagnostics = err.text();
+    return r;
+}
+
+// A DeviceTime tree whose "Month" member is item (taking it over).
+cJSON *device_time_with_month(cJSON *item) {
+    cJSON *tree = cJSON_CreateObject();
+    cJSON_AddIntToObject(tree, "Hour", 7);
+    cJSON_AddItemToObject(tree, "Month", item);
+    return tree;
+}
+
+void expect_same_reading(const cJSON *tree, const cJSON *unmarked_tree) {
+    Reading got = read_device_time(tree), want = read_device_time(unmarked_tree);
+    EXPECT_EQ(got.status, want.status);
+    EXPECT_EQ(std::memcmp(&got.record, &want.record, sizeof got.record), 0);
+    EXPECT_EQ(got.diagnostics, want.diagnostics);
+}
+
+TEST(SetNumberValue, FractionOnAnEmittedIntegerItemMakesItNotAnInteger) {
+    DeviceTime t{};
+    t.Month = 3;
+    Tree tree(struct_to_json_DeviceTime(&t));
+    cJSON *month = cJSON_GetObjectItem(tree.p, "Month");
+    ASSERT_TRUE(cJSON_IsInt(month));
+    cJSON_SetNumberValue(month, 2.5);
+    EXPECT_FALSE(cJSON_IsInt(month));
+    DeviceTime r{};
+    r.Month = 9;
+    testing_support::StderrCapture err;
+    EXPECT_EQ(c2s_DeviceTime(tree.p, &r), -1);
+    EXPECT_EQ(r.Month, 9u);
+    EXPECT_EQ(j2s_DeviceTime("{\"Month\": 2.5}", &r), -1);
+    EXPECT_EQ(r.Month, 9u);
+    err.text();
+    Tree unmarked(device_time_with_month(cJSON_CreateNumber(2.5)));
+    Tree changed(device_time_with_month(cJSON_CreateInt(3)));
+    cJSON_SetNumberValue(cJSON_GetObjectItem(changed.p, "Month"), 2.5);
+    expect_same_reading(changed.p, unmarked.p);
+}
+
+TEST(SetNumberValue, WholeValueOnAnIntegerItemIsThatInteger) {
+    Tree item(cJSON_CreateInt(3));
+    cJSON_SetNumberValue(item.p, 70000);
+    EXPECT_TRUE(cJSON_IsInt(item.p));
+    EXPECT_EQ(s2j::int_value(item.p), 70000);
+    EXPECT_EQ(print(item.p), "70000");
+}
+
+TEST(SetNumberValue, SmallValueOnARawIntegerItemGivesThatValue) {
+    Tree item(cJSON_CreateInt(1000000000000000LL));
+    cJSON_SetNumberValue(item.p, 5);
+    EXPECT_TRUE(cJSON_IsInt(item.p));
+    EXPECT_EQ(s2j::int_value(item.p), 5);
+    Tree changed(device_time_with_month(cJSON_CreateInt(1000000000000000LL)));
+    cJSON_SetNumberValue(cJSON_GetObjectItem(changed.p, "Month"), 5);
+    Tree unmarked(device_time_with_month(cJSON_CreateNumber(5)));
+    expect_same_reading(changed.p, unmarked.p);
+    EXPECT_EQ(read_device_time(changed.p).record.Month, 5u);
+}
+
+TEST(SetNumberValue, FractionOnARawIntegerItemMakesItNotAnInteger) {
+    Tree item(cJSON_CreateInt(-1000000000000000LL));
+    cJSON_SetNumberValue(item.p, -0.5);
+    EXPECT_FALSE(cJSON_IsInt(item.p));
+    Tree changed(device_time_with_month(cJSON_CreateInt(INT64_MAX)));
+    cJSON_SetNumberValue(cJSON_GetObjectItem(changed.p, "Month"), 0.25);
+    Tree unmarked(device_time_with_month(cJSON_CreateNumber(0.25)));
+    expect_same_reading(changed.p, unmarked.p);
+}
+
+TEST(SetNumberValue, RawIntegerItemsKeepTheirExactValueUntilSet) {
+    // The text is exact; valuedouble holds its nearest double.
+    Tree item(cJSON_CreateInt(9007199254740993LL * 1000));
+    EXPECT_EQ(s2j::int_value(item.p), 9007199254740993000LL);
+    cJSON_SetNumberValue(item.p, 2e18);
+    EXPECT_TRUE(cJSON_IsInt(item.p));
+    EXPECT_EQ(s2j::int_value(item.p), 2000000000000000000LL);
+}
+
+TEST(SetNumberValue, NewValueOnAParsedNonIntegerMakesItWhatItsValueIs) {
+    Tree tree(parse("[1.0, 2.5, 1e2, 3]"));
+    cJSON *one = tree.p->child, *frac = one->next, *hundred = frac->next, *three = hundred->next;
+    ASSERT_FALSE(cJSON_IsInt(one));
+    ASSERT_FALSE(cJSON_IsInt(frac));
+    ASSERT_FALSE(cJSON_IsInt(hundred));
+    cJSON_SetNumberValue(one, 5);
+    cJSON_SetNumberValue(frac, 2);
+    cJSON_SetNumberValue(three, 3.5);
+    EXPECT_TRUE(cJSON_IsInt(one));
+    EXPECT_EQ(s2j::int_value(one), 5);
+    EXPECT_TRUE(cJSON_IsInt(frac));
+    EXPECT_EQ(s2j::int_value(frac), 2);
+    EXPECT_FALSE(cJSON_IsInt(three));
+    // The same value set again is no change: 1e2 stays not an integer.
+    cJSON_SetNumberValue(hundred, 100);
+    EXPECT_FALSE(cJSON_IsInt(hundred));
+}
+
+TEST(SetNumberValue, ParsedNonIntegerSetToAWholeValueReadsAsThatValue) {
+    Tree changed(parse("{\"Hour\": 7, \"Month\": 4.0}"));
+    cJSON_SetNumberValue(cJSON_GetObjectItem(changed.p, "Month"), 6);
+    Tree unmarked(device_time_with_month(cJSON_CreateNumber(6)));
+    expect_same_reading(changed.p, unmarked.p);
+    EXPECT_EQ(read_device_time(changed.p).status, 0);
+}
+
 }  // namespace

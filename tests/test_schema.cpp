@@ -94,15 +94,30 @@ TEST(Schema, EveryRecordHasExactlyItsFieldsInTableOrderWithTheBoundsOfTheirKinds
     }
 }
 
+// Every field's note says what the field holds: none is empty or only a word
+// for the field's kind ("flag", "count", ...).
+TEST(FieldNotes, EveryFieldHasANoteBeyondItsKind) {
+    const std::vector<std::string> bare = {"flag", "count", "text", "signed", "key", "key field", "path", "port"};
+    for (const s2j::TypeInfo *t : all_types()) {
+        for (uint32_t i = 0; i < t->desc->field_count; ++i) {
+            const std::string note = t->desc->fields[i].note;
+            const std::string where = std::string(t->name) + "." + t->desc->fields[i].key;
+            EXPECT_FALSE(note.empty()) << where;
+            for (const std::string &word : bare) EXPECT_NE(note, word) << where;
+            EXPECT_NE(note.rfind("flag", 0), 0u) << where << ": a flag's note says what 1 and 0 mean: [" << note << "]";
+        }
+    }
+}
+
 TEST(Schema, CTypesInDescriptionsAreTheStructMembersTypes) {
     Tree info(app_s2j_tool::schema_of(*s2j::find_type("DeviceInfo"), false));
     const cJSON *props = at(at(at(info.p, "$defs"), "record"), "properties");
-    EXPECT_EQ(str(at(props, "ProductModel"), "description"), "char[64]");
+    EXPECT_EQ(str(at(props, "ProductModel"), "description"), "char[64]; model designation");
     EXPECT_EQ(str(at(props, "ReleaseDate"), "description"), "char[64]; held as text; not interpreted");
     Tree time(app_s2j_tool::schema_of(*s2j::find_type("DeviceTime"), false));
     props = at(at(at(time.p, "$defs"), "record"), "properties");
     EXPECT_EQ(str(at(props, "UTCTime"), "description"), "int32; signed, unlike the broken-down fields");
-    EXPECT_EQ(str(at(props, "Month"), "description"), "uint32");
+    EXPECT_EQ(str(at(props, "Month"), "description"), "uint32; month of the year; unsigned, not range-checked");
     Tree use(app_s2j_tool::schema_of(*s2j::find_type("StreamingInputUseCount"), false));
     props = at(at(at(use.p, "$defs"), "record"), "properties");
     EXPECT_EQ(str(at(props, "IndexList"), "description"), "uint32[256]; JSON array of integers");

@@ -1,6 +1,6 @@
-// app_s2j.cpp - instantiation list of the text and tree families.
-// One expansion per line (the line is what its diagnostics print), blank
-// lines between types; nothing else belongs below the guard.
+// app_s2j.cpp - instantiation list of the text and tree families, from line 6
+// to the closing guard.  One expansion per line (its diagnostics print it),
+// blank lines between types; a new type goes at the end, moving the guard.
 #include "s2j_families.h"
 static_assert(__LINE__ == 5, "the instantiation list must begin on line 6");
 S2J_DEF_S2J(CrontabCapabilitySet)
@@ -470,3 +470,4 @@ S2J_DEF_J2S_ARRAY_UPDATE(WatermarkDotmatrixParameter)
 S2J_DEF_S2J(UploadWatermarkPictureParameter)
 S2J_DEF_C2S(UploadWatermarkPictureParameter)
 S2J_DEF_J2S(UploadWatermarkPictureParameter)
+static_assert(__LINE__ == 473, "the instantiation list must end on line 472");

@@ -56,7 +56,10 @@ extern "C" {
  * marked the same way: an integer literal (no fraction, no exponent) within
  * the int64_t range becomes an integer item, any other number does not.  In a
  * tree parsed by plain cJSON no item is marked, and an integral number within
- * the int64_t range counts as an integer.
+ * the int64_t range counts as an integer.  An item is an integer when its
+ * current value is one: after cJSON_SetNumberValue() an item counts as an
+ * unmarked number with its new value would (2.5 is no integer, 5 is one),
+ * though cJSON itself still prints a cJSON_Raw item's old text.
  * ====================================================================== */
 
 /* A new integer item holding num exactly, or NULL when out of memory. */

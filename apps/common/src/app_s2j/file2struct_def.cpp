@@ -1,116 +1,116 @@
-// file2struct_def.cpp - the file families; from line 115 their list: per type a
-// line for reading, then one for writing.  Whole texts move between files and
-// the text families; their one diagnostic of their own is a missing file name.
+// file2struct_def.cpp - instantiation list of the file families: f2s_T,
+// s2f_T, f2s_array_T and s2f_array_T for the record types that the device
+// keeps in files, one record or one record array per file.
+//
+// The list begins on line 115 and is the last thing in this file.  Each line
+// of it expands one family member, and that line is what the member's
+// diagnostic prints, so callers' logs name it: lines of the list never move.
+// Per type, its reading member comes first and its writing member on the next
+// line, if it has one (capability sets are only read); one blank line
+// separates types.  The text and tree families of the same types are listed
+// in app_s2j.cpp, from its line 6, in the same way.
+//
+// Adding a type kept in files: append, after one blank line below the last
+// type, S2J_DEF_F2S(T) or S2J_DEF_F2S_ARRAY(T) and, when the library writes
+// the type, S2J_DEF_S2F(T) or S2J_DEF_S2F_ARRAY(T) on the next line; then set
+// the closing guard after the list to the new last line.  The type's text
+// members that they call (app_s2j.cpp) must exist.
+//
+// What one line expands to, for example S2J_DEF_F2S(DeviceInfo) on line 120:
+//
+//   int f2s_DeviceInfo(const char *fine_name, DeviceInfo *struct_ptr) {
+//       const Site site{__FILE__, 120, Family::F2S};
+//       return file_f2s(site, "DeviceInfo", fine_name, struct_ptr,
+//                       [](const char *t, void *p) { return j2s_DeviceInfo(t, (DeviceInfo *)p); });
+//   }
+//
+// The member captures its site (this file, the line of the list, the family)
+// and makes a tail call to the file engine (s2j_files.cpp), passing the
+// type's name for the diagnostic and the type's text member that does the
+// converting.  Its one diagnostic, for a null file name, then reads
+//
+//   "\033[1;31m<ERROR! <this file>:120, f2s_DeviceInfo>: fine_name is empty!\n\033[0m"
+//
+// Statuses of the file members:
+//
+//   situation                                 status  report
+//   fine_name null                            -2      the diagnostic above
+//   file not opened for reading (or a         -15     none
+//   directory), or no memory for its text
+//   text not parsed or not convertible        j2s_T's or j2s_array_T's status (-2, -1) and diagnostic
+//   record or array not turned into text      -15     s2j_T's or s2j_array_T's diagnostic
+//   file not opened for writing               -7      perror("fopen")
+//   file written short                        -7      perror("fwrite"); the file keeps what was written
+//   the text read or written whole            0, or the status of j2s_T or j2s_array_T
+//
+// Reading: the file's size comes from seeking to its end, and its text ends
+// where fread() stops; an empty file is an empty text, which j2s_T refuses.
+// Writing: the file is created or truncated in place (no temporary file, no
+// rename) and receives the formatted text exactly, with no newline added;
+// the stream's descriptor is synced and then the stream is closed, also
+// after a short write.  Each call opens and closes its file within the call,
+// and frees every buffer it allocates before it returns.
+//
+// The registry (registry.cpp) includes this file once more with
+// S2J_REGISTRY_PASS defined and the four macros defined its own way, to
+// record which members each type has and on which line: that pass reads only
+// the list.
 #include "s2j_families.h"
 
 #ifndef S2J_REGISTRY_PASS
-#include <sys/stat.h>
-#include <unistd.h>
-#include <cstdio>
-#include <cstdlib>
-#include <cstring>
-#include "s2j_messages.h"
+#include "s2j_files.h"
 
-namespace s2j {
-namespace {
-
-// The whole file as a nul-terminated text, or null with *status -15 when the
-// file cannot be opened (or is a directory) or its text cannot be held.  The
-// size comes from seeking to the end; the text ends where fread() stopped.
-char *read_text(const char *path, int *status) {
-    *status = -15;
-    FILE *f = std::fopen(path, "r");
-    if (f == nullptr) return nullptr;
-    struct stat st;
-    if (fstat(fileno(f), &st) == 0 && S_ISDIR(st.st_mode)) {
-        std::fclose(f);  // a directory opens, but holds no text to read
-        return nullptr;
+// Each macro below defines a member under its exported name and hands the
+// engine a lambda without captures that calls the type's text member, so that
+// one engine function serves every type.
+// f2s_T(fine_name, struct_ptr): reads the file's text into one record with
+// j2s_T.
+#define S2J_DEF_F2S(T)                                                                             \
+    S2J_API int f2s_##T(const char *fine_name, T *struct_ptr) {                                    \
+        S2J_SITE(F2S);                                                                             \
+        return ::s2j::file_f2s(site, #T, fine_name, struct_ptr, S2J_J2S_OF(T));                    \
     }
-    std::fseek(f, 0, SEEK_END);
-    long size = std::ftell(f);
-    std::fseek(f, 0, SEEK_SET);
-    if (size < 0) size = 0;  // not seekable: read as empty
-    char *text = static_cast<char *>(std::malloc(static_cast<size_t>(size) + 1));
-    if (text == nullptr) {
-        std::fclose(f);
-        return nullptr;
-    }
-    size_t got = std::fread(text, 1, static_cast<size_t>(size), f);
-    text[got] = '\0';
-    std::fclose(f);
-    *status = 0;
-    return text;
-}
+#define S2J_J2S_OF(T) +[](const char *t, void *p) { return j2s_##T(t, static_cast<T *>(p)); }
 
-// Writes text (owned, freed here) to path in place: -15 without text, -7
-// when the file cannot be opened or is written short.  The descriptor is
-// synced before the stream is closed, as the stream hands it over.
-int write_text(const char *path, char *text) {
-    if (text == nullptr) return -15;
-    FILE *f = std::fopen(path, "w");
-    if (f == nullptr) {
-        std::perror("fopen");
-        std::free(text);
-        return -7;
+// s2f_T(fine_name, struct_ptr): writes one record to the file as indented
+// text (files always hold the formatted form of s2j_T).
+#define S2J_DEF_S2F(T)                                                                             \
+    S2J_API int s2f_##T(const char *fine_name, const T *struct_ptr) {                              \
+        S2J_SITE(S2F);                                                                             \
+        return ::s2j::file_s2f(site, #T, fine_name, S2J_S2J_OF(T), struct_ptr, 1);                 \
     }
-    size_t len = std::strlen(text);
-    int rc = 0;
-    if (std::fwrite(text, 1, len, f) < len) {
-        std::perror("fwrite");
-        rc = -7;
+#define S2J_S2J_OF(T) +[](const void *p, uint32_t) { return s2j_##T(static_cast<const T *>(p), 1); }
+
+// f2s_array_T(fine_name, struct_array, struct_array_size): reads the file's
+// text into a record array with j2s_array_T (a null struct_array asks only
+// for the count).
+#define S2J_DEF_F2S_ARRAY(T)                                                                       \
+    S2J_API int f2s_array_##T(const char *fine_name, T *struct_array, uint32_t *struct_array_size) { \
+        S2J_SITE(F2S_ARRAY);                                                                       \
+        return ::s2j::file_f2s_array(site, #T, fine_name, struct_array, struct_array_size,         \
+                                     S2J_J2S_ARRAY_OF(T));                                         \
     }
-    fsync(fileno(f));
-    std::fclose(f);
-    std::free(text);
-    return rc;
-}
+#define S2J_J2S_ARRAY_OF(T) \
+    +[](const char *t, void *p, uint32_t *n) { return j2s_array_##T(t, static_cast<T *>(p), n); }
 
-}  // namespace
-
-// Kept out of line: each of the many members below is then a tail call.
-__attribute__((noinline)) int file_f2s(Site s, const char *type, const char *fine_name, void *rec, int (*j2s)(const char *, void *)) {
-    if (fine_name == nullptr) {
-        diag(s, type, S2J_MSG_FINE_NAME_EMPTY);
-        return -2;
+// s2f_array_T(fine_name, struct_array, struct_array_size): writes a record
+// array to the file as indented text.
+#define S2J_DEF_S2F_ARRAY(T)                                                                       \
+    S2J_API int s2f_array_##T(const char *fine_name, const T *struct_array,                        \
+                              uint32_t struct_array_size) {                                        \
+        S2J_SITE(S2F_ARRAY);                                                                       \
+        return ::s2j::file_s2f(site, #T, fine_name, S2J_S2J_ARRAY_OF(T), struct_array,             \
+                               struct_array_size);                                                 \
     }
-    int rc;
-    char *text = read_text(fine_name, &rc);
-    if (text == nullptr) return rc;
-    rc = j2s(text, rec);
-    std::free(text);
-    return rc;
-}
+#define S2J_S2J_ARRAY_OF(T) \
+    +[](const void *p, uint32_t n) { return s2j_array_##T(static_cast<const T *>(p), n, 1); }
 
-__attribute__((noinline)) int file_f2s_array(Site s, const char *type, const char *fine_name, void *arr, uint32_t *count,
-                   int (*j2s_array)(const char *, void *, uint32_t *)) {
-    if (fine_name == nullptr) {
-        diag(s, type, S2J_MSG_FINE_NAME_EMPTY);
-        return -2;
-    }
-    int rc;
-    char *text = read_text(fine_name, &rc);
-    if (text == nullptr) return rc;
-    rc = j2s_array(text, arr, count);
-    std::free(text);
-    return rc;
-}
-
-__attribute__((noinline)) int file_s2f(Site s, const char *type, const char *fine_name, char *(*make_text)(const void *, uint32_t),
-             const void *data, uint32_t count) {
-    if (fine_name == nullptr) {
-        diag(s, type, S2J_MSG_FINE_NAME_EMPTY);
-        return -2;
-    }
-    return write_text(fine_name, make_text(data, count));
-}
-
-}  // namespace s2j
-// Files always hold indented JSON: the writers ask for formatted text.
-#define S2J_DEF_F2S(T) S2J_API int f2s_##T(const char *fine_name, T *struct_ptr) { S2J_SITE(F2S); return ::s2j::file_f2s(site, #T, fine_name, struct_ptr, +[](const char *t, void *p) { return j2s_##T(t, static_cast<T *>(p)); }); }
-#define S2J_DEF_S2F(T) S2J_API int s2f_##T(const char *fine_name, const T *struct_ptr) { S2J_SITE(S2F); return ::s2j::file_s2f(site, #T, fine_name, +[](const void *p, uint32_t) { return s2j_##T(static_cast<const T *>(p), 1); }, struct_ptr, 1); }
-#define S2J_DEF_F2S_ARRAY(T) S2J_API int f2s_array_##T(const char *fine_name, T *struct_array, uint32_t *struct_array_size) { S2J_SITE(F2S_ARRAY); return ::s2j::file_f2s_array(site, #T, fine_name, struct_array, struct_array_size, +[](const char *t, void *p, uint32_t *n) { return j2s_array_##T(t, static_cast<T *>(p), n); }); }
-#define S2J_DEF_S2F_ARRAY(T) S2J_API int s2f_array_##T(const char *fine_name, const T *struct_array, uint32_t struct_array_size) { S2J_SITE(S2F_ARRAY); return ::s2j::file_s2f(site, #T, fine_name, +[](const void *p, uint32_t n) { return s2j_array_##T(static_cast<const T *>(p), n, 1); }, struct_array, struct_array_size); }
 #endif  // S2J_REGISTRY_PASS
+
+// ---- The list -------------------------------------------------------------
+// From line 115 to the closing guard after it.  The two guards fail the build
+// when a line of the list moves: the guard below when a line is added or taken
+// away above the list, the closing guard when one is inside it.
 static_assert(__LINE__ == 114, "the instantiation list must begin on line 115");
 S2J_DEF_F2S(CrontabCapabilitySet)
 
@@ -316,3 +316,4 @@ S2J_DEF_S2F_ARRAY(WatermarkPictureParameter)
 
 S2J_DEF_F2S_ARRAY(WatermarkDotmatrixParameter)
 S2J_DEF_S2F_ARRAY(WatermarkDotmatrixParameter)
+static_assert(__LINE__ == 319, "the instantiation list must end on line 318");

@@ -12,25 +12,6 @@ namespace s2j {
 
 namespace {
 
-// One integer member.  For the caller's tree an integer item under a copy of
-// the key; for a tree to be printed a raw item holding the decimal text
-// (cJSON copies a raw item's text to the output instead of formatting a
-// double through sprintf and checking it with sscanf), under the constant
-// key.  A member whose item cannot be made is left out.
-void add_int(cJSON *obj, const char *key, int64_t v, char **ints) {
-    if (ints == nullptr) {
-        cJSON_AddIntToObject(obj, key, v);
-        return;
-    }
-    cJSON *item = cJSON_CreateNull();
-    if (item == nullptr) return;
-    char *text = *ints;
-    *ints = format_int(v, text) + std::strlen(text) + 1;
-    item->type = cJSON_Raw | cJSON_IsReference;  // the text is not the item's to free
-    item->valuestring = text;
-    cJSON_AddItemToObjectCS(obj, key, item);  // cannot fail: obj, key and item are non-null
-}
-
 // A string member whose text is terminated within the field.
 void add_string(cJSON *obj, const char *key, const char *text, bool print_only) {
     if (!print_only) {
@@ -103,8 +84,8 @@ cJSON *emit_record(const TypeDesc *d, const void *rec, char **ints) {
 
 namespace {
 
-void store_u32(char *at, const cJSON *m) {
-    uint32_t v = static_cast<uint32_t>(static_cast<uint64_t>(int_value(m)));
+void store_u32(char *at, int64_t value) {
+    uint32_t v = static_cast<uint32_t>(static_cast<uint64_t>(value));
     std::memcpy(at, &v, sizeof v);
 }
 
@@ -123,24 +104,29 @@ bool read_list(char *at, uint32_t size, const cJSON *m) {
     uint32_t capacity = size / 4;
     uint32_t i = 0;
     for (const cJSON *c = m->child; c != nullptr && i < capacity; c = c->next, ++i) {
-        if (!is_int(c)) continue;
-        store_u32(at + 4 * i, c);
+        int64_t v;
+        if (!int_of_item(c, &v)) continue;
+        store_u32(at + 4 * i, v);
         stored = true;
     }
     return stored;
 }
 
+// m is not null.
 bool read_field(const Field &f, char *at, const cJSON *m) {
     switch (f.kind) {
         case Kind::I32:
-        case Kind::U32:
-            if (!is_int(m)) return false;
-            store_u32(at, m);
+        case Kind::U32: {
+            int64_t v;
+            if (!int_of_item(m, &v)) return false;
+            store_u32(at, v);
             return true;
+        }
         case Kind::U16: {
-            if (!is_int(m)) return false;
-            uint16_t v = static_cast<uint16_t>(static_cast<uint64_t>(int_value(m)));
-            std::memcpy(at, &v, sizeof v);
+            int64_t v;
+            if (!int_of_item(m, &v)) return false;
+            uint16_t low = static_cast<uint16_t>(static_cast<uint64_t>(v));
+            std::memcpy(at, &low, sizeof low);
             return true;
         }
         case Kind::Str:
@@ -163,7 +149,8 @@ Field keyword_field(const Key &k, uint32_t offset) {
 
 bool read_key(const Key &k, char *keyword, uint32_t offset, const cJSON *json) {
     Field f = keyword_field(k, offset);
-    return read_field(f, keyword + f.offset, cJSON_GetObjectItem(json, f.key));
+    const cJSON *m = cJSON_GetObjectItem(json, f.key);
+    return m != nullptr && read_field(f, keyword + f.offset, m);
 }
 
 }  // namespace

@@ -12,8 +12,10 @@
 #include <cstdint>
 #include <cstring>
 #include <type_traits>
+#include <utility>
 
 #include "app_s2j.h"
+#include "s2j_int.h"
 
 namespace s2j {
 
@@ -68,8 +70,6 @@ struct TypeDesc {
 
 // The most fields a record may have (the reader keeps one slot per field).
 inline constexpr uint32_t kMaxFields = 64;
-// Room for the decimal text of one 32-bit integer and its NUL.
-inline constexpr uint32_t kIntTextSize = 12;
 
 // ---- Kinds from C types ------------------------------------------------
 
@@ -87,8 +87,9 @@ constexpr uint32_t align_of(Kind k) {
 
 // Replays the natural C layout of the table's kinds and sizes: true when each
 // row sits exactly where the previous one ends (after alignment) and the last
-// one ends where the struct does.  A member left out, repeated or out of order
-// breaks this.
+// one ends where the struct does.  A row repeated or out of order breaks this,
+// and so does a member left out, unless it would sit where padding would
+// otherwise be (the member count below catches that one).
 constexpr bool covers(const Field *f, size_t n, size_t struct_size) {
     size_t end = 0, max_align = 1;
     for (size_t i = 0; i < n; ++i) {
@@ -145,6 +146,40 @@ constexpr bool keys_as_written(const Field *f, size_t n) {
     return true;
 }
 
+// Member count: the struct's own count of scalar elements, every element of
+// an array member counted (char[64] counts 64), is the largest number of
+// initializers that aggregate initialization of the struct accepts (brace
+// elision spreads them over the arrays).  The table's rows give the same
+// count; a member left out makes the table's count smaller even where the
+// member would sit in padding, which the layout replay above cannot see.
+
+// Converts to any scalar type, never to an array: an initializer of it
+// starts the next scalar element of the struct.
+struct AnyScalar {
+    template <class U>
+    constexpr operator U() const noexcept { return U{}; }
+};
+
+template <class T, class Indices, class = void>
+struct TakesInitializers : std::false_type {};
+template <class T, size_t... I>
+struct TakesInitializers<T, std::index_sequence<I...>,
+                         std::void_t<decltype(T{(static_cast<void>(I), AnyScalar{})...})>> : std::true_type {};
+
+// True when aggregate initialization of T takes n initializers but not n + 1.
+template <class T, size_t n>
+constexpr bool has_scalar_elements() {
+    return std::is_aggregate_v<T> && TakesInitializers<T, std::make_index_sequence<n>>::value &&
+           !TakesInitializers<T, std::make_index_sequence<n + 1>>::value;
+}
+
+constexpr size_t scalar_elements(const Field *f, size_t n) {
+    size_t count = 0;
+    for (size_t i = 0; i < n; ++i)
+        count += f[i].kind == Kind::Str ? f[i].size : f[i].kind == Kind::U32List ? f[i].size / 4 : 1;
+    return count;
+}
+
 constexpr uint32_t int_text_bytes(const Field *f, size_t n) {
     uint32_t bytes = 0;
     for (size_t i = 0; i < n; ++i) {
@@ -182,59 +217,31 @@ constexpr bool has_key_twins(const Field *f, size_t n) {
     return false;
 }
 
+// The key fields as the keyword record holds them: a string key as char[64].
+template <size_t N>
+struct KeywordFields {
+    Field f[N];
+};
+template <size_t N>
+constexpr KeywordFields<N> keyword_fields(const Key (&k)[N]) {
+    KeywordFields<N> kw = {};
+    for (size_t i = 0; i < N; ++i) {
+        kw.f[i] = k[i].field;
+        kw.f[i].offset = k[i].keyword_offset;
+        if (kw.f[i].kind == Kind::Str) kw.f[i].size = kKeyStringSize;
+    }
+    return kw;
+}
+
 template <size_t N>
 constexpr bool keyword_record_covers(const Key (&k)[N], size_t struct_size) {
-    Field f[N] = {};
-    for (size_t i = 0; i < N; ++i) {
-        f[i] = k[i].field;
-        f[i].offset = k[i].keyword_offset;
-        if (f[i].kind == Kind::Str) f[i].size = kKeyStringSize;
-    }
-    return covers(f, N, struct_size);
+    return covers(keyword_fields(k).f, N, struct_size);
 }
 
-// ---- Integer items (s2j_int.cpp, s2j_parse.cpp) ------------------------
-
-inline constexpr int kIntMark = 1 << 12;     // an integer item
-inline constexpr int kNotIntMark = 1 << 13;  // a parsed number that is not one
-inline constexpr int64_t kRawThreshold = 1000000000000000LL;  // 10^15: raw form from here
-inline constexpr double kTwo63 = 9223372036854775808.0;
-
-inline int type_of(const cJSON *item) { return item->type & 0xFF; }
-
-// Decimal text of v into buf (at least 21 bytes); returns buf.
-char *format_int(int64_t v, char *buf);
-// The int nearest to v, as cJSON keeps in valueint.
-int saturate_int(int64_t v);
-
-// cJSON_IsInt(), for the library's own readers.
-inline bool is_int(const cJSON *item) {
-    if (item == nullptr || (item->type & kNotIntMark)) return false;
-    if (item->type & kIntMark) return type_of(item) == cJSON_Number || type_of(item) == cJSON_Raw;
-    if (type_of(item) != cJSON_Number) return false;
-    double d = item->valuedouble;
-    if (!(d >= -kTwo63 && d < kTwo63)) return false;  // NaN fails too
-    return static_cast<double>(static_cast<int64_t>(d)) == d;
+template <size_t N>
+constexpr size_t keyword_scalar_elements(const Key (&k)[N]) {
+    return scalar_elements(keyword_fields(k).f, N);
 }
-
-// Integer value of a raw integer item.
-int64_t raw_int_value(const cJSON *item);
-// Integer value of an item for which cJSON_IsInt() holds.
-inline int64_t int_value(const cJSON *item) {
-    if (type_of(item) == cJSON_Raw) return raw_int_value(item);
-    return static_cast<int64_t>(item->valuedouble);
-}
-
-// Parses text as cJSON_Parse (nul-terminated text) or cJSON_ParseWithLength
-// (with_len, len bytes) does, then marks every number item as an integer
-// item or not from its literal in the text.  Null when the text does not
-// parse, or when memory for a raw integer's text runs out.  With parse_end,
-// *parse_end receives where the document ends in the text.
-cJSON *parse_marked(const char *text, size_t len, bool with_len, const char **parse_end = nullptr);
-// Reads the number literal at p (a '-' or a digit), moving p past its run of
-// number characters: true when it is an integer literal (no fraction, no
-// exponent) within the int64_t range, with its value in *value.
-bool read_literal(const char *&p, const char *end, int64_t *value);
 
 // ---- Engines (s2j_codec.cpp) ------------------------------------------
 
@@ -296,6 +303,9 @@ bool keys_match(const TypeDesc *d, const void *rec, const void *keyword);
 #define S2J_CHECK_TABLE(T)                                                                    \
     static_assert(::s2j::covers(T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0]), sizeof(T)), \
                   #T ": field table does not match the struct member for member");             \
+    static_assert(::s2j::has_scalar_elements<T, ::s2j::scalar_elements(                       \
+                      T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0]))>(),               \
+                  #T ": field table does not list every member once");                         \
     static_assert(sizeof(T##_fields) / sizeof(T##_fields[0]) <= ::s2j::kMaxFields, #T ": too many fields"); \
     static_assert(sizeof(T##_fields) / sizeof(T##_fields[0]) > 0, #T ": no fields");                  \
     static_assert(::s2j::keys_as_written(T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0])),      \
@@ -324,9 +334,13 @@ bool keys_match(const TypeDesc *d, const void *rec, const void *keyword);
         keyword, get, kwsize};                                                                 \
     }
 #define S2J_FUNCS(T)
-#define S2J_KW_FN(T) +[](void *k, const cJSON *j) { return json_to_struct_##T##Keyword(static_cast<T##Keyword *>(k), j); }
+#define S2J_KW_FN(T) \
+    +[](void *k, const cJSON *j) { return json_to_struct_##T##Keyword(static_cast<T##Keyword *>(k), j); }
 #define S2J_STRICT_FN(T) +[](void *k, const cJSON *j) { return json_to_struct_##T##Keyword(static_cast<T *>(k), j); }
-#define S2J_GET_FN(T, m) +[](void *k, const cJSON *j) { return json_to_struct_Get##T##Keyword(static_cast<::s2j::GetArg<decltype(T::m)>>(k), j); }
+#define S2J_GET_FN(T, m)                                                                          \
+    +[](void *k, const cJSON *j) {                                                                \
+        return json_to_struct_Get##T##Keyword(static_cast<::s2j::GetArg<decltype(T::m)>>(k), j); \
+    }
 #define S2J_KW_FUNC(T)
 #define S2J_STRICT_FUNC(T)
 #define S2J_GET_FUNC(T, m)
@@ -345,6 +359,8 @@ bool keys_match(const TypeDesc *d, const void *rec, const void *keyword);
 #define S2J_KW_FUNC(T)                                                                         \
     static_assert(::s2j::keyword_record_covers(T##_keys, sizeof(T##Keyword)),                  \
                   #T "Keyword: keyword record does not hold the keys in key order");           \
+    static_assert(::s2j::has_scalar_elements<T##Keyword, ::s2j::keyword_scalar_elements(T##_keys)>(), \
+                  #T "Keyword: keyword record holds other members than the keys");              \
     static_assert(sizeof(T##Keyword) <= ::s2j::kMaxKeywordSize, #T "Keyword: too large");      \
     S2J_API int json_to_struct_##T##Keyword(T##Keyword *keyword, const cJSON *json) {       \
         return ::s2j::read_keys(&::s2j::desc_##T, keyword, json);                              \

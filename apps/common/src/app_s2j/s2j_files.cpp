@@ -1,0 +1,108 @@
+// s2j_files.cpp - the engine of the file families (see s2j_files.h); their
+// members are listed in file2struct_def.cpp.
+#include "s2j_files.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+#include "s2j_messages.h"
+
+namespace s2j {
+namespace {
+
+// The whole file as a nul-terminated text, or null with *status -15 when the
+// file cannot be opened (or is a directory) or its text cannot be held.  The
+// size comes from seeking to the end; the text ends where fread() stopped.
+char *read_text(const char *path, int *status) {
+    *status = -15;
+    FILE *f = std::fopen(path, "r");
+    if (f == nullptr) return nullptr;
+    struct stat st;
+    if (fstat(fileno(f), &st) == 0 && S_ISDIR(st.st_mode)) {
+        std::fclose(f);  // a directory opens, but holds no text to read
+        return nullptr;
+    }
+    std::fseek(f, 0, SEEK_END);
+    long size = std::ftell(f);
+    std::fseek(f, 0, SEEK_SET);
+    if (size < 0) size = 0;  // not seekable: read as empty
+    char *text = static_cast<char *>(std::malloc(static_cast<size_t>(size) + 1));
+    if (text == nullptr) {
+        std::fclose(f);
+        return nullptr;
+    }
+    size_t got = std::fread(text, 1, static_cast<size_t>(size), f);
+    text[got] = '\0';
+    std::fclose(f);
+    *status = 0;
+    return text;
+}
+
+// Writes text (owned, freed here) to path in place: -15 without text, -7
+// when the file cannot be opened or is written short.  The descriptor is
+// synced before the stream is closed, as the stream hands it over.
+int write_text(const char *path, char *text) {
+    if (text == nullptr) return -15;
+    FILE *f = std::fopen(path, "w");
+    if (f == nullptr) {
+        std::perror("fopen");
+        std::free(text);
+        return -7;
+    }
+    size_t len = std::strlen(text);
+    int rc = 0;
+    if (std::fwrite(text, 1, len, f) < len) {
+        std::perror("fwrite");
+        rc = -7;
+    }
+    fsync(fileno(f));
+    std::fclose(f);
+    std::free(text);
+    return rc;
+}
+
+}  // namespace
+
+// Kept out of line: each of the many members of the list is then a tail call.
+__attribute__((noinline)) int file_f2s(Site s, const char *type, const char *fine_name, void *rec,
+                                       int (*j2s)(const char *, void *)) {
+    if (fine_name == nullptr) {
+        diag(s, type, S2J_MSG_FINE_NAME_EMPTY);
+        return -2;
+    }
+    int rc;
+    char *text = read_text(fine_name, &rc);
+    if (text == nullptr) return rc;
+    rc = j2s(text, rec);
+    std::free(text);
+    return rc;
+}
+
+__attribute__((noinline)) int file_f2s_array(Site s, const char *type, const char *fine_name, void *arr,
+                                             uint32_t *count, int (*j2s_array)(const char *, void *, uint32_t *)) {
+    if (fine_name == nullptr) {
+        diag(s, type, S2J_MSG_FINE_NAME_EMPTY);
+        return -2;
+    }
+    int rc;
+    char *text = read_text(fine_name, &rc);
+    if (text == nullptr) return rc;
+    rc = j2s_array(text, arr, count);
+    std::free(text);
+    return rc;
+}
+
+__attribute__((noinline)) int file_s2f(Site s, const char *type, const char *fine_name,
+                                       char *(*make_text)(const void *, uint32_t), const void *data, uint32_t count) {
+    if (fine_name == nullptr) {
+        diag(s, type, S2J_MSG_FINE_NAME_EMPTY);
+        return -2;
+    }
+    return write_text(fine_name, make_text(data, count));
+}
+
+}  // namespace s2j
