@@ -49,7 +49,8 @@ expect_contains "$(dpkg-deb -f "$tools_deb" Depends)" "$runtime (>= " "$tools De
 # The shlibs and symbols the runtime package gives its users.
 dpkg-deb --ctrl-tarfile "$runtime_deb" | tar -x -C "$tmp" ./shlibs ./symbols ./triggers 2>/dev/null
 expect_eq "$(cat "$tmp/shlibs" 2>/dev/null)" "libapp_s2j $major $runtime (>= $want_version)" "$runtime shlibs"
-expect_eq "$(grep -c '@Base' "$tmp/symbols" 2>/dev/null)" "$(grep -c -v '^#' "$src/apps/common/src/app_s2j/app_s2j.symbols")" \
+committed=$src/apps/common/src/app_s2j/app_s2j.symbols
+expect_eq "$(grep -c '@Base' "$tmp/symbols" 2>/dev/null)" "$(grep -c -v '^#' "$committed")" \
   "symbols in $runtime"
 expect_contains "$(cat "$tmp/triggers" 2>/dev/null)" "activate-noawait ldconfig" "$runtime ldconfig trigger"
 
@@ -57,7 +58,8 @@ check "apt-get installs the three packages" \
   env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq "$runtime_deb" "$dev_deb" "$tools_deb"
 multiarch=$(dpkg-architecture -qDEB_HOST_MULTIARCH 2>/dev/null || gcc -print-multiarch)
 lib=/usr/lib/$multiarch/libapp_s2j.so.$major
-for f in "$lib" "/usr/lib/$multiarch/libapp_s2j.so" /usr/include/app_s2j/app_s2j.h /usr/include/app_s2j/app_s2j_types.h \
+for f in "$lib" "/usr/lib/$multiarch/libapp_s2j.so" \
+         /usr/include/app_s2j/app_s2j.h /usr/include/app_s2j/app_s2j_types.h \
          "/usr/lib/$multiarch/pkgconfig/app_s2j.pc" "/usr/lib/$multiarch/cmake/app_s2j/app_s2jConfig.cmake" \
          /usr/bin/app_s2j /usr/share/man/man1/app_s2j.1.gz /usr/share/man/man3/app_s2j.3.gz \
          "/usr/share/doc/$runtime/copyright" "/usr/share/doc/$runtime/changelog.gz"; do
@@ -75,10 +77,12 @@ expect_eq "$(pkg-config --modversion app_s2j 2>&1)" "$version" "pkg-config --mod
 mkdir -p "$tmp/mk"
 check "examples/c-consumer builds with make and pkg-config against /usr" \
   make -C "$tmp/mk" -f "$src/examples/c-consumer/Makefile" VPATH="$src/examples/c-consumer"
-ldd "$tmp/mk/schedule_request" 2>&1 | grep -q -E "libapp_s2j.so.$major => (/usr)?/lib/$multiarch/libapp_s2j.so.$major" && ok ||
+ldd "$tmp/mk/schedule_request" 2>&1 |
+  grep -q -E "libapp_s2j.so.$major => (/usr)?/lib/$multiarch/libapp_s2j.so.$major" && ok ||
   fail "schedule_request does not load $lib"
 schedule_request_checks "schedule_request (pkg-config, /usr)" "$tmp/mk/schedule_request"
-check "examples/c-consumer configures with find_package against /usr" cmake -S "$src/examples/c-consumer" -B "$tmp/ebuild"
+check "examples/c-consumer configures with find_package against /usr" \
+  cmake -S "$src/examples/c-consumer" -B "$tmp/ebuild"
 check "examples/c-consumer builds with CMake against /usr" cmake --build "$tmp/ebuild"
 schedule_request_checks "schedule_request (CMake, /usr)" "$tmp/ebuild/schedule_request"
 check "tests/consumer (both include spellings) builds with CMake against /usr" \
