@@ -27,6 +27,12 @@ for f in "$prefix/include/app_s2j/app_s2j.h" "$prefix/include/app_s2j/app_s2j_ty
   [ -e "$f" ] && ok || fail "installed $f"
 done
 lib=$(readlink -f "$libdir/libapp_s2j.so.1")
+# The manual pages: app_s2j(3) always, app_s2j(1) with the tool.
+[ -e "$prefix/share/man/man3/app_s2j.3" ] && ok || fail "installed share/man/man3/app_s2j.3"
+if [ -e "$build/tools/app_s2j" ]; then
+  [ -x "$prefix/bin/app_s2j" ] && ok || fail "installed bin/app_s2j"
+  [ -e "$prefix/share/man/man1/app_s2j.1" ] && ok || fail "installed share/man/man1/app_s2j.1"
+fi
 
 # Soname and dynamic dependencies: the C library and cJSON only.
 soname=$(readelf -d "$lib" | sed -n 's/.*(SONAME).*\[\(.*\)\]/\1/p')
@@ -44,20 +50,29 @@ if [ "$declared" = "$exported" ]; then ok; else fail "exports differ from declar
 [ -z "$others" ] && ok || fail "other exported symbols: $others"
 [ "$(echo "$exported" | wc -l)" -gt 10 ] && ok || fail "too few exports"
 
-# A C99 consumer through pkg-config.
+# A C99 consumer through pkg-config, and through the CMake package, for each
+# spelling of the include: <app_s2j.h> and <app_s2j/app_s2j.h>.
 export PKG_CONFIG_PATH=$libdir/pkgconfig
 check "pkg-config finds app_s2j" pkg-config --exists app_s2j
-check "C99 consumer compiles against the installed header (pkg-config)" \
-  "$cc" -std=c99 -pedantic-errors -Wall -Wextra -Werror "${extra[@]}" "$src/tests/consumer/consumer.c" \
-     $(pkg-config --cflags --libs app_s2j) -o "$tmp/consumer"
 mkdir -p "$tmp/data"
-if LD_LIBRARY_PATH=$libdir "${run[@]}" "$tmp/consumer" "$tmp/data" > "$tmp/run" 2>&1 && grep -q "consumer ok" "$tmp/run"; then ok; else fail "pkg-config consumer runs"; cat "$tmp/run"; fi
-
-# The same through the CMake package.
+for form in plain dir; do
+  defs=()
+  [ "$form" = dir ] && defs=(-DAPP_S2J_INCLUDE_DIR_FORM)
+  check "C99 consumer ($form include form) compiles against the installed header (pkg-config)" \
+    "$cc" -std=c99 -pedantic-errors -Wall -Wextra -Werror "${extra[@]}" "${defs[@]}" "$src/tests/consumer/consumer.c" \
+       $(pkg-config --cflags --libs app_s2j) -o "$tmp/consumer_$form"
+  if LD_LIBRARY_PATH=$libdir "${run[@]}" "$tmp/consumer_$form" "$tmp/data" > "$tmp/run" 2>&1 &&
+     grep -q "consumer ok" "$tmp/run"; then ok
+  else fail "pkg-config consumer ($form include form) runs"; cat "$tmp/run"; fi
+done
 check "CMake consumer configures" cmake -S "$src/tests/consumer" -B "$tmp/cbuild" -DCMAKE_PREFIX_PATH="$prefix" "${cmake_cross[@]}" \
   -DCMAKE_C_FLAGS="${extra[*]}" -DCMAKE_EXE_LINKER_FLAGS="${extra[*]}"
-check "CMake consumer builds" cmake --build "$tmp/cbuild"
-if LD_LIBRARY_PATH=$libdir "${run[@]}" "$tmp/cbuild/consumer" "$tmp/data" > "$tmp/run" 2>&1 && grep -q "consumer ok" "$tmp/run"; then ok; else fail "CMake consumer runs"; cat "$tmp/run"; fi
+check "CMake consumer builds (both include forms)" cmake --build "$tmp/cbuild"
+for exe in consumer consumer_dir_form; do
+  if LD_LIBRARY_PATH=$libdir "${run[@]}" "$tmp/cbuild/$exe" "$tmp/data" > "$tmp/run" 2>&1 &&
+     grep -q "consumer ok" "$tmp/run"; then ok
+  else fail "CMake consumer $exe runs"; cat "$tmp/run"; fi
+done
 
 # The example consumer, examples/c-consumer: through its Makefile (pkg-config)
 # and through its CMake project, each built and run against the install.

@@ -41,10 +41,21 @@ std::string StderrCapture::text() {
 
 StderrCapture::~StderrCapture() { text(); }
 
-std::string text_list_file() { return std::string(APP_S2J_SOURCE_DIR) + "/apps/common/src/app_s2j/app_s2j.cpp"; }
-std::string file_list_file() {
-    return std::string(APP_S2J_SOURCE_DIR) + "/apps/common/src/app_s2j/file2struct_def.cpp";
+// The library's diagnostics name their source file as the compiler gives it
+// (__FILE__).  This file is compiled with the same flags, so its own __FILE__,
+// <root>/tests/support.cpp, shows the same form of <root>: the absolute source
+// directory, or what -ffile-prefix-map makes of it (the Debian package build
+// gives "./").
+static std::string source_root_as_compiled() {
+    const std::string self = __FILE__;
+    const std::string tail = "tests/support.cpp";
+    if (self.size() < tail.size() || self.compare(self.size() - tail.size(), tail.size(), tail) != 0)
+        return std::string(APP_S2J_SOURCE_DIR) + "/";
+    return self.substr(0, self.size() - tail.size());
 }
+
+std::string text_list_file() { return source_root_as_compiled() + "apps/common/src/app_s2j/app_s2j.cpp"; }
+std::string file_list_file() { return source_root_as_compiled() + "apps/common/src/app_s2j/file2struct_def.cpp"; }
 
 bool exported(const std::string &name) { return dlsym(RTLD_DEFAULT, name.c_str()) != nullptr; }
 

@@ -1,6 +1,13 @@
 /* A C99 caller of the installed library: includes only the public header,
-   links with -lapp_s2j -lcjson, and exercises one call of each kind. */
+   links with -lapp_s2j -lcjson, and exercises one call of each kind.
+   Built twice: with the header included as <app_s2j.h>, and (with
+   APP_S2J_INCLUDE_DIR_FORM defined) as <app_s2j/app_s2j.h>, the form that
+   <cjson/cJSON.h> teaches; both reach the installed header. */
+#ifdef APP_S2J_INCLUDE_DIR_FORM
+#include <app_s2j/app_s2j.h>
+#else
 #include <app_s2j.h>
+#endif
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
