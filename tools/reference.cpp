@@ -115,7 +115,10 @@ std::string keys_of(const s2j::TypeInfo &t) {
     const bool one = d.key_count == 1;
     if (t.hooks->keyword)
         readers.push_back(code("json_to_struct_" + n + "Keyword") + " reads " +
-                          (one ? std::string("it") : d.key_count == 2 ? std::string("both") : "all " + std::to_string(d.key_count)) + " into a " +
+                          (one                 ? std::string("it")
+                           : d.key_count == 2 ? std::string("both")
+                                              : "all " + std::to_string(d.key_count)) +
+                          " into a " +
                           code(n + "Keyword") + (one ? " (required)" : ", each required"));
     if (t.hooks->get_keyword) {
         const s2j::Field &first = d.keys[0].field;

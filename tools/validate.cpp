@@ -728,7 +728,8 @@ Validation validate_text(const s2j::TypeInfo &t, const std::string &whole, bool 
             // Its keys are missing, which is already an error.
         } else if (array_reader) {
             check.add(Finding::kWarning, place,
-                      "expected an object, found " + describe(e) + "; the library reads it as a record with no members");
+                      "expected an object, found " + describe(e) +
+                      "; the library reads it as a record with no members");
         } else {
             check.add(Finding::kError, place,
                       "expected an object, found " + describe(e) + "; " + t.name +

@@ -27,7 +27,8 @@ struct Site {
     uint32_t line;
     Family fam;
 };
-static_assert(sizeof(Site) == (sizeof(void *) == 8 ? 16 : 12), "a site travels in two registers (three on 32-bit targets)");
+static_assert(sizeof(Site) == (sizeof(void *) == 8 ? 16 : 12),
+              "a site travels in two registers (three on 32-bit targets)");
 
 // The three writes of a diagnostic: header (file, line and the member's
 // name, made of the family's prefix, the type and the family's suffix),
