@@ -35,6 +35,13 @@ public:
         long n = std::ftell(mem_);
         return std::string(buf_, n > 0 ? static_cast<size_t>(n) : 0);
     }
+    ~ErrorStream() {
+        std::fclose(mem_);
+        std::free(buf_);
+        unlink(file_.c_str());
+    }
+    ErrorStream(const ErrorStream &) = delete;
+    ErrorStream &operator=(const ErrorStream &) = delete;
     const std::string &file() const { return file_; }
 
 private:
