@@ -2,8 +2,6 @@
 // tool, for the record type the input's header names (fuzz_input.h): it must
 // neither crash nor leak, and its verdict must be the library's own - the
 // document loaded through the library's families as the tool loads it.
-#include <unistd.h>
-
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -12,20 +10,6 @@
 #include "fuzz_input.h"
 #include "validate.h"
 
-namespace {
-
-// One scratch file per process, for the types read through the file families.
-const std::string &scratch() {
-    static const std::string path = [] {
-        char dir[] = "/tmp/app_s2j_fuzz_XXXXXX";
-        if (mkdtemp(dir) == nullptr) std::abort();
-        return std::string(dir) + "/doc.json";
-    }();
-    return path;
-}
-
-}  // namespace
-
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     fuzz::Input in;
     if (!fuzz::decode(data, size, &in)) return 0;
@@ -33,12 +17,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     const std::string text(reinterpret_cast<const char *>(in.text), in.len);
 
     app_s2j_tool::Validation v = app_s2j_tool::validate_text(t, text, false);
-    FILE *f = std::fopen(scratch().c_str(), "wb");
-    if (f == nullptr) std::abort();
-    std::fwrite(text.data(), 1, text.size(), f);
-    std::fclose(f);
     app_s2j_tool::Loaded loaded;
-    int rc = app_s2j_tool::load(t, scratch(), text, &loaded);
+    int rc = app_s2j_tool::load(t, text, &loaded);
     if (v.accepted() != (rc == 0)) {
         std::fprintf(stderr, "validate and the library disagree on %s: validator %s, library status %d\n%s", t.name,
                      v.accepted() ? "accepts" : "rejects", rc, app_s2j_tool::format_findings("input", v).c_str());
