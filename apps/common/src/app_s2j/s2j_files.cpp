@@ -65,43 +65,42 @@ int write_text(const char *path, char *text) {
     return rc;
 }
 
+// A null file name, reported as every file member reports it.
+bool no_file_name(Site s, const char *type, const char *fine_name) {
+    if (fine_name != nullptr) return false;
+    diag(s, type, S2J_MSG_FINE_NAME_EMPTY);
+    return true;
+}
+
+// The one body of the two readers: the file's whole text, handed to the
+// text member that reads it, then freed.
+template <class Read>
+int read_file(Site s, const char *type, const char *fine_name, Read read) {
+    if (no_file_name(s, type, fine_name)) return -2;
+    int rc;
+    char *text = read_text(fine_name, &rc);
+    if (text == nullptr) return rc;
+    rc = read(text);
+    std::free(text);
+    return rc;
+}
+
 }  // namespace
 
 // Kept out of line: each of the many members of the list is then a tail call.
 __attribute__((noinline)) int file_f2s(Site s, const char *type, const char *fine_name, void *rec,
                                        int (*j2s)(const char *, void *)) {
-    if (fine_name == nullptr) {
-        diag(s, type, S2J_MSG_FINE_NAME_EMPTY);
-        return -2;
-    }
-    int rc;
-    char *text = read_text(fine_name, &rc);
-    if (text == nullptr) return rc;
-    rc = j2s(text, rec);
-    std::free(text);
-    return rc;
+    return read_file(s, type, fine_name, [&](const char *text) { return j2s(text, rec); });
 }
 
 __attribute__((noinline)) int file_f2s_array(Site s, const char *type, const char *fine_name, void *arr,
                                              uint32_t *count, int (*j2s_array)(const char *, void *, uint32_t *)) {
-    if (fine_name == nullptr) {
-        diag(s, type, S2J_MSG_FINE_NAME_EMPTY);
-        return -2;
-    }
-    int rc;
-    char *text = read_text(fine_name, &rc);
-    if (text == nullptr) return rc;
-    rc = j2s_array(text, arr, count);
-    std::free(text);
-    return rc;
+    return read_file(s, type, fine_name, [&](const char *text) { return j2s_array(text, arr, count); });
 }
 
 __attribute__((noinline)) int file_s2f(Site s, const char *type, const char *fine_name,
                                        char *(*make_text)(const void *, uint32_t), const void *data, uint32_t count) {
-    if (fine_name == nullptr) {
-        diag(s, type, S2J_MSG_FINE_NAME_EMPTY);
-        return -2;
-    }
+    if (no_file_name(s, type, fine_name)) return -2;
     return write_text(fine_name, make_text(data, count));
 }
 
