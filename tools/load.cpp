@@ -40,18 +40,8 @@ std::string families_of(const s2j::TypeInfo &t, const char *sep) {
     auto add = [&s, sep](bool has, const char *name) {
         if (has) s += std::string(s.empty() ? "" : sep) + name;
     };
-    add(f.s2j, "s2j");
-    add(f.c2s, "c2s");
-    add(f.j2s, "j2s");
-    add(f.s2j_array, "s2j_array");
-    add(f.c2s_array, "c2s_array");
-    add(f.j2s_array, "j2s_array");
-    add(f.c2s_array_update, "c2s_array_update");
-    add(f.j2s_array_update, "j2s_array_update");
-    add(f.f2s, "f2s");
-    add(f.s2f, "s2f");
-    add(f.f2s_array, "f2s_array");
-    add(f.s2f_array, "s2f_array");
+    for (const s2j::FamilyInfo &fi : s2j::kFamilies)
+        if (s2j::has_own_line(fi.id)) add(s2j::has_family(f, fi.id), fi.name);
     add(t.hooks->keyword, "keyword");
     add(t.hooks->get_keyword, "get_keyword");
     return s;
@@ -132,14 +122,15 @@ bool read_input(const std::string &path, std::string *text, std::string *why) {
 }
 
 bool reads_arrays(const s2j::TypeInfo &t) {
-    const s2j::Families &f = t.fam;
-    return f.s2j_array || f.c2s_array || f.j2s_array || f.c2s_array_update || f.j2s_array_update ||
-           f.f2s_array || f.s2f_array;
+    for (const s2j::FamilyInfo &fi : s2j::kFamilies)
+        if (s2j::converts_arrays(fi.id) && s2j::has_family(t.fam, fi.id)) return true;
+    return false;
 }
 
 bool reads_records(const s2j::TypeInfo &t) {
-    const s2j::Families &f = t.fam;
-    return f.s2j || f.c2s || f.j2s || f.f2s || f.s2f || !reads_arrays(t);
+    for (const s2j::FamilyInfo &fi : s2j::kFamilies)
+        if (!s2j::converts_arrays(fi.id) && s2j::has_family(t.fam, fi.id)) return true;
+    return !reads_arrays(t);
 }
 
 bool document_is_array(const char *text) {

@@ -14,17 +14,14 @@
 
 namespace app_s2j_tool {
 
-bool holds_arrays(const s2j::TypeInfo &t) {
-    const s2j::Families &f = t.fam;
-    return f.s2j_array || f.c2s_array || f.j2s_array || f.c2s_array_update || f.j2s_array_update ||
-           f.f2s_array || f.s2f_array;
-}
+bool holds_arrays(const s2j::TypeInfo &t) { return reads_arrays(t); }
 
 namespace {
 
 bool holds_single(const s2j::TypeInfo &t) {
-    const s2j::Families &f = t.fam;
-    return f.s2j || f.c2s || f.j2s || f.f2s || f.s2f;
+    for (const s2j::FamilyInfo &fi : s2j::kFamilies)
+        if (!s2j::converts_arrays(fi.id) && s2j::has_family(t.fam, fi.id)) return true;
+    return false;
 }
 
 std::string code(const std::string &s) { return "`" + s + "`"; }
@@ -40,21 +37,8 @@ std::vector<std::string> function_names(const s2j::TypeInfo &t) {
     };
     add(t.hooks->keyword, "json_to_struct_" + n + "Keyword");
     add(t.hooks->get_keyword, "json_to_struct_Get" + n + "Keyword");
-    add(f.s2j, "s2j_" + n);
-    add(f.c2s, "c2s_" + n);
-    add(f.j2s, "j2s_" + n);
-    add(f.j2s_with_len, "j2s_" + n + "_with_len");
-    add(f.s2j_array, "s2j_array_" + n);
-    add(f.c2s_array, "c2s_array_" + n);
-    add(f.j2s_array, "j2s_array_" + n);
-    add(f.j2s_array_with_len, "j2s_array_" + n + "_with_len");
-    add(f.c2s_array_update, "c2s_array_update_" + n);
-    add(f.j2s_array_update, "j2s_array_update_" + n);
-    add(f.j2s_array_update_with_len, "j2s_array_update_" + n + "_with_len");
-    add(f.f2s, "f2s_" + n);
-    add(f.s2f, "s2f_" + n);
-    add(f.f2s_array, "f2s_array_" + n);
-    add(f.s2f_array, "s2f_array_" + n);
+    for (const s2j::FamilyInfo &fi : s2j::kFamilies)
+        add(s2j::has_family(f, fi.id), fi.prefix + n + fi.suffix);
     return out;
 }
 

@@ -26,79 +26,78 @@ S2J_TYPES(S2J_DECLARE_HOOKS)
 #undef S2J_DECLARE_HOOKS
 
 namespace S2J_REG_NS {
-enum Family { kS2j, kC2s, kJ2s, kS2jArray, kC2sArray, kC2sArrayUpdate, kJ2sArray, kJ2sArrayUpdate,
-              kF2s, kS2f, kF2sArray, kS2fArray };
 // A family member that the lists do not instantiate for T.
-template <class T, int F>
+template <class T, Family F>
 struct Fam {
-    static constexpr std::nullptr_t fn = nullptr, fn_with_len = nullptr;
+    static constexpr std::nullptr_t fn = nullptr;
     static constexpr int line = 0;
 };
+// The registry's signature of family F's members.
+template <Family F>
+struct ShapeOf;
+#define S2J_SHAPE_OF(Id, member, prefix, suffix, Shape, ...) \
+    template <>                                               \
+    struct ShapeOf<Family::Id> {                              \
+        using type = shape::Shape;                            \
+    };
+S2J_FAMILIES(S2J_SHAPE_OF)
+#undef S2J_SHAPE_OF
 }  // namespace S2J_REG_NS
 }  // namespace s2j
 
-#define S2J_REG(T, F, f1, f2)                          \
-    namespace s2j::S2J_REG_NS {                               \
-    template <>                                        \
-    struct Fam<T, F> {                                 \
-        static constexpr auto fn = f1;                 \
-        static constexpr auto fn_with_len = f2;        \
-        static constexpr int line = __LINE__;          \
-    };                                                 \
+// T's member of family F, instantiated on this line; the function must have
+// the family's shape.
+#define S2J_REG(T, F, f)                                                  \
+    namespace s2j::S2J_REG_NS {                                           \
+    template <>                                                           \
+    struct Fam<T, Family::F> {                                            \
+        static constexpr ShapeOf<Family::F>::type fn = f;                 \
+        static constexpr int line = __LINE__;                             \
+    };                                                                    \
     }
 #define S2J_AS(T, p) static_cast<T *>(p)
 #define S2J_AS_CONST(T, p) static_cast<const T *>(p)
 
 // Each member as a type-erased function calling the member itself.
-#define S2J_DEF_S2J(T) \
-    S2J_REG(T, kS2j, +[](const void *p, int f) { return S2J_CALL(s2j_##T)(S2J_AS_CONST(T, p), f); }, nullptr)
-#define S2J_DEF_C2S(T) \
-    S2J_REG(T, kC2s, +[](const cJSON *j, void *p) { return S2J_CALL(c2s_##T)(j, S2J_AS(T, p)); }, nullptr)
-#define S2J_DEF_J2S(T)                                                                              \
-    S2J_REG(T, kJ2s, +[](const char *s, void *p) { return S2J_CALL(j2s_##T)(s, S2J_AS(T, p)); },      \
+#define S2J_DEF_S2J(T) S2J_REG(T, S2J, +[](const void *p, int f) { return S2J_CALL(s2j_##T)(S2J_AS_CONST(T, p), f); })
+#define S2J_DEF_C2S(T) S2J_REG(T, C2S, +[](const cJSON *j, void *p) { return S2J_CALL(c2s_##T)(j, S2J_AS(T, p)); })
+#define S2J_DEF_J2S(T)                                                                                  \
+    S2J_REG(T, J2S, +[](const char *s, void *p) { return S2J_CALL(j2s_##T)(s, S2J_AS(T, p)); })           \
+    S2J_REG(T, J2S_LEN,                                                                                  \
             +[](const char *s, size_t n, void *p) { return S2J_CALL(j2s_##T##_with_len)(s, n, S2J_AS(T, p)); })
-#define S2J_DEF_S2J_ARRAY(T)                                                                        \
-    S2J_REG(T, kS2jArray,                                                                           \
-            +[](const void *p, uint32_t n, int f) { return S2J_CALL(s2j_array_##T)(S2J_AS_CONST(T, p), n, f); }, \
-            nullptr)
-#define S2J_DEF_C2S_ARRAY(T)                                                                        \
-    S2J_REG(T, kC2sArray,                                                                           \
-            +[](const cJSON *j, void *p, uint32_t *n) { return S2J_CALL(c2s_array_##T)(j, S2J_AS(T, p), n); }, \
-            nullptr)
-#define S2J_DEF_C2S_ARRAY_UPDATE(T)                                                                 \
-    S2J_REG(T, kC2sArrayUpdate,                                                                     \
-            +[](const cJSON *j, void *p, uint32_t *n) {                                             \
-                return S2J_CALL(c2s_array_update_##T)(j, S2J_AS(T, p), n);                          \
-            },                                                                                      \
-            nullptr)
-#define S2J_DEF_J2S_ARRAY(T)                                                                        \
-    S2J_REG(T, kJ2sArray,                                                                           \
-            +[](const char *s, void *p, uint32_t *n) { return S2J_CALL(j2s_array_##T)(s, S2J_AS(T, p), n); }, \
-            +[](const char *s, size_t l, void *p, uint32_t *n) {                                    \
-                return S2J_CALL(j2s_array_##T##_with_len)(s, l, S2J_AS(T, p), n);                   \
-            })
-#define S2J_DEF_J2S_ARRAY_UPDATE(T)                                                                 \
-    S2J_REG(T, kJ2sArrayUpdate,                                                                     \
-            +[](const char *s, void *p, uint32_t *n) {                                              \
-                return S2J_CALL(j2s_array_update_##T)(s, S2J_AS(T, p), n);                          \
-            },                                                                                      \
-            +[](const char *s, size_t l, void *p, uint32_t *n) {                                    \
-                return S2J_CALL(j2s_array_update_##T##_with_len)(s, l, S2J_AS(T, p), n);            \
-            })
-#define S2J_DEF_F2S(T) \
-    S2J_REG(T, kF2s, +[](const char *f, void *p) { return S2J_CALL(f2s_##T)(f, S2J_AS(T, p)); }, nullptr)
+#define S2J_DEF_S2J_ARRAY(T)                                                                            \
+    S2J_REG(T, S2J_ARRAY,                                                                               \
+            +[](const void *p, uint32_t n, int f) { return S2J_CALL(s2j_array_##T)(S2J_AS_CONST(T, p), n, f); })
+#define S2J_DEF_C2S_ARRAY(T)                                                                            \
+    S2J_REG(T, C2S_ARRAY,                                                                               \
+            +[](const cJSON *j, void *p, uint32_t *n) { return S2J_CALL(c2s_array_##T)(j, S2J_AS(T, p), n); })
+#define S2J_DEF_C2S_ARRAY_UPDATE(T)                                                                     \
+    S2J_REG(T, C2S_ARRAY_UPDATE, +[](const cJSON *j, void *p, uint32_t *n) {                            \
+        return S2J_CALL(c2s_array_update_##T)(j, S2J_AS(T, p), n);                                      \
+    })
+#define S2J_DEF_J2S_ARRAY(T)                                                                            \
+    S2J_REG(T, J2S_ARRAY,                                                                               \
+            +[](const char *s, void *p, uint32_t *n) { return S2J_CALL(j2s_array_##T)(s, S2J_AS(T, p), n); }) \
+    S2J_REG(T, J2S_ARRAY_LEN, +[](const char *s, size_t l, void *p, uint32_t *n) {                      \
+        return S2J_CALL(j2s_array_##T##_with_len)(s, l, S2J_AS(T, p), n);                               \
+    })
+#define S2J_DEF_J2S_ARRAY_UPDATE(T)                                                                     \
+    S2J_REG(T, J2S_ARRAY_UPDATE, +[](const char *s, void *p, uint32_t *n) {                             \
+        return S2J_CALL(j2s_array_update_##T)(s, S2J_AS(T, p), n);                                      \
+    })                                                                                                  \
+    S2J_REG(T, J2S_ARRAY_UPDATE_LEN, +[](const char *s, size_t l, void *p, uint32_t *n) {               \
+        return S2J_CALL(j2s_array_update_##T##_with_len)(s, l, S2J_AS(T, p), n);                        \
+    })
+#define S2J_DEF_F2S(T) S2J_REG(T, F2S, +[](const char *f, void *p) { return S2J_CALL(f2s_##T)(f, S2J_AS(T, p)); })
 #define S2J_DEF_S2F(T) \
-    S2J_REG(T, kS2f, +[](const char *f, const void *p) { return S2J_CALL(s2f_##T)(f, S2J_AS_CONST(T, p)); }, nullptr)
-#define S2J_DEF_F2S_ARRAY(T)                                                                        \
-    S2J_REG(T, kF2sArray,                                                                           \
-            +[](const char *f, void *p, uint32_t *n) { return S2J_CALL(f2s_array_##T)(f, S2J_AS(T, p), n); }, \
-            nullptr)
-#define S2J_DEF_S2F_ARRAY(T)                                                                        \
-    S2J_REG(T, kS2fArray,                                                                           \
-            +[](const char *f, const void *p, uint32_t n) {                                         \
-                return S2J_CALL(s2f_array_##T)(f, S2J_AS_CONST(T, p), n);                           \
-            },                                                                                      \
-            nullptr)
+    S2J_REG(T, S2F, +[](const char *f, const void *p) { return S2J_CALL(s2f_##T)(f, S2J_AS_CONST(T, p)); })
+#define S2J_DEF_F2S_ARRAY(T)                                                                            \
+    S2J_REG(T, F2S_ARRAY,                                                                               \
+            +[](const char *f, void *p, uint32_t *n) { return S2J_CALL(f2s_array_##T)(f, S2J_AS(T, p), n); })
+#define S2J_DEF_S2F_ARRAY(T)                                                                            \
+    S2J_REG(T, S2F_ARRAY, +[](const char *f, const void *p, uint32_t n) {                               \
+        return S2J_CALL(s2f_array_##T)(f, S2J_AS_CONST(T, p), n);                                       \
+    })
 
 #include "app_s2j.cpp"
 #include "file2struct_def.cpp"
@@ -110,28 +109,29 @@ using namespace S2J_REG_NS;
 
 template <class T>
 constexpr Families families() {
-    return Families{
-        Fam<T, kS2j>::fn, Fam<T, kC2s>::fn, Fam<T, kJ2s>::fn, Fam<T, kJ2s>::fn_with_len,
-        Fam<T, kS2jArray>::fn, Fam<T, kC2sArray>::fn, Fam<T, kJ2sArray>::fn, Fam<T, kJ2sArray>::fn_with_len,
-        Fam<T, kC2sArrayUpdate>::fn, Fam<T, kJ2sArrayUpdate>::fn, Fam<T, kJ2sArrayUpdate>::fn_with_len,
-        Fam<T, kF2s>::fn, Fam<T, kS2f>::fn, Fam<T, kF2sArray>::fn, Fam<T, kS2fArray>::fn,
-        {Fam<T, kS2j>::line, Fam<T, kC2s>::line, Fam<T, kJ2s>::line, Fam<T, kS2jArray>::line,
-         Fam<T, kC2sArray>::line, Fam<T, kC2sArrayUpdate>::line, Fam<T, kJ2sArray>::line,
-         Fam<T, kJ2sArrayUpdate>::line, Fam<T, kF2s>::line, Fam<T, kS2f>::line, Fam<T, kF2sArray>::line,
-         Fam<T, kS2fArray>::line},
-    };
+#define S2J_FAMILY_FN(Id, ...) Fam<T, Family::Id>::fn,
+#define S2J_FAMILY_LINE(Id, ...) Fam<T, Family::Id>::line,
+    return Families{S2J_FAMILIES(S2J_FAMILY_FN){S2J_FAMILIES(S2J_FAMILY_LINE)}};
+#undef S2J_FAMILY_FN
+#undef S2J_FAMILY_LINE
 }
 
 // The positions that callers and their logs rely on.
-static_assert(Fam<CrontabCapabilitySet, kS2j>::line == 6 && Fam<CrontabCapabilitySet, kJ2s>::line == 8);
-static_assert(Fam<CrontabParameter, kS2jArray>::line == 10 && Fam<CrontabParameter, kJ2sArrayUpdate>::line == 14);
-static_assert(Fam<DeviceTime, kS2j>::line == 16 && Fam<DeviceTime, kJ2s>::line == 18);
-static_assert(Fam<DeviceCapabilitySet, kS2j>::line == 20 && Fam<DeviceCapabilitySet, kJ2s>::line == 22);
-static_assert(Fam<DeviceInfo, kS2j>::line == 24 && Fam<DeviceInfo, kJ2s>::line == 26);
-static_assert(Fam<TimeZone, kS2jArray>::line == 28 && Fam<TimeZone, kJ2sArray>::line == 30);
-static_assert(Fam<TimeZoneParameter, kS2j>::line == 32 && Fam<TimeZoneParameter, kJ2s>::line == 34);
-static_assert(Fam<CrontabCapabilitySet, kF2s>::line == 115);
-static_assert(Fam<CrontabParameter, kF2sArray>::line == 117 && Fam<CrontabParameter, kS2fArray>::line == 118);
+template <class T, Family F>
+constexpr int line_of = Fam<T, F>::line;
+static_assert(line_of<CrontabCapabilitySet, Family::S2J> == 6 && line_of<CrontabCapabilitySet, Family::J2S> == 8);
+static_assert(line_of<CrontabParameter, Family::S2J_ARRAY> == 10 &&
+              line_of<CrontabParameter, Family::J2S_ARRAY_UPDATE> == 14);
+static_assert(line_of<DeviceTime, Family::S2J> == 16 && line_of<DeviceTime, Family::J2S> == 18);
+static_assert(line_of<DeviceCapabilitySet, Family::S2J> == 20 && line_of<DeviceCapabilitySet, Family::J2S> == 22);
+static_assert(line_of<DeviceInfo, Family::S2J> == 24 && line_of<DeviceInfo, Family::J2S> == 26);
+static_assert(line_of<TimeZone, Family::S2J_ARRAY> == 28 && line_of<TimeZone, Family::J2S_ARRAY> == 30);
+static_assert(line_of<TimeZoneParameter, Family::S2J> == 32 && line_of<TimeZoneParameter, Family::J2S> == 34);
+static_assert(line_of<CrontabCapabilitySet, Family::F2S> == 115);
+static_assert(line_of<CrontabParameter, Family::F2S_ARRAY> == 117 &&
+              line_of<CrontabParameter, Family::S2F_ARRAY> == 118);
+// A _with_len member is defined by its family's line.
+static_assert(line_of<DeviceInfo, Family::J2S_LEN> == line_of<DeviceInfo, Family::J2S>);
 
 #define S2J_ROW(T, sub) {#T, &desc_##T, &hooks_##T, families<T>(), sub},
 #define S2J_ROW_SYSTEM(T) S2J_ROW(T, "system")

@@ -10,6 +10,7 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "s2j_family_table.h"
 #include "s2j_internal.h"
 
 namespace s2j {
@@ -26,29 +27,41 @@ struct TypeHooks {
     uint32_t keyword_size;  // bytes of the record that keyword fills
 };
 
-// The family members a type has (null where it has none), and the line of
-// each member's instantiation.
+// The family members a type has (null where it has none), one per row of
+// S2J_FAMILIES, and the line of each member's instantiation (0 where it has
+// none; a _with_len member is on the line of the member it comes with).
+#define S2J_FAMILY_POINTER(Id, member, prefix, suffix, Shape, ...) shape::Shape member;
+#define S2J_FAMILY_LINE(Id, member, ...) int member;
 struct Families {
-    char *(*s2j)(const void *rec, int formatted);
-    int (*c2s)(const cJSON *json, void *rec);
-    int (*j2s)(const char *json_str, void *rec);
-    int (*j2s_with_len)(const char *json_str, size_t len, void *rec);
-    char *(*s2j_array)(const void *arr, uint32_t count, int formatted);
-    int (*c2s_array)(const cJSON *json, void *arr, uint32_t *count);
-    int (*j2s_array)(const char *json_str, void *arr, uint32_t *count);
-    int (*j2s_array_with_len)(const char *json_str, size_t len, void *arr, uint32_t *count);
-    int (*c2s_array_update)(const cJSON *json, void *arr, uint32_t *count);
-    int (*j2s_array_update)(const char *json_str, void *arr, uint32_t *count);
-    int (*j2s_array_update_with_len)(const char *json_str, size_t len, void *arr, uint32_t *count);
-    int (*f2s)(const char *fine_name, void *rec);
-    int (*s2f)(const char *fine_name, const void *rec);
-    int (*f2s_array)(const char *fine_name, void *arr, uint32_t *count);
-    int (*s2f_array)(const char *fine_name, const void *arr, uint32_t count);
+    S2J_FAMILIES(S2J_FAMILY_POINTER)
     struct Lines {
-        int s2j, c2s, j2s, s2j_array, c2s_array, c2s_array_update, j2s_array, j2s_array_update;
-        int f2s, s2f, f2s_array, s2f_array;
+        S2J_FAMILIES(S2J_FAMILY_LINE)
     } line;
 };
+#undef S2J_FAMILY_POINTER
+#undef S2J_FAMILY_LINE
+
+// Whether the type has the member of family f.
+inline bool has_family(const Families &fam, Family f) {
+    switch (f) {
+#define S2J_FAMILY_CASE(Id, member, ...) \
+    case Family::Id: return fam.member != nullptr;
+        S2J_FAMILIES(S2J_FAMILY_CASE)
+#undef S2J_FAMILY_CASE
+    }
+    return false;
+}
+
+// The line of the type's member of family f (0 where it has none).
+inline int family_line(const Families &fam, Family f) {
+    switch (f) {
+#define S2J_FAMILY_CASE(Id, member, ...) \
+    case Family::Id: return fam.line.member;
+        S2J_FAMILIES(S2J_FAMILY_CASE)
+#undef S2J_FAMILY_CASE
+    }
+    return 0;
+}
 
 struct TypeInfo {
     const char *name;

@@ -17,13 +17,10 @@ namespace {
 struct Affixes {
     const char *prefix, *suffix;
 };
-constexpr Affixes kAffixes[] = {
-    {"s2j_", ""}, {"c2s_", ""}, {"j2s_", ""}, {"j2s_", "_with_len"}, {"s2j_array_", ""},
-    {"c2s_array_", ""}, {"c2s_array_update_", ""}, {"j2s_array_", ""}, {"j2s_array_", "_with_len"},
-    {"j2s_array_update_", ""}, {"j2s_array_update_", "_with_len"}, {"f2s_", ""}, {"s2f_", ""},
-    {"f2s_array_", ""}, {"s2f_array_", ""},
-};
-static_assert(sizeof kAffixes / sizeof kAffixes[0] == static_cast<size_t>(Family::S2F_ARRAY) + 1,
+#define S2J_AFFIXES(Id, member, prefix, suffix, ...) {prefix, suffix},
+constexpr Affixes kAffixes[] = {S2J_FAMILIES(S2J_AFFIXES)};
+#undef S2J_AFFIXES
+static_assert(sizeof kAffixes / sizeof kAffixes[0] == kFamilyCount,
               "one prefix and suffix per family");
 
 }  // namespace

@@ -6,17 +6,11 @@
 #ifndef APP_S2J_FAMILIES_H
 #define APP_S2J_FAMILIES_H
 
+#include "s2j_family_table.h"
 #include "s2j_internal.h"
 #include "s2j_typelist.h"
 
 namespace s2j {
-
-// The family a member belongs to; with the type's name it makes the
-// member's exported name.
-enum class Family : uint8_t {
-    S2J, C2S, J2S, J2S_LEN, S2J_ARRAY, C2S_ARRAY, C2S_ARRAY_UPDATE, J2S_ARRAY, J2S_ARRAY_LEN,
-    J2S_ARRAY_UPDATE, J2S_ARRAY_UPDATE_LEN, F2S, S2F, F2S_ARRAY, S2F_ARRAY,
-};
 
 // Where a family member is defined: what its diagnostics print.  Passed by
 // value in two registers (three on 32-bit targets), so that a member needs no data of its own (no
