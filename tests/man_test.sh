@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # The manual pages against what they describe: app_s2j(1) names every command
 # and option of the tool, taken from the tool's own usage (app_s2j --help),
-# and app_s2j(3) every family of the public header, taken from its
-# APP_S2J_DECLARE_* macros (name##T## pieces read as nameT).  Both render
+# and app_s2j(3) every family of the public header, taken from its comment
+# on the families (the members of a type T).  Both render
 # through man without a warning.
 # usage: man_test.sh TOOL MAN1 MAN3 HEADER
 set -u
@@ -44,9 +44,10 @@ for s in $(grep -A3 -i '^exit status' "$tmp/help" | grep -o -E '\b[0-9]\b' | sor
     fail "app_s2j(1) does not explain exit status $s"
 done
 
-# Families: every name##T piece of the header's declaration macros.
-families=$(sed -n '/^#define APP_S2J_DECLARE_/,/[^\\]$/p' "$header" |
-  grep -o -E '[A-Za-z0-9_]*##T(##[A-Za-z0-9_]+)?\(' | sed 's/##//g; s/($//' | sort -u)
+# Families: every member of T that the header's comment on the families
+# documents (struct_to_json_T, j2s_T_with_len, json_to_struct_GetTKeyword, ...).
+families=$(grep -E '^ \*   [a-zA-Z]' "$header" |
+  grep -o -E '\b[A-Za-z0-9_]*_(Get)?T(Keyword|_with_len)?\(' | sed 's/($//' | sort -u)
 [ "$(echo "$families" | grep -c .)" -ge 19 ] && ok || fail "too few families read from $header: $families"
 for f in $families cJSON_CreateInt cJSON_AddIntToObject cJSON_IsInt; do
   grep -q -w -e "$f" "$tmp/man3.txt" && ok || fail "app_s2j(3) does not name the family $f"

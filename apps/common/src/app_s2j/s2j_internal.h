@@ -323,6 +323,24 @@ bool keys_match(const TypeDesc *d, const void *rec, const void *keyword);
         string_fields(T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0]))};                \
     }
 
+namespace s2j {
+// The argument of a single-key reader: a pointer to an integer key, or the
+// 64-byte buffer of a string key.
+template <class M> struct GetArgOf { using type = M *; };
+template <size_t N> struct GetArgOf<char[N]> { using type = char *; };
+template <class M> using GetArg = typename GetArgOf<std::remove_cv_t<M>>::type;
+}  // namespace s2j
+
+// The signatures of a type's emitter, reader and keyword readers, written
+// once: the shared library defines them with these heads, the internal
+// library declares them with them before its hooks refer to them.
+#define S2J_SIG_EMIT(T) S2J_API cJSON *struct_to_json_##T(const T *struct_ptr)
+#define S2J_SIG_READ(T) S2J_API int json_to_struct_##T(T *struct_ptr, const cJSON *json)
+#define S2J_SIG_KEYWORD(T) S2J_API int json_to_struct_##T##Keyword(T##Keyword *keyword, const cJSON *json)
+#define S2J_SIG_STRICT(T) S2J_API int json_to_struct_##T##Keyword(T *struct_ptr, const cJSON *json)
+#define S2J_SIG_GET(T, m)                                                                      \
+    S2J_API int json_to_struct_Get##T##Keyword(::s2j::GetArg<decltype(T::m)> m, const cJSON *json)
+
 #ifdef S2J_TABLES_ONLY
 #include "registry.h"
 #define S2J_HOOKS(T, keyword, get, kwsize)                                                     \
@@ -333,24 +351,26 @@ bool keys_match(const TypeDesc *d, const void *rec, const void *keyword);
         +[](void *p, const cJSON *j) { return json_to_struct_##T(static_cast<T *>(p), j); },   \
         keyword, get, kwsize};                                                                 \
     }
-#define S2J_FUNCS(T)
-#define S2J_KW_FN(T) \
+#define S2J_FUNCS(T)                                                                           \
+    S2J_SIG_EMIT(T);                                                                           \
+    S2J_SIG_READ(T);
+#define S2J_KW_FN(T)                                                                           \
     +[](void *k, const cJSON *j) { return json_to_struct_##T##Keyword(static_cast<T##Keyword *>(k), j); }
 #define S2J_STRICT_FN(T) +[](void *k, const cJSON *j) { return json_to_struct_##T##Keyword(static_cast<T *>(k), j); }
-#define S2J_GET_FN(T, m)                                                                          \
-    +[](void *k, const cJSON *j) {                                                                \
+#define S2J_GET_FN(T, m)                                                                       \
+    +[](void *k, const cJSON *j) {                                                             \
         return json_to_struct_Get##T##Keyword(static_cast<::s2j::GetArg<decltype(T::m)>>(k), j); \
     }
-#define S2J_KW_FUNC(T)
-#define S2J_STRICT_FUNC(T)
-#define S2J_GET_FUNC(T, m)
+#define S2J_KW_FUNC(T) S2J_SIG_KEYWORD(T);
+#define S2J_STRICT_FUNC(T) S2J_SIG_STRICT(T);
+#define S2J_GET_FUNC(T, m) S2J_SIG_GET(T, m);
 #else
 #define S2J_HOOKS(T, keyword, get, kwsize)
 #define S2J_FUNCS(T)                                                                           \
-    S2J_API cJSON *struct_to_json_##T(const T *struct_ptr) {                                \
+    S2J_SIG_EMIT(T) {                                                                          \
         return ::s2j::emit_record(&::s2j::desc_##T, struct_ptr, nullptr);                      \
     }                                                                                          \
-    S2J_API int json_to_struct_##T(T *struct_ptr, const cJSON *json) {                      \
+    S2J_SIG_READ(T) {                                                                          \
         return ::s2j::read_record(&::s2j::desc_##T, struct_ptr, json, false);                  \
     }
 #define S2J_KW_FN(T) nullptr
@@ -360,29 +380,21 @@ bool keys_match(const TypeDesc *d, const void *rec, const void *keyword);
     static_assert(::s2j::keyword_record_covers(T##_keys, sizeof(T##Keyword)),                  \
                   #T "Keyword: keyword record does not hold the keys in key order");           \
     static_assert(::s2j::has_scalar_elements<T##Keyword, ::s2j::keyword_scalar_elements(T##_keys)>(), \
-                  #T "Keyword: keyword record holds other members than the keys");              \
+                  #T "Keyword: keyword record holds other members than the keys");             \
     static_assert(sizeof(T##Keyword) <= ::s2j::kMaxKeywordSize, #T "Keyword: too large");      \
-    S2J_API int json_to_struct_##T##Keyword(T##Keyword *keyword, const cJSON *json) {       \
+    S2J_SIG_KEYWORD(T) {                                                                       \
         return ::s2j::read_keys(&::s2j::desc_##T, keyword, json);                              \
     }
 #define S2J_STRICT_FUNC(T)                                                                     \
-    S2J_API int json_to_struct_##T##Keyword(T *struct_ptr, const cJSON *json) {             \
+    S2J_SIG_STRICT(T) {                                                                        \
         return ::s2j::read_record(&::s2j::desc_##T, struct_ptr, json, true);                   \
     }
 #define S2J_GET_FUNC(T, m)                                                                     \
     static_assert(T##_keys[0].field.offset == offsetof(T, m), #T ": " #m " is not its first key"); \
-    S2J_API int json_to_struct_Get##T##Keyword(::s2j::GetArg<decltype(T::m)> m, const cJSON *json) { \
+    S2J_SIG_GET(T, m) {                                                                        \
         return ::s2j::read_first_key(&::s2j::desc_##T, m, json);                               \
     }
 #endif
-
-namespace s2j {
-// The argument of a single-key reader: a pointer to an integer key, or the
-// 64-byte buffer of a string key.
-template <class M> struct GetArgOf { using type = M *; };
-template <size_t N> struct GetArgOf<char[N]> { using type = char *; };
-template <class M> using GetArg = typename GetArgOf<std::remove_cv_t<M>>::type;
-}  // namespace s2j
 
 // A record with no keys.
 #define S2J_RECORD(T)                                                                          \
