@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # The library's ABI: the dynamic symbols it defines are exactly the committed
 # list (one name a line, sorted), and its soname carries the major version.
-# A symbol added or lost fails here until the list is updated on purpose:
-#   nm -D --defined-only build/apps/common/src/app_s2j/libapp_s2j.so | awk '{print $3}' | LC_ALL=C sort > apps/common/src/app_s2j/app_s2j.symbols
+# The list is written from the registry with the header
+# (cmake --build BUILD --target api-files): a symbol the library exports
+# beside its instantiation lists, or one they name that it lacks, fails here.
 # usage: abi_test.sh LIBRARY SYMBOL_LIST SONAME
 set -u
 lib=$1

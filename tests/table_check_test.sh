@@ -109,7 +109,7 @@ done
 # A keyword record with a member in the padding between two keys.
 keyword_tu() {
   cat > "$tmp/tu.cpp" <<TU
-#include "s2j_internal.h"
+#include "s2j_record_defs.h"
 struct Probe { uint16_t Id; uint32_t Number; char Name[8]; };
 struct ProbeKeyword { uint16_t Id; $1 uint32_t Number; };
 static constexpr s2j::Field Probe_fields[] = {

@@ -18,7 +18,7 @@
 #include <string>
 #include <vector>
 
-#include "s2j_internal.h"
+#include "s2j_int.h"
 #include "support.h"
 
 using namespace testing_support;

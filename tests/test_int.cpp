@@ -7,7 +7,7 @@
 
 #include "app_s2j.h"
 #include "registry.h"
-#include "s2j_internal.h"
+#include "s2j_int.h"
 #include "support.h"
 
 using testing_support::Text;

@@ -13,7 +13,7 @@
 #include <vector>
 
 #include "change.h"
-#include "s2j_internal.h"
+#include "registry.h"
 #include "support.h"
 
 namespace {

@@ -14,7 +14,7 @@
 #include <string>
 #include <vector>
 
-#include "s2j_internal.h"
+#include "registry.h"
 #include "support.h"
 #include "validate.h"
 

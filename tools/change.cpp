@@ -12,7 +12,7 @@
 #include <cstring>
 #include <new>
 
-#include "s2j_internal.h"
+#include "registry.h"
 
 namespace app_s2j_tool {
 

@@ -10,7 +10,7 @@
 #include <cstring>
 #include <strings.h>
 
-#include "s2j_internal.h"
+#include "registry.h"
 #include "tool.h"
 
 namespace app_s2j_tool {

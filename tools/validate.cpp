@@ -20,7 +20,7 @@
 #include <cstring>
 #include <unordered_map>
 
-#include "s2j_internal.h"
+#include "registry.h"
 
 namespace app_s2j_tool {
 

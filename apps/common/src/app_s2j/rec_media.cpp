@@ -1,7 +1,7 @@
 // rec_media.cpp - records of video and audio inputs, their status, video and
 // audio encoders and encoder on-screen text: their field tables, emitters,
 // readers and keyword readers.
-#include "s2j_internal.h"
+#include "s2j_record_defs.h"
 
 // ---- Video input ----
 

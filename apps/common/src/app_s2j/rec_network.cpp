@@ -1,6 +1,6 @@
 // rec_network.cpp - records of network interfaces, LAN and routes, wireless,
 // and serial ports: their field tables, emitters, readers and keyword readers.
-#include "s2j_internal.h"
+#include "s2j_record_defs.h"
 
 static constexpr s2j::Field NetworkCapabilitySet_fields[] = {
     S2J_FIELD(NetworkCapabilitySet, SupportIPv6, "1 when the device supports IPv6, 0 when not"),

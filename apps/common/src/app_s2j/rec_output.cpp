@@ -1,7 +1,7 @@
 // rec_output.cpp - records of video outputs and display, sources and
 // playlists, audio outputs and decoders, screenshots, output OSD and
 // watermarks: their field tables, emitters, readers and keyword readers.
-#include "s2j_internal.h"
+#include "s2j_record_defs.h"
 
 static constexpr s2j::Field VideoOutputCapabilitySet_fields[] = {
     S2J_FIELD(VideoOutputCapabilitySet, SupportedVideoInputChannelList, "list held as text; not interpreted"),

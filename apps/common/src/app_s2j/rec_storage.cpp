@@ -1,7 +1,7 @@
 // rec_storage.cpp - records of storage interfaces and devices, disk groups,
 // recording and snapshots: their field tables, emitters, readers and keyword
 // readers.
-#include "s2j_internal.h"
+#include "s2j_record_defs.h"
 
 // Emitter and reader only: no family is built on this record.
 static constexpr s2j::Field StorageInterface_fields[] = {

@@ -1,7 +1,7 @@
 // rec_streaming.cpp - records of streaming output and its transports, the
 // streaming and web servers, and streaming inputs: their field tables,
 // emitters, readers and keyword readers.
-#include "s2j_internal.h"
+#include "s2j_record_defs.h"
 
 static constexpr s2j::Field StreamingOutputCapabilitySet_fields[] = {
     S2J_FIELD(StreamingOutputCapabilitySet, SupportRtspStreaming,
@@ -275,4 +275,4 @@ static constexpr s2j::Field StreamingInputUseCount_fields[] = {
     S2J_FIELD(StreamingInputUseCount, IndexList, "JSON array of integers"),
     S2J_FIELD(StreamingInputUseCount, UseCountList, "JSON array of integers, parallel to \"IndexList\""),
 };
-S2J_RECORD_STRICT(StreamingInputUseCount)
+S2J_RECORD_KEYWORD_ALL_FIELDS(StreamingInputUseCount)

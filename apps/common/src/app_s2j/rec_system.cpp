@@ -1,6 +1,6 @@
 // rec_system.cpp - device identity, time, time zone, NTP and scheduled-task
 // records: their field tables, emitters, readers and keyword readers.
-#include "s2j_internal.h"
+#include "s2j_record_defs.h"
 
 static constexpr s2j::Field DeviceInfo_fields[] = {
     S2J_FIELD(DeviceInfo, ProductModel, "model designation"),

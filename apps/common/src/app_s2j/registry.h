@@ -4,28 +4,24 @@
 // internal static library for the tests and the command-line tool; the
 // shared library does not export it.  Every function pointer here calls the
 // exported function of the shared library through a type-erased trampoline.
+// The top internal header: it includes the layers below it (data model,
+// layout checks, key comparison, record engines, integer items, the table
+// of families) for the tests and the tool, and none includes it.
 #ifndef APP_S2J_REGISTRY_H
 #define APP_S2J_REGISTRY_H
 
 #include <cstddef>
 #include <cstdint>
 
+#include "app_s2j.h"
+#include "s2j_codec.h"
 #include "s2j_family_table.h"
-#include "s2j_internal.h"
+#include "s2j_int.h"
+#include "s2j_keys.h"
+#include "s2j_layout.h"
+#include "s2j_model.h"
 
 namespace s2j {
-
-// What the record's subsystem file defines beside its table.
-struct TypeHooks {
-    cJSON *(*emit)(const void *rec);
-    int (*read)(void *rec, const cJSON *json);
-    // json_to_struct_<T>Keyword: into a <T>Keyword record, or (for a record
-    // read whole and strictly) into a T; null when the type has none.
-    int (*keyword)(void *keyword, const cJSON *json);
-    // json_to_struct_Get<T>Keyword: into a 32-bit integer or 64 bytes.
-    int (*get_keyword)(void *key, const cJSON *json);
-    uint32_t keyword_size;  // bytes of the record that keyword fills
-};
 
 // The family members a type has (null where it has none), one per row of
 // S2J_FAMILIES, and the line of each member's instantiation (0 where it has

@@ -4,7 +4,9 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "s2j_internal.h"
+#include "s2j_codec.h"
+#include "s2j_int.h"
+#include "s2j_keys.h"
 
 namespace s2j {
 

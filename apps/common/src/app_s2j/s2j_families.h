@@ -7,7 +7,7 @@
 #define APP_S2J_FAMILIES_H
 
 #include "s2j_family_table.h"
-#include "s2j_internal.h"
+#include "s2j_record_defs.h"
 #include "s2j_typelist.h"
 
 namespace s2j {
@@ -51,11 +51,12 @@ int fam_j2s_array_update_with_len(Site s, uint32_t tree_line, const TypeDesc *d,
 
 }  // namespace s2j
 
-// The exported members' signatures, written once: the definitions below and
-// in file2struct_def.cpp, and the declarations that follow, which let the
-// file members and the registry name a member of any type whether or not
-// the public header declares it yet (it is written from the registry).  A
-// declaration that no line defines is never referred to.
+// The exported members' signatures: the definitions below are made with
+// them, and so are the declarations that follow, which let the file members
+// and the registry name a member of any type whether or not the public
+// header declares it yet (it is written from the registry).  A definition
+// or a header prototype that differs from them conflicts with them and
+// fails the build.  A declaration that no line defines is never referred to.
 #define S2J_SIG_S2J(T) S2J_API char *s2j_##T(const T *struct_ptr, int formatted)
 #define S2J_SIG_C2S(T) S2J_API int c2s_##T(const cJSON *json, T *struct_ptr)
 #define S2J_SIG_J2S(T) S2J_API int j2s_##T(const char *json_str, T *struct_ptr)

@@ -5,7 +5,9 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "s2j_internal.h"
+#include "app_s2j.h"
+#include "s2j_export.h"
+#include "s2j_int.h"
 
 namespace s2j {
 

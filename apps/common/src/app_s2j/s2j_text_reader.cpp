@@ -22,6 +22,9 @@
 
 #include <cjson/cJSON.h>
 
+#include "s2j_codec.h"
+#include "s2j_int.h"
+
 namespace s2j {
 
 namespace {

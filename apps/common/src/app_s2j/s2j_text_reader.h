@@ -14,7 +14,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "s2j_internal.h"
+#include "s2j_model.h"
 
 namespace s2j {
 

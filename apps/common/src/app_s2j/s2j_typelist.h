@@ -4,7 +4,6 @@
 #ifndef APP_S2J_TYPELIST_H
 #define APP_S2J_TYPELIST_H
 
-#include "s2j_internal.h"
 
 // Device identity, time, time zone, NTP and scheduled tasks.
 #define S2J_TYPES_SYSTEM(X) \

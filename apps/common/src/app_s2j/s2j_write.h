@@ -3,7 +3,9 @@
 #ifndef APP_S2J_WRITE_H
 #define APP_S2J_WRITE_H
 
-#include "s2j_internal.h"
+#include <cstdint>
+
+#include "s2j_model.h"
 
 namespace s2j {
 
