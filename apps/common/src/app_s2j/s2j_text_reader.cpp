@@ -22,6 +22,10 @@
 
 #include <cjson/cJSON.h>
 
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
+
 namespace s2j {
 
 namespace {
@@ -139,8 +143,18 @@ inline size_t first_marked(uint64_t marks) {
 }
 
 // The first quote or backslash at or after i, looking no further than len
-// (len when there is none): eight bytes at a time, then byte by byte.
+// (len when there is none): sixteen bytes at a time where the target has
+// 128-bit vectors, then eight at a time, then byte by byte.
 inline size_t next_quote_or_backslash(const u8 *s, size_t i, size_t len) {
+#ifdef __SSE2__
+    const __m128i quote = _mm_set1_epi8('"'), backslash = _mm_set1_epi8('\\');
+    for (; i + 16 <= len; i += 16) {
+        const __m128i w = _mm_loadu_si128(reinterpret_cast<const __m128i *>(s + i));
+        const unsigned marks = static_cast<unsigned>(
+            _mm_movemask_epi8(_mm_or_si128(_mm_cmpeq_epi8(w, quote), _mm_cmpeq_epi8(w, backslash))));
+        if (marks != 0) return i + static_cast<size_t>(__builtin_ctz(marks));
+    }
+#endif
     for (; i + 8 <= len; i += 8) {
         uint64_t w;
         std::memcpy(&w, s + i, 8);
@@ -231,6 +245,72 @@ void copy_string(const Text &t, size_t i, char *field, size_t size) {
     field[n] = '\0';
 }
 
+// The first quote, backslash or NUL at or after i, before len (len when
+// there is none).
+inline size_t next_quote_backslash_or_nul(const u8 *s, size_t i, size_t len) {
+#ifdef __SSE2__
+    const __m128i quote = _mm_set1_epi8('"'), backslash = _mm_set1_epi8('\\'), nul = _mm_setzero_si128();
+    for (; i + 16 <= len; i += 16) {
+        const __m128i w = _mm_loadu_si128(reinterpret_cast<const __m128i *>(s + i));
+        const __m128i hits = _mm_or_si128(_mm_or_si128(_mm_cmpeq_epi8(w, quote), _mm_cmpeq_epi8(w, backslash)),
+                                          _mm_cmpeq_epi8(w, nul));
+        const unsigned marks = static_cast<unsigned>(_mm_movemask_epi8(hits));
+        if (marks != 0) return i + static_cast<size_t>(__builtin_ctz(marks));
+    }
+#endif
+    constexpr uint64_t lows = 0x7F7F7F7F7F7F7F7Full;
+    for (; i + 8 <= len; i += 8) {
+        uint64_t w;
+        std::memcpy(&w, s + i, 8);
+        if (uint64_t marks = quotes_or_backslashes(w) | ~(((w & lows) + lows) | w | lows))
+            return i + first_marked(marks);
+    }
+    while (i < len && s[i] != '"' && s[i] != '\\' && s[i] != '\0') ++i;
+    return i;
+}
+
+// Copies the string opening at t.s[i] into a field as copy_string() does,
+// and returns the offset of its closing quote.  A string without escapes is
+// copied in one piece up to its end or its first NUL.
+inline size_t read_string(const Text &t, size_t i, char *field, size_t size) {
+    const size_t from = i + 1, stop = next_quote_backslash_or_nul(t.s, from, t.len);
+    if (t.s[stop] == '\\') {
+        copy_string(t, i, field, size);
+        return string_end(t, i);
+    }
+    const size_t n = stop - from < size - 1 ? stop - from : size - 1;
+    std::memcpy(field, t.s + from, n);
+    field[n] = '\0';
+    return t.s[stop] == '"' ? stop : string_end(t, i);
+}
+
+// Whether the n bytes at a are the n bytes at b, compared a word at a time
+// (the last word overlapping the one before it).
+inline bool same_bytes(const u8 *a, const char *b, size_t n) {
+    if (n >= 8) {
+        uint64_t x, y;
+        for (size_t k = 0; k + 8 < n; k += 8) {
+            std::memcpy(&x, a + k, 8);
+            std::memcpy(&y, b + k, 8);
+            if (x != y) return false;
+        }
+        std::memcpy(&x, a + n - 8, 8);
+        std::memcpy(&y, b + n - 8, 8);
+        return x == y;
+    }
+    if (n >= 4) {
+        uint32_t x0, y0, x1, y1;
+        std::memcpy(&x0, a, 4);
+        std::memcpy(&y0, b, 4);
+        std::memcpy(&x1, a + n - 4, 4);
+        std::memcpy(&y1, b + n - 4, 4);
+        return x0 == y0 && x1 == y1;
+    }
+    for (; n > 0; ++a, ++b, --n)
+        if (*a != static_cast<u8>(*b)) return false;
+    return true;
+}
+
 // A member's key as cJSON holds it: the decoded text up to its first NUL.
 // Keys without escapes or NULs are read in place; others are decoded into
 // buf, and a key longer than buf can hold equals no field's key.
@@ -319,7 +399,7 @@ int match_key(const TypeDesc *d, const Text &t, size_t quote, size_t end, uint32
     const u8 *p = t.s + quote + 1;
     if (next < d->field_count) {
         const Field &f = d->fields[next];
-        if (f.key_len == n && std::memcmp(p, f.key, n) == 0) return static_cast<int>(next);
+        if (f.key_len == n && same_bytes(p, f.key, n)) return static_cast<int>(next);
     }
     KeyText key{p, n};
     u8 buf[kKeyRoom];
@@ -358,11 +438,13 @@ struct Document {
     uint32_t elements;  // its number of elements, when it is an array
 };
 
-// Checks the whole text as cJSON parses it.  With members, the members of a
-// top-level object are found on the way.  Written for speed over pointers:
-// blanks are tested before they are skipped, plain integers and strings
-// without escapes take one loop each.
-bool check_document(const Text &t, Document *doc, Members *members) {
+// Checks the whole text as cJSON parses it.  Written for speed over pointers:
+// blanks are met in the dispatch on the next byte rather than tested before
+// every token, plain integers and strings without escapes take one loop
+// each, and the keys of the records' objects (at depth record_depth) are
+// first compared with the key of the field expected next, which when equal
+// is a string known to need no scan.
+bool check_document(const TypeDesc *d, unsigned record_depth, const Text &t, Document *doc) {
     const u8 *const s = t.s, *const end = t.s + t.len;
     const u8 *p = s;
     if (4 < t.len && s[0] == 0xEF && s[1] == 0xBB && s[2] == 0xBF) p += 3;  // a UTF-8 byte order mark
@@ -374,18 +456,12 @@ bool check_document(const Text &t, Document *doc, Members *members) {
     unsigned depth = 0;
     bool object = false;  // whether the innermost open container is an object
     bool fraction = false;
-    const u8 *key = nullptr, *key_end = nullptr;  // the quotes of a top-level member's key
-
-#define S2J_SKIP_BLANKS() \
-    if (p < end && *p <= 32) \
-        do ++p; while (p < end && *p <= 32)
+    uint32_t expect = 0;  // the field whose key the next member of a record likely has
+    const Field *const fields = d->fields;
+    const uint32_t field_count = d->field_count;
 
 value:
     if (p >= end) return false;
-    if (key != nullptr) {
-        members->add(t, static_cast<size_t>(key - s), static_cast<size_t>(key_end - s), static_cast<size_t>(p - s));
-        key = nullptr;
-    }
     switch (*p) {
         case '{':
         case '[': {
@@ -398,12 +474,15 @@ value:
                 objects[depth / 64] &= ~bit;
             ++depth;
             ++p;
-            S2J_SKIP_BLANKS();
+            while (p < end && *p <= 32) ++p;
             if (p < end && *p == (object ? '}' : ']')) {
                 ++p;
                 goto close;
             }
-            if (object) goto member;
+            if (object) {
+                expect = 0;
+                goto member;
+            }
             if (depth == 1) doc->elements = 1;
             goto value;
         }
@@ -427,9 +506,13 @@ value:
             p += 5;
             goto after_value;
         default: {
+            if (*p <= 32) {  // a blank before the value
+                ++p;
+                goto value;
+            }
             const u8 *q = p + (*p == '-');
             const u8 *digits = q;
-            while (q < end && is_digit(*q)) ++q;
+            while (q < end && static_cast<unsigned>(*q - '0') <= 9) ++q;
             if (q > digits && q - p <= 63 && (q == end || !is_number_char(*q))) {
                 p = q;  // a plain integer
                 goto after_value;
@@ -443,28 +526,41 @@ value:
     }
 
 member:  // p at the key of a member
+    if (depth == record_depth && expect < field_count) {
+        const Field &f = fields[expect];
+        if (end - p > f.key_len + 1 && p[f.key_len + 1] == '"' && same_bytes(p + 1, f.key, f.key_len) && *p == '"') {
+            p += f.key_len + 2;
+            ++expect;
+            goto colon;
+        }
+        expect = field_count;  // members out of table order: no more guesses in this object
+    }
     if (p >= end || *p != '"') return false;
     {
         bool escaped = false;
         const size_t q = scan_string(t, static_cast<size_t>(p - s), &escaped);
         if (q == 0 || (escaped && !escapes_valid(p + 1, s + q))) return false;
-        if (depth == 1 && members != nullptr) key = p, key_end = s + q;
         p = s + q + 1;
     }
-    S2J_SKIP_BLANKS();
+
+colon:
+    while (p < end && *p <= 32) ++p;
     if (p >= end || *p != ':') return false;
     ++p;
-    S2J_SKIP_BLANKS();
     goto value;
 
 after_value:
     if (depth == 0) return !fraction || decimal_point_is_one_byte();  // what follows is not read
-    S2J_SKIP_BLANKS();
-    if (p >= end) return false;
+    for (;; ++p) {
+        if (p >= end) return false;
+        if (*p > 32) break;
+    }
     if (*p == ',') {
         ++p;
-        S2J_SKIP_BLANKS();
-        if (object) goto member;
+        if (object) {
+            while (p < end && *p <= 32) ++p;
+            goto member;
+        }
         if (depth == 1 && doc->elements++ == UINT32_MAX) return false;
         goto value;
     }
@@ -475,7 +571,6 @@ close:  // p just past the container that closed
     --depth;
     if (depth > 0) object = objects[(depth - 1) / 64] & (uint64_t{1} << ((depth - 1) % 64));
     goto after_value;
-#undef S2J_SKIP_BLANKS
 }
 
 // ---- Pass 2: reading from a well-formed text ---------------------------------
@@ -558,7 +653,7 @@ size_t find_members(const Text &t, size_t i, Members *m) {
         if (m->next < d->field_count) {
             const Field &f = d->fields[m->next];
             const size_t at = i + 1 + f.key_len;
-            if (at < t.len && s[at] == '"' && std::memcmp(s + i + 1, f.key, f.key_len) == 0) end = at;
+            if (at < t.len && s[at] == '"' && same_bytes(s + i + 1, f.key, f.key_len)) end = at;
         }
         if (end != 0) {
             const uint32_t f = m->next++;
@@ -593,23 +688,26 @@ void each_element(const Text &t, size_t i, F f) {
 }
 
 // Whether the value at t.s[i] is an integer item (an integer literal within
-// the int64_t range, as the marking parser classifies it), and its value.
-// Up to 18 digits are read here; longer literals by the marking parser's
-// own reader.
-inline bool integer_at(const Text &t, size_t i, int64_t *v) {
+// the int64_t range, as the marking parser classifies it), and its value;
+// *after is set just past the literal.  Up to 18 digits are read here; longer
+// literals by the marking parser's own reader.
+inline bool integer_at(const Text &t, size_t i, int64_t *v, size_t *after) {
     const u8 *s = t.s;
     const bool neg = s[i] == '-';
     size_t j = i + neg;
     const size_t digits = j;
     uint64_t u = 0;
-    for (; is_digit(s[j]) && j - digits < 18; ++j) u = u * 10 + (s[j] - '0');
+    for (unsigned c; j - digits < 18 && (c = static_cast<unsigned>(s[j] - '0')) <= 9; ++j) u = u * 10 + c;
     if (j > digits && !is_number_char(s[j])) {
         *v = neg ? static_cast<int64_t>(0 - u) : static_cast<int64_t>(u);
+        *after = j;
         return true;
     }
     if (!neg && !is_digit(s[i])) return false;
     const char *p = reinterpret_cast<const char *>(s + i);
-    return read_literal(p, reinterpret_cast<const char *>(s + t.len), v);
+    const bool integer = read_literal(p, reinterpret_cast<const char *>(s + t.len), v);
+    *after = static_cast<size_t>(reinterpret_cast<const u8 *>(p) - s);
+    return integer;
 }
 
 // One integer list: entries stored by position, non-integers skipped; false
@@ -622,7 +720,8 @@ bool read_list(const Text &t, size_t i, char *at, uint32_t size) {
     each_child(t, i, [&](size_t value, size_t, size_t) {
         if (k == capacity) return false;
         int64_t v;
-        if (integer_at(t, value, &v)) {
+        size_t after;
+        if (integer_at(t, value, &v, &after)) {
             uint32_t u = static_cast<uint32_t>(static_cast<uint64_t>(v));
             std::memcpy(at + 4 * k, &u, sizeof u);
             stored = true;
@@ -634,14 +733,15 @@ bool read_list(const Text &t, size_t i, char *at, uint32_t size) {
 }
 
 // Reads the value at t.s[i] into a field at `at`, as the tree reader reads
-// the item: false when it is not of the field's JSON type.
-bool read_field(const Text &t, const Field &f, size_t i, char *at) {
+// the item, and sets *after just past the value: false when it is not of the
+// field's JSON type.
+inline bool read_value(const Text &t, const Field &f, size_t i, char *at, size_t *after) {
     switch (f.kind) {
         case Kind::I32:
         case Kind::U32:
         case Kind::U16: {
             int64_t v;
-            if (!integer_at(t, i, &v)) return false;
+            if (!integer_at(t, i, &v, after)) return false;
             const uint64_t bits = static_cast<uint64_t>(v);
             if (f.kind == Kind::U16) {
                 uint16_t u = static_cast<uint16_t>(bits);
@@ -654,12 +754,19 @@ bool read_field(const Text &t, const Field &f, size_t i, char *at) {
         }
         case Kind::Str:
             if (t.s[i] != '"') return false;
-            copy_string(t, i, at, f.size);
+            *after = read_string(t, i, at, f.size) + 1;
             return true;
         case Kind::U32List:
-            return read_list(t, i, at, f.size);
+            if (!read_list(t, i, at, f.size)) return false;
+            *after = skip_value(t, i);
+            return true;
     }
     return false;
+}
+
+bool read_field(const Text &t, const Field &f, size_t i, char *at) {
+    size_t after;
+    return read_value(t, f, i, at, &after);
 }
 
 // Fills the record's fields in table order from the members found, up to the
@@ -672,6 +779,32 @@ bool fill_record(const Text &t, const Members &m, void *rec) {
     return true;
 }
 
+// Reads the element at t.s[i] into rec as fill_record() reads the members
+// find_members() finds, and returns the offset just past it, or 0 when a
+// member is of the wrong JSON type.  Members written as the fields' keys in
+// table order, each field once, are read as they come; at the first other
+// member the element is read again the general way, which stores the same
+// bytes in the fields read so far.
+size_t read_element(const Text &t, size_t i, Members *m, char *rec) {
+    const u8 *s = t.s;
+    if (s[i] != '{') return skip_value(t, i);  // no members: nothing to read
+    const TypeDesc *d = m->d;
+    size_t at = skip_ws(s, i + 1);
+    if (s[at] == '}') return at + 1;
+    for (uint32_t next = 0; next < d->field_count; ++next) {
+        const Field &f = d->fields[next];
+        const size_t quote = at + 1 + f.key_len;
+        if (quote >= t.len || s[quote] != '"' || !same_bytes(s + at + 1, f.key, f.key_len)) break;
+        at = skip_ws(s, skip_ws(s, quote + 1) + 1);
+        if (!read_value(t, f, at, rec + f.offset, &at)) return 0;
+        at = skip_ws(s, at);
+        if (s[at] != ',') return at + 1;  // past the '}'
+        at = skip_ws(s, at + 1);
+    }
+    const size_t end = find_members(t, i, m);
+    return fill_record(t, *m, rec) ? end : 0;
+}
+
 // The table index of a key field.
 uint32_t field_of_key(const TypeDesc *d, const Key &k) {
     uint32_t f = 0;
@@ -679,8 +812,8 @@ uint32_t field_of_key(const TypeDesc *d, const Key &k) {
     return f;
 }
 
-bool start(const TypeDesc *d, const Text &t, Document *doc, Members *members) {
-    return !d->key_twins && check_document(t, doc, members);
+bool start(const TypeDesc *d, unsigned record_depth, const Text &t, Document *doc) {
+    return !d->key_twins && check_document(d, record_depth, t, doc);
 }
 
 }  // namespace
@@ -688,18 +821,17 @@ bool start(const TypeDesc *d, const Text &t, Document *doc, Members *members) {
 Direct direct_record(const TypeDesc *d, const char *text, size_t len, void *rec) {
     const Text t{reinterpret_cast<const u8 *>(text), len};
     Document doc;
+    if (!start(d, 1, t, &doc)) return Direct::UseTree;
+    if (t.s[doc.root] != '{') return Direct::NotObject;
     Members m;
     m.d = d;
-    m.clear();
-    if (!start(d, t, &doc, &m)) return Direct::UseTree;
-    if (t.s[doc.root] != '{') return Direct::NotObject;
-    return fill_record(t, m, rec) ? Direct::Done : Direct::ReaderFailed;
+    return read_element(t, doc.root, &m, static_cast<char *>(rec)) != 0 ? Direct::Done : Direct::ReaderFailed;
 }
 
 Direct direct_array(const TypeDesc *d, const char *text, size_t len, void *arr, uint32_t *count) {
     const Text t{reinterpret_cast<const u8 *>(text), len};
     Document doc;
-    if (!start(d, t, &doc, nullptr)) return Direct::UseTree;
+    if (!start(d, 2, t, &doc)) return Direct::UseTree;
     if (t.s[doc.root] != '[') return Direct::NotArray;
     if (arr == nullptr) {  // query mode: how many elements to provide
         *count = doc.elements;
@@ -713,10 +845,10 @@ Direct direct_array(const TypeDesc *d, const char *text, size_t len, void *arr, 
     m.d = d;
     each_element(t, doc.root, [&](size_t value) -> size_t {
         if (k == filled) return 0;
-        const size_t end = find_members(t, value, &m);
-        ok = fill_record(t, m, base + static_cast<size_t>(k) * d->size);
+        const size_t end = read_element(t, value, &m, base + static_cast<size_t>(k) * d->size);
+        ok = end != 0;
         ++k;
-        return ok ? end : 0;
+        return end;
     });
     if (!ok) return Direct::ReaderFailed;
     *count = filled;
@@ -726,7 +858,7 @@ Direct direct_array(const TypeDesc *d, const char *text, size_t len, void *arr, 
 Direct direct_update(const TypeDesc *d, const char *text, size_t len, void *arr, uint32_t *count) {
     const Text t{reinterpret_cast<const u8 *>(text), len};
     Document doc;
-    if (!start(d, t, &doc, nullptr)) return Direct::UseTree;
+    if (!start(d, 2, t, &doc)) return Direct::UseTree;
     if (t.s[doc.root] != '[') return Direct::NotArray;
     char *base = static_cast<char *>(arr);
     const uint32_t capacity = *count;  // not changed during the loop
