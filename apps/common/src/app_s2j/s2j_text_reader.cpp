@@ -456,6 +456,10 @@ bool check_document(const TypeDesc *d, unsigned record_depth, const Text &t, Doc
     unsigned depth = 0;
     bool object = false;  // whether the innermost open container is an object
     bool fraction = false;
+    // Every run of digits that starts before `bounded` ends before it: the
+    // byte before it is no digit.
+    const u8 *bounded = end;
+    while (bounded > p && static_cast<unsigned>(bounded[-1] - '0') <= 9) --bounded;
     uint32_t expect = 0;  // the field whose key the next member of a record likely has
     const Field *const fields = d->fields;
     const uint32_t field_count = d->field_count;
@@ -512,7 +516,10 @@ value:
             }
             const u8 *q = p + (*p == '-');
             const u8 *digits = q;
-            while (q < end && static_cast<unsigned>(*q - '0') <= 9) ++q;
+            if (q < bounded)
+                while (static_cast<unsigned>(*q - '0') <= 9) ++q;
+            else
+                while (q < end && static_cast<unsigned>(*q - '0') <= 9) ++q;
             if (q > digits && q - p <= 63 && (q == end || !is_number_char(*q))) {
                 p = q;  // a plain integer
                 goto after_value;
@@ -690,15 +697,16 @@ void each_element(const Text &t, size_t i, F f) {
 // Whether the value at t.s[i] is an integer item (an integer literal within
 // the int64_t range, as the marking parser classifies it), and its value;
 // *after is set just past the literal.  Up to 18 digits are read here; longer
-// literals by the marking parser's own reader.
+// literals by the marking parser's own reader.  The literal lies inside a
+// container of a checked text, so a byte that is no digit follows it.
 inline bool integer_at(const Text &t, size_t i, int64_t *v, size_t *after) {
     const u8 *s = t.s;
     const bool neg = s[i] == '-';
     size_t j = i + neg;
     const size_t digits = j;
-    uint64_t u = 0;
-    for (unsigned c; j - digits < 18 && (c = static_cast<unsigned>(s[j] - '0')) <= 9; ++j) u = u * 10 + c;
-    if (j > digits && !is_number_char(s[j])) {
+    uint64_t u = 0;  // wraps past 19 digits: such literals go to the marking parser's reader
+    for (unsigned c; (c = static_cast<unsigned>(s[j] - '0')) <= 9; ++j) u = u * 10 + c;
+    if (j > digits && j - digits <= 18 && !is_number_char(s[j])) {
         *v = neg ? static_cast<int64_t>(0 - u) : static_cast<int64_t>(u);
         *after = j;
         return true;
@@ -805,6 +813,13 @@ size_t read_element(const Text &t, size_t i, Members *m, char *rec) {
     return fill_record(t, *m, rec) ? end : 0;
 }
 
+// Whether an integer first key tells at once that rec is not the element
+// the keyword names (keys_match() decides every other case).
+inline bool first_key_differs(const TypeDesc *d, const char *rec, const char *keyword) {
+    const Key &k = d->keys[0];
+    return k.field.kind != Kind::Str && std::memcmp(rec + k.field.offset, keyword + k.keyword_offset, 4) != 0;
+}
+
 // The table index of a key field.
 uint32_t field_of_key(const TypeDesc *d, const Key &k) {
     uint32_t f = 0;
@@ -883,7 +898,7 @@ Direct direct_update(const TypeDesc *d, const char *text, size_t len, void *arr,
         }
         for (uint32_t i = 0; i < capacity; ++i) {
             char *rec = base + static_cast<size_t>(i) * d->size;
-            if (!keys_match(d, rec, keyword)) continue;
+            if (first_key_differs(d, rec, keyword) || !keys_match(d, rec, keyword)) continue;
             if (!fill_record(t, m, rec)) {
                 outcome = Direct::ReaderFailed;
                 return size_t{0};
