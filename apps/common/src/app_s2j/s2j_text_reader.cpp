@@ -269,6 +269,28 @@ inline size_t next_quote_backslash_or_nul(const u8 *s, size_t i, size_t len) {
     return i;
 }
 
+// Copies n bytes, short runs in two overlapping words (no byte past n is
+// written).
+inline void copy_bytes(char *to, const u8 *from, size_t n) {
+    if (n >= 16) {
+        std::memcpy(to, from, n);
+    } else if (n >= 8) {
+        uint64_t a, b;
+        std::memcpy(&a, from, 8);
+        std::memcpy(&b, from + n - 8, 8);
+        std::memcpy(to, &a, 8);
+        std::memcpy(to + n - 8, &b, 8);
+    } else if (n >= 4) {
+        uint32_t a, b;
+        std::memcpy(&a, from, 4);
+        std::memcpy(&b, from + n - 4, 4);
+        std::memcpy(to, &a, 4);
+        std::memcpy(to + n - 4, &b, 4);
+    } else {
+        for (size_t k = 0; k < n; ++k) to[k] = static_cast<char>(from[k]);
+    }
+}
+
 // Copies the string opening at t.s[i] into a field as copy_string() does,
 // and returns the offset of its closing quote.  A string without escapes is
 // copied in one piece up to its end or its first NUL.
@@ -279,7 +301,7 @@ inline size_t read_string(const Text &t, size_t i, char *field, size_t size) {
         return string_end(t, i);
     }
     const size_t n = stop - from < size - 1 ? stop - from : size - 1;
-    std::memcpy(field, t.s + from, n);
+    copy_bytes(field, t.s + from, n);
     field[n] = '\0';
     return t.s[stop] == '"' ? stop : string_end(t, i);
 }
@@ -438,38 +460,60 @@ struct Document {
     uint32_t elements;  // its number of elements, when it is an array
 };
 
-// Checks the whole text as cJSON parses it.  Written for speed over pointers:
-// blanks are met in the dispatch on the next byte rather than tested before
-// every token, plain integers and strings without escapes take one loop
-// each, and the keys of the records' objects (at depth record_depth) are
-// first compared with the key of the field expected next, which when equal
-// is a string known to need no scan.
-bool check_document(const TypeDesc *d, unsigned record_depth, const Text &t, Document *doc) {
-    const u8 *const s = t.s, *const end = t.s + t.len;
-    const u8 *p = s;
-    if (4 < t.len && s[0] == 0xEF && s[1] == 0xBB && s[2] == 0xBF) p += 3;  // a UTF-8 byte order mark
+// What the check of one text knows and finds.
+struct Checker {
+    const u8 *end;      // just past the text
+    const u8 *bounded;  // every run of digits that starts before it ends before it
+    const Field *fields;
+    uint32_t field_count;
+    bool fraction;      // whether a number literal holds a '.'
+};
+
+inline const u8 *skip_blanks(const u8 *p, const u8 *end) {
     while (p < end && *p <= 32) ++p;
-    doc->root = static_cast<size_t>(p - s);
-    doc->elements = 0;
-    // One bit per open container (set for an object), as deep as cJSON nests.
+    return p;
+}
+
+// The end of the number literal at p (a '-' or a digit) as cJSON reads it
+// inside a document, or null when cJSON refuses it.  Plain integers take one
+// loop.
+inline const u8 *check_number(Checker &c, const Text &t, const u8 *p) {
+    const u8 *q = p + (*p == '-');
+    const u8 *const digits = q;
+    if (q < c.bounded)
+        while (static_cast<unsigned>(*q - '0') <= 9) ++q;
+    else
+        while (q < c.end && static_cast<unsigned>(*q - '0') <= 9) ++q;
+    if (q > digits && q - p <= 63 && (q == c.end || !is_number_char(*q))) return q;  // a plain integer
+    if (*p != '-' && !is_digit(*p)) return nullptr;
+    const size_t n = number_length(t, static_cast<size_t>(p - t.s), &c.fraction);
+    return n == 0 ? nullptr : p + n;
+}
+
+// The end of the string opening at p, or null when cJSON refuses it.
+inline const u8 *check_string(const Text &t, const u8 *p) {
+    bool escaped = false;
+    const size_t q = scan_string(t, static_cast<size_t>(p - t.s), &escaped);
+    if (q == 0 || (escaped && !escapes_valid(p + 1, t.s + q))) return nullptr;
+    return t.s + q + 1;
+}
+
+// The end of the value at p (blanks before it allowed) inside `depth` open
+// containers, or null when cJSON refuses it.  A state machine over pointers
+// that neither recurses nor allocates: one bit per open container (set for
+// an object), as deep as cJSON nests.
+const u8 *check_value(Checker &c, const Text &t, const u8 *p, const unsigned base) {
+    const u8 *const end = c.end;
     uint64_t objects[(CJSON_NESTING_LIMIT + 63) / 64];
-    unsigned depth = 0;
+    unsigned depth = base;
     bool object = false;  // whether the innermost open container is an object
-    bool fraction = false;
-    // Every run of digits that starts before `bounded` ends before it: the
-    // byte before it is no digit.
-    const u8 *bounded = end;
-    while (bounded > p && static_cast<unsigned>(bounded[-1] - '0') <= 9) --bounded;
-    uint32_t expect = 0;  // the field whose key the next member of a record likely has
-    const Field *const fields = d->fields;
-    const uint32_t field_count = d->field_count;
 
 value:
-    if (p >= end) return false;
+    if (p >= end) return nullptr;
     switch (*p) {
         case '{':
         case '[': {
-            if (depth >= CJSON_NESTING_LIMIT) return false;
+            if (depth >= CJSON_NESTING_LIMIT) return nullptr;
             object = *p == '{';
             const uint64_t bit = uint64_t{1} << (depth % 64);
             if (object)
@@ -477,107 +521,177 @@ value:
             else
                 objects[depth / 64] &= ~bit;
             ++depth;
-            ++p;
-            while (p < end && *p <= 32) ++p;
+            p = skip_blanks(p + 1, end);
             if (p < end && *p == (object ? '}' : ']')) {
                 ++p;
                 goto close;
             }
-            if (object) {
-                expect = 0;
-                goto member;
-            }
-            if (depth == 1) doc->elements = 1;
+            if (object) goto member;
             goto value;
         }
-        case '"': {
-            bool escaped = false;
-            const size_t q = scan_string(t, static_cast<size_t>(p - s), &escaped);
-            if (q == 0 || (escaped && !escapes_valid(p + 1, s + q))) return false;
-            p = s + q + 1;
+        case '"':
+            p = check_string(t, p);
+            if (p == nullptr) return nullptr;
             goto after_value;
-        }
         case 'n':
-            if (end - p < 4 || std::memcmp(p, "null", 4) != 0) return false;
+            if (end - p < 4 || std::memcmp(p, "null", 4) != 0) return nullptr;
             p += 4;
             goto after_value;
         case 't':
-            if (end - p < 4 || std::memcmp(p, "true", 4) != 0) return false;
+            if (end - p < 4 || std::memcmp(p, "true", 4) != 0) return nullptr;
             p += 4;
             goto after_value;
         case 'f':
-            if (end - p < 5 || std::memcmp(p, "false", 5) != 0) return false;
+            if (end - p < 5 || std::memcmp(p, "false", 5) != 0) return nullptr;
             p += 5;
             goto after_value;
-        default: {
+        default:
             if (*p <= 32) {  // a blank before the value
                 ++p;
                 goto value;
             }
-            const u8 *q = p + (*p == '-');
-            const u8 *digits = q;
-            if (q < bounded)
-                while (static_cast<unsigned>(*q - '0') <= 9) ++q;
-            else
-                while (q < end && static_cast<unsigned>(*q - '0') <= 9) ++q;
-            if (q > digits && q - p <= 63 && (q == end || !is_number_char(*q))) {
-                p = q;  // a plain integer
-                goto after_value;
-            }
-            if (*p != '-' && !is_digit(*p)) return false;
-            const size_t n = number_length(t, static_cast<size_t>(p - s), &fraction);
-            if (n == 0) return false;
-            p += n;
+            p = check_number(c, t, p);
+            if (p == nullptr) return nullptr;
             goto after_value;
-        }
     }
 
 member:  // p at the key of a member
-    if (depth == record_depth && expect < field_count) {
-        const Field &f = fields[expect];
-        if (end - p > f.key_len + 1 && p[f.key_len + 1] == '"' && same_bytes(p + 1, f.key, f.key_len) && *p == '"') {
-            p += f.key_len + 2;
-            ++expect;
-            goto colon;
-        }
-        expect = field_count;  // members out of table order: no more guesses in this object
-    }
-    if (p >= end || *p != '"') return false;
-    {
-        bool escaped = false;
-        const size_t q = scan_string(t, static_cast<size_t>(p - s), &escaped);
-        if (q == 0 || (escaped && !escapes_valid(p + 1, s + q))) return false;
-        p = s + q + 1;
-    }
-
-colon:
-    while (p < end && *p <= 32) ++p;
-    if (p >= end || *p != ':') return false;
+    if (p >= end || *p != '"') return nullptr;
+    p = check_string(t, p);
+    if (p == nullptr) return nullptr;
+    p = skip_blanks(p, end);
+    if (p >= end || *p != ':') return nullptr;
     ++p;
     goto value;
 
 after_value:
-    if (depth == 0) return !fraction || decimal_point_is_one_byte();  // what follows is not read
-    for (;; ++p) {
-        if (p >= end) return false;
-        if (*p > 32) break;
-    }
+    if (depth == base) return p;
+    p = skip_blanks(p, end);
+    if (p >= end) return nullptr;
     if (*p == ',') {
-        ++p;
-        if (object) {
-            while (p < end && *p <= 32) ++p;
-            goto member;
-        }
-        if (depth == 1 && doc->elements++ == UINT32_MAX) return false;
+        p = skip_blanks(p + 1, end);
+        if (object) goto member;
         goto value;
     }
-    if (*p != (object ? '}' : ']')) return false;
+    if (*p != (object ? '}' : ']')) return nullptr;
     ++p;
 
 close:  // p just past the container that closed
     --depth;
-    if (depth > 0) object = objects[(depth - 1) / 64] & (uint64_t{1} << ((depth - 1) % 64));
+    if (depth > base) object = objects[(depth - 1) / 64] & (uint64_t{1} << ((depth - 1) % 64));
     goto after_value;
+}
+
+// The end of the record object opening at p inside `depth` open containers,
+// or null when cJSON refuses it: the generic check in one tight loop for the
+// usual members (a key, then a number, a string or a literal), whose keys are
+// first compared with the key of the field expected next, which when equal is
+// a string known to need no scan.  Values that are containers go to
+// check_value().  Inside the object the text must go on, so p stays before
+// the end, and the end is tested only where p moves.
+const u8 *check_record(Checker &c, const Text &t, const u8 *p, const unsigned depth) {
+    const u8 *const end = c.end;
+#define S2J_BLANKS()                           \
+    if (*p <= 32) do {                         \
+            if (++p == end) return nullptr;    \
+        } while (*p <= 32)
+#define S2J_STEP() \
+    if (++p == end) return nullptr
+
+    if (depth >= CJSON_NESTING_LIMIT) return nullptr;
+    S2J_STEP();
+    S2J_BLANKS();
+    if (*p == '}') return p + 1;
+    uint32_t expect = 0;
+    for (;;) {
+        bool known = false;  // whether the key is the one expected
+        if (expect < c.field_count) {
+            const Field &f = c.fields[expect];
+            known = end - p > f.key_len + 2 && p[f.key_len + 1] == '"' && *p == '"' &&
+                    same_bytes(p + 1, f.key, f.key_len);
+            if (known) {
+                p += f.key_len + 2;
+                ++expect;
+            } else {
+                expect = c.field_count;  // members out of table order: no more guesses in this object
+            }
+        }
+        if (!known) {
+            if (*p != '"') return nullptr;
+            p = check_string(t, p);
+            if (p == nullptr || p == end) return nullptr;
+        }
+        S2J_BLANKS();
+        if (*p != ':') return nullptr;
+        S2J_STEP();
+        S2J_BLANKS();
+        switch (*p) {
+            case '"':
+                p = check_string(t, p);
+                break;
+            case 'n':
+            case 't':
+            case 'f':
+            case '{':
+            case '[':
+                p = check_value(c, t, p, depth + 1);
+                break;
+            default:
+                p = check_number(c, t, p);
+                break;
+        }
+        if (p == nullptr || p == end) return nullptr;
+        S2J_BLANKS();
+        if (*p != ',') return *p == '}' ? p + 1 : nullptr;
+        S2J_STEP();
+        S2J_BLANKS();
+    }
+#undef S2J_STEP
+#undef S2J_BLANKS
+}
+
+// The end of the array of records opening at p at the top level, or null
+// when cJSON refuses it; its number of elements goes to *elements.
+const u8 *check_record_array(Checker &c, const Text &t, const u8 *p, uint32_t *elements) {
+    const u8 *const end = c.end;
+    p = skip_blanks(p + 1, end);
+    if (p < end && *p == ']') return p + 1;
+    *elements = 1;
+    for (;;) {
+        if (p >= end) return nullptr;
+        p = *p == '{' ? check_record(c, t, p, 1) : check_value(c, t, p, 1);
+        if (p == nullptr) return nullptr;
+        p = skip_blanks(p, end);
+        if (p >= end) return nullptr;
+        if (*p == ',') {
+            if ((*elements)++ == UINT32_MAX) return nullptr;
+            p = skip_blanks(p + 1, end);
+            continue;
+        }
+        return *p == ']' ? p + 1 : nullptr;
+    }
+}
+
+// Checks the whole text as cJSON parses it, records at record_depth (1: the
+// document is a record, 2: an array of records).  What follows the
+// top-level value is not read.
+bool check_document(const TypeDesc *d, unsigned record_depth, const Text &t, Document *doc) {
+    const u8 *const s = t.s, *const end = t.s + t.len;
+    const u8 *p = s;
+    if (4 < t.len && s[0] == 0xEF && s[1] == 0xBB && s[2] == 0xBF) p += 3;  // a UTF-8 byte order mark
+    p = skip_blanks(p, end);
+    doc->root = static_cast<size_t>(p - s);
+    doc->elements = 0;
+    Checker c{end, end, d->fields, d->field_count, false};
+    while (c.bounded > p && static_cast<unsigned>(c.bounded[-1] - '0') <= 9) --c.bounded;
+    if (p >= end) return false;
+    if (*p == '{' && record_depth == 1)
+        p = check_record(c, t, p, 0);
+    else if (*p == '[' && record_depth == 2)
+        p = check_record_array(c, t, p, &doc->elements);
+    else
+        p = check_value(c, t, p, 0);
+    return p != nullptr && (!c.fraction || decimal_point_is_one_byte());
 }
 
 // ---- Pass 2: reading from a well-formed text ---------------------------------
@@ -794,23 +908,53 @@ bool fill_record(const Text &t, const Members &m, void *rec) {
 // member the element is read again the general way, which stores the same
 // bytes in the fields read so far.
 size_t read_element(const Text &t, size_t i, Members *m, char *rec) {
-    const u8 *s = t.s;
+    const u8 *const s = t.s, *const end = s + t.len;
     if (s[i] != '{') return skip_value(t, i);  // no members: nothing to read
     const TypeDesc *d = m->d;
-    size_t at = skip_ws(s, i + 1);
-    if (s[at] == '}') return at + 1;
-    for (uint32_t next = 0; next < d->field_count; ++next) {
-        const Field &f = d->fields[next];
-        const size_t quote = at + 1 + f.key_len;
-        if (quote >= t.len || s[quote] != '"' || !same_bytes(s + at + 1, f.key, f.key_len)) break;
-        at = skip_ws(s, skip_ws(s, quote + 1) + 1);
-        if (!read_value(t, f, at, rec + f.offset, &at)) return 0;
-        at = skip_ws(s, at);
-        if (s[at] != ',') return at + 1;  // past the '}'
-        at = skip_ws(s, at + 1);
+    const u8 *p = s + i + 1;
+    while (*p <= 32) ++p;
+    if (*p == '}') return static_cast<size_t>(p + 1 - s);
+    for (const Field *f = d->fields, *const last = f + d->field_count; f != last; ++f) {
+        const u8 *const quote = p + 1 + f->key_len;
+        if (quote >= end || *quote != '"' || !same_bytes(p + 1, f->key, f->key_len)) break;
+        p = quote + 1;
+        while (*p <= 32) ++p;
+        ++p;  // the ':'
+        while (*p <= 32) ++p;
+        char *const at = rec + f->offset;
+        if (f->kind == Kind::I32 || f->kind == Kind::U32 || f->kind == Kind::U16) {
+            const bool neg = *p == '-';
+            const u8 *q = p + neg;
+            uint64_t u = 0;  // wraps past 19 digits: such literals are read by integer_at()
+            for (unsigned c; (c = static_cast<unsigned>(*q - '0')) <= 9; ++q) u = u * 10 + c;
+            const size_t digits = static_cast<size_t>(q - p) - neg;
+            if (digits != 0 && digits <= 18 && !is_number_char(*q)) {
+                if (neg) u = 0 - u;
+                if (f->kind == Kind::U16) {
+                    const uint16_t v = static_cast<uint16_t>(u);
+                    std::memcpy(at, &v, sizeof v);
+                } else {
+                    const uint32_t v = static_cast<uint32_t>(u);
+                    std::memcpy(at, &v, sizeof v);
+                }
+                p = q;
+            } else {
+                size_t after;
+                if (!read_value(t, *f, static_cast<size_t>(p - s), at, &after)) return 0;
+                p = s + after;
+            }
+        } else {
+            size_t after;
+            if (!read_value(t, *f, static_cast<size_t>(p - s), at, &after)) return 0;
+            p = s + after;
+        }
+        while (*p <= 32) ++p;
+        if (*p != ',') return static_cast<size_t>(p + 1 - s);  // past the '}'
+        ++p;
+        while (*p <= 32) ++p;
     }
-    const size_t end = find_members(t, i, m);
-    return fill_record(t, *m, rec) ? end : 0;
+    const size_t end_offset = find_members(t, i, m);
+    return fill_record(t, *m, rec) ? end_offset : 0;
 }
 
 // Whether an integer first key tells at once that rec is not the element
