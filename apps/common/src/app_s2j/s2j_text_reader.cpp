@@ -458,6 +458,9 @@ struct Members {
 struct Document {
     size_t root;        // offset of the top-level value
     uint32_t elements;  // its number of elements, when it is an array
+    // How many records, from the first, have their fields' keys written as
+    // the table writes them, in table order, each once, and no other member.
+    uint32_t in_order;
 };
 
 // What the check of one text knows and finds.
@@ -467,6 +470,7 @@ struct Checker {
     const Field *fields;
     uint32_t field_count;
     bool fraction;      // whether a number literal holds a '.'
+    bool in_order;      // whether the record checked last had its members in table order
 };
 
 inline const u8 *skip_blanks(const u8 *p, const u8 *end) {
@@ -582,13 +586,43 @@ close:  // p just past the container that closed
     goto after_value;
 }
 
+// The end of the value of a record's member at p (not a blank) inside
+// `depth` open containers, or null when cJSON refuses it or the text ends
+// after it (the record is not closed).  Integers followed at once by a ',' or
+// a '}' take one loop; containers go to check_value().
+__attribute__((always_inline)) inline const u8 *check_member_value(Checker &c, const Text &t, const u8 *p, unsigned depth) {
+    switch (*p) {
+        case '"':
+            p = check_string(t, p);
+            break;
+        case 'n':
+        case 't':
+        case 'f':
+        case '{':
+        case '[':
+            p = check_value(c, t, p, depth + 1);
+            break;
+        default: {
+            const u8 *q = p + (*p == '-');
+            if (q < c.bounded) {
+                const u8 *const digits = q;
+                while (static_cast<unsigned>(*q - '0') <= 9) ++q;
+                if (q != digits && q - p <= 63 && (*q == ',' || *q == '}')) return q;
+            }
+            p = check_number(c, t, p);
+            break;
+        }
+    }
+    return p == c.end ? nullptr : p;
+}
+
 // The end of the record object opening at p inside `depth` open containers,
-// or null when cJSON refuses it: the generic check in one tight loop for the
-// usual members (a key, then a number, a string or a literal), whose keys are
-// first compared with the key of the field expected next, which when equal is
-// a string known to need no scan.  Values that are containers go to
-// check_value().  Inside the object the text must go on, so p stays before
-// the end, and the end is tested only where p moves.
+// or null when cJSON refuses it: the generic check in tight loops for the
+// members of a record.  While the keys are the fields' keys in table order
+// (compared in place, strings known to need no scan), the first loop runs;
+// at the first other key the second loop checks the rest.  Inside the object
+// the text must go on, so p stays before the end, and the end is tested only
+// where p moves.  c.in_order tells whether the first loop read every member.
 const u8 *check_record(Checker &c, const Text &t, const u8 *p, const unsigned depth) {
     const u8 *const end = c.end;
 #define S2J_BLANKS()                           \
@@ -601,46 +635,42 @@ const u8 *check_record(Checker &c, const Text &t, const u8 *p, const unsigned de
     if (depth >= CJSON_NESTING_LIMIT) return nullptr;
     S2J_STEP();
     S2J_BLANKS();
+    c.in_order = false;
     if (*p == '}') return p + 1;
-    uint32_t expect = 0;
-    for (;;) {
-        bool known = false;  // whether the key is the one expected
-        if (expect < c.field_count) {
-            const Field &f = c.fields[expect];
-            known = end - p > f.key_len + 2 && p[f.key_len + 1] == '"' && *p == '"' &&
-                    same_bytes(p + 1, f.key, f.key_len);
-            if (known) {
-                p += f.key_len + 2;
-                ++expect;
-            } else {
-                expect = c.field_count;  // members out of table order: no more guesses in this object
-            }
-        }
-        if (!known) {
-            if (*p != '"') return nullptr;
-            p = check_string(t, p);
-            if (p == nullptr || p == end) return nullptr;
+    for (const Field *f = c.fields, *const last = f + c.field_count;; ++f) {
+        if (f == last) goto other_member;
+        {
+            const size_t n = f->key_len;
+            if (end - p <= static_cast<ptrdiff_t>(n) + 2 || p[n + 1] != '"' || *p != '"' || !same_bytes(p + 1, f->key, n))
+                goto other_member;
+            p += n + 2;
         }
         S2J_BLANKS();
         if (*p != ':') return nullptr;
         S2J_STEP();
         S2J_BLANKS();
-        switch (*p) {
-            case '"':
-                p = check_string(t, p);
-                break;
-            case 'n':
-            case 't':
-            case 'f':
-            case '{':
-            case '[':
-                p = check_value(c, t, p, depth + 1);
-                break;
-            default:
-                p = check_number(c, t, p);
-                break;
+        p = check_member_value(c, t, p, depth);
+        if (p == nullptr) return nullptr;
+        S2J_BLANKS();
+        if (*p != ',') {
+            if (*p != '}') return nullptr;
+            c.in_order = f + 1 == last;
+            return p + 1;
         }
+        S2J_STEP();
+        S2J_BLANKS();
+    }
+other_member:  // p at a key that is not the one expected; no more guesses in this object
+    for (;;) {
+        if (*p != '"') return nullptr;
+        p = check_string(t, p);
         if (p == nullptr || p == end) return nullptr;
+        S2J_BLANKS();
+        if (*p != ':') return nullptr;
+        S2J_STEP();
+        S2J_BLANKS();
+        p = check_member_value(c, t, p, depth);
+        if (p == nullptr) return nullptr;
         S2J_BLANKS();
         if (*p != ',') return *p == '}' ? p + 1 : nullptr;
         S2J_STEP();
@@ -652,15 +682,24 @@ const u8 *check_record(Checker &c, const Text &t, const u8 *p, const unsigned de
 
 // The end of the array of records opening at p at the top level, or null
 // when cJSON refuses it; its number of elements goes to *elements.
-const u8 *check_record_array(Checker &c, const Text &t, const u8 *p, uint32_t *elements) {
+const u8 *check_record_array(Checker &c, const Text &t, const u8 *p, Document *doc) {
     const u8 *const end = c.end;
+    uint32_t *const elements = &doc->elements;
     p = skip_blanks(p + 1, end);
     if (p < end && *p == ']') return p + 1;
     *elements = 1;
+    bool in_order = true;  // whether every record so far had its members in table order
     for (;;) {
         if (p >= end) return nullptr;
-        p = *p == '{' ? check_record(c, t, p, 1) : check_value(c, t, p, 1);
+        if (*p == '{') {
+            p = check_record(c, t, p, 1);
+            in_order = in_order && c.in_order;
+        } else {
+            p = check_value(c, t, p, 1);
+            in_order = false;
+        }
         if (p == nullptr) return nullptr;
+        if (in_order) doc->in_order = *elements;
         p = skip_blanks(p, end);
         if (p >= end) return nullptr;
         if (*p == ',') {
@@ -682,13 +721,16 @@ bool check_document(const TypeDesc *d, unsigned record_depth, const Text &t, Doc
     p = skip_blanks(p, end);
     doc->root = static_cast<size_t>(p - s);
     doc->elements = 0;
-    Checker c{end, end, d->fields, d->field_count, false};
+    doc->in_order = 0;
+    Checker c{end, end, d->fields, d->field_count, false, false};
     while (c.bounded > p && static_cast<unsigned>(c.bounded[-1] - '0') <= 9) --c.bounded;
     if (p >= end) return false;
-    if (*p == '{' && record_depth == 1)
+    if (*p == '{' && record_depth == 1) {
         p = check_record(c, t, p, 0);
+        doc->in_order = c.in_order;
+    }
     else if (*p == '[' && record_depth == 2)
-        p = check_record_array(c, t, p, &doc->elements);
+        p = check_record_array(c, t, p, doc);
     else
         p = check_value(c, t, p, 0);
     return p != nullptr && (!c.fraction || decimal_point_is_one_byte());
@@ -901,6 +943,34 @@ bool fill_record(const Text &t, const Members &m, void *rec) {
     return true;
 }
 
+// Reads the value at p into the field f of rec, and returns the position
+// just past it, or null when the value is not of the field's JSON type.
+// Integer literals of up to 18 digits are read in place.
+inline const u8 *read_member_value(const Text &t, const Field &f, const u8 *p, char *rec) {
+    char *const at = rec + f.offset;
+    if (f.kind == Kind::I32 || f.kind == Kind::U32 || f.kind == Kind::U16) {
+        const bool neg = *p == '-';
+        const u8 *q = p + neg;
+        uint64_t u = 0;  // wraps past 19 digits: such literals are read by integer_at()
+        for (unsigned c; (c = static_cast<unsigned>(*q - '0')) <= 9; ++q) u = u * 10 + c;
+        const size_t digits = static_cast<size_t>(q - p) - neg;
+        if (digits != 0 && digits <= 18 && !is_number_char(*q)) {
+            if (neg) u = 0 - u;
+            if (f.kind == Kind::U16) {
+                const uint16_t v = static_cast<uint16_t>(u);
+                std::memcpy(at, &v, sizeof v);
+            } else {
+                const uint32_t v = static_cast<uint32_t>(u);
+                std::memcpy(at, &v, sizeof v);
+            }
+            return q;
+        }
+    }
+    size_t after;
+    if (!read_value(t, f, static_cast<size_t>(p - t.s), at, &after)) return nullptr;
+    return t.s + after;
+}
+
 // Reads the element at t.s[i] into rec as fill_record() reads the members
 // find_members() finds, and returns the offset just past it, or 0 when a
 // member is of the wrong JSON type.  Members written as the fields' keys in
@@ -921,33 +991,8 @@ size_t read_element(const Text &t, size_t i, Members *m, char *rec) {
         while (*p <= 32) ++p;
         ++p;  // the ':'
         while (*p <= 32) ++p;
-        char *const at = rec + f->offset;
-        if (f->kind == Kind::I32 || f->kind == Kind::U32 || f->kind == Kind::U16) {
-            const bool neg = *p == '-';
-            const u8 *q = p + neg;
-            uint64_t u = 0;  // wraps past 19 digits: such literals are read by integer_at()
-            for (unsigned c; (c = static_cast<unsigned>(*q - '0')) <= 9; ++q) u = u * 10 + c;
-            const size_t digits = static_cast<size_t>(q - p) - neg;
-            if (digits != 0 && digits <= 18 && !is_number_char(*q)) {
-                if (neg) u = 0 - u;
-                if (f->kind == Kind::U16) {
-                    const uint16_t v = static_cast<uint16_t>(u);
-                    std::memcpy(at, &v, sizeof v);
-                } else {
-                    const uint32_t v = static_cast<uint32_t>(u);
-                    std::memcpy(at, &v, sizeof v);
-                }
-                p = q;
-            } else {
-                size_t after;
-                if (!read_value(t, *f, static_cast<size_t>(p - s), at, &after)) return 0;
-                p = s + after;
-            }
-        } else {
-            size_t after;
-            if (!read_value(t, *f, static_cast<size_t>(p - s), at, &after)) return 0;
-            p = s + after;
-        }
+        p = read_member_value(t, *f, p, rec);
+        if (p == nullptr) return 0;
         while (*p <= 32) ++p;
         if (*p != ',') return static_cast<size_t>(p + 1 - s);  // past the '}'
         ++p;
@@ -955,6 +1000,26 @@ size_t read_element(const Text &t, size_t i, Members *m, char *rec) {
     }
     const size_t end_offset = find_members(t, i, m);
     return fill_record(t, *m, rec) ? end_offset : 0;
+}
+
+// Reads the record object at t.s[i] whose members the check found to be the
+// fields' keys as the table writes them, in table order, each once, as
+// read_element() reads it, and returns the offset just past it (0 when a
+// member is of the wrong JSON type).
+size_t read_in_order(const Text &t, size_t i, const TypeDesc *d, char *rec) {
+    const u8 *p = t.s + i + 1;
+    for (const Field *f = d->fields, *const last = f + d->field_count; f != last; ++f) {
+        while (*p <= 32) ++p;
+        p += f->key_len + 2;  // the key and its quotes
+        while (*p <= 32) ++p;
+        ++p;  // the ':'
+        while (*p <= 32) ++p;
+        p = read_member_value(t, *f, p, rec);
+        if (p == nullptr) return 0;
+        while (*p <= 32) ++p;
+        ++p;  // the ',' or the '}'
+    }
+    return static_cast<size_t>(p - t.s);
 }
 
 // Whether an integer first key tells at once that rec is not the element
@@ -982,9 +1047,16 @@ Direct direct_record(const TypeDesc *d, const char *text, size_t len, void *rec)
     Document doc;
     if (!start(d, 1, t, &doc)) return Direct::UseTree;
     if (t.s[doc.root] != '{') return Direct::NotObject;
-    Members m;
-    m.d = d;
-    return read_element(t, doc.root, &m, static_cast<char *>(rec)) != 0 ? Direct::Done : Direct::ReaderFailed;
+    char *const r = static_cast<char *>(rec);
+    size_t end;
+    if (doc.in_order != 0) {
+        end = read_in_order(t, doc.root, d, r);
+    } else {
+        Members m;
+        m.d = d;
+        end = read_element(t, doc.root, &m, r);
+    }
+    return end != 0 ? Direct::Done : Direct::ReaderFailed;
 }
 
 Direct direct_array(const TypeDesc *d, const char *text, size_t len, void *arr, uint32_t *count) {
@@ -1004,7 +1076,8 @@ Direct direct_array(const TypeDesc *d, const char *text, size_t len, void *arr, 
     m.d = d;
     each_element(t, doc.root, [&](size_t value) -> size_t {
         if (k == filled) return 0;
-        const size_t end = read_element(t, value, &m, base + static_cast<size_t>(k) * d->size);
+        char *const rec = base + static_cast<size_t>(k) * d->size;
+        const size_t end = k < doc.in_order ? read_in_order(t, value, d, rec) : read_element(t, value, &m, rec);
         ok = end != 0;
         ++k;
         return end;
