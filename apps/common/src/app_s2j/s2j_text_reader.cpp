@@ -30,6 +30,9 @@ namespace s2j {
 
 namespace {
 
+// Paths that usual records do not take: compiled for size.
+#define S2J_COLD __attribute__((cold))
+
 using u8 = unsigned char;
 
 // ---- Byte classes -----------------------------------------------------------
@@ -88,7 +91,7 @@ unsigned hex4(const u8 *p) {
 // number of text bytes it takes (6, or 12 for a surrogate pair), or 0 when
 // cJSON refuses it; its UTF-8 bytes go to out, their number to *n.  Four hex
 // digits that are not all hex read as 0, which ends the string's text.
-unsigned unicode_escape(const u8 *p, const u8 *end, u8 out[4], unsigned *n) {
+S2J_COLD unsigned unicode_escape(const u8 *p, const u8 *end, u8 out[4], unsigned *n) {
     if (end - p < 6) return 0;
     unsigned code = hex4(p + 2);
     if (code >= 0xDC00 && code <= 0xDFFF) return 0;  // a low surrogate first
@@ -178,7 +181,7 @@ inline size_t scan_string(const Text &t, size_t i, bool *escaped) {
 }
 
 // Whether cJSON accepts every escape of the string text [p, end).
-bool escapes_valid(const u8 *p, const u8 *end) {
+S2J_COLD bool escapes_valid(const u8 *p, const u8 *end) {
     while (p < end) {
         if (*p != '\\') {
             ++p;
@@ -214,7 +217,7 @@ inline size_t string_end(const Text &t, size_t i) {
 // Copies the text of the string opening at s[i] into a field of size bytes as
 // snprintf(field, size, "%s", text) would copy cJSON's value: at most size-1
 // bytes, up to the first NUL of the decoded text, then a NUL.
-void copy_string(const Text &t, size_t i, char *field, size_t size) {
+S2J_COLD void copy_string(const Text &t, size_t i, char *field, size_t size) {
     const size_t room = size - 1;
     const u8 *p = t.s + i + 1, *end = t.s + string_end(t, i);
     size_t n = 0;
@@ -343,7 +346,7 @@ struct KeyText {
 
 constexpr size_t kKeyRoom = 128;  // longer than every field's key
 
-bool decode_key(const Text &t, size_t i, u8 (&buf)[kKeyRoom], KeyText *key) {
+S2J_COLD bool decode_key(const Text &t, size_t i, u8 (&buf)[kKeyRoom], KeyText *key) {
     char *out = reinterpret_cast<char *>(buf);
     copy_string(t, i, out, kKeyRoom);
     key->p = buf;
@@ -369,7 +372,7 @@ bool same_key_text(const char *field_key, const KeyText &k) {
 // else 0: a run that strtod() reads only in part (cJSON refuses it inside a
 // document and ignores the rest after a top-level value), none of, or that
 // cJSON cuts at 63 characters.  *fraction tells whether it holds a '.'.
-size_t number_length(const Text &t, size_t i, bool *fraction) {
+S2J_COLD size_t number_length(const Text &t, size_t i, bool *fraction) {
     size_t run = i;
     while (run < t.len && is_number_char(t.s[run])) ++run;
     if (run - i >= 63) return 0;
@@ -404,7 +407,7 @@ bool decimal_point_is_one_byte() {
 
 // The field whose key equals the member's key, or -1; the field after the
 // last one matched is tried first, as members usually come in table order.
-int find_field(const TypeDesc *d, const KeyText &key, uint32_t next) {
+S2J_COLD int find_field(const TypeDesc *d, const KeyText &key, uint32_t next) {
     if (next < d->field_count && same_key_text(d->fields[next].key, key)) return static_cast<int>(next);
     for (uint32_t f = 0; f < d->field_count; ++f)
         if (f != next && same_key_text(d->fields[f].key, key)) return static_cast<int>(f);
@@ -416,7 +419,7 @@ int find_field(const TypeDesc *d, const KeyText &key, uint32_t next) {
 // field's is compared in place; others are decoded as cJSON decodes them
 // (escapes, and the text up to an escaped or raw NUL) and compared under
 // tolower() with every field's.
-int match_key(const TypeDesc *d, const Text &t, size_t quote, size_t end, uint32_t next) {
+S2J_COLD int match_key(const TypeDesc *d, const Text &t, size_t quote, size_t end, uint32_t next) {
     const size_t n = end - quote - 1;
     const u8 *p = t.s + quote + 1;
     if (next < d->field_count) {
@@ -461,6 +464,7 @@ struct Document {
     // How many records, from the first, have their fields' keys written as
     // the table writes them, in table order, each once, and no other member.
     uint32_t in_order;
+    bool blanks;  // whether those records have blanks between their tokens
 };
 
 // What the check of one text knows and finds.
@@ -471,6 +475,7 @@ struct Checker {
     uint32_t field_count;
     bool fraction;      // whether a number literal holds a '.'
     bool in_order;      // whether the record checked last had its members in table order
+    bool blanks;        // whether a record read in table order had blanks between its tokens
 };
 
 inline const u8 *skip_blanks(const u8 *p, const u8 *end) {
@@ -506,7 +511,7 @@ inline const u8 *check_string(const Text &t, const u8 *p) {
 // containers, or null when cJSON refuses it.  A state machine over pointers
 // that neither recurses nor allocates: one bit per open container (set for
 // an object), as deep as cJSON nests.
-const u8 *check_value(Checker &c, const Text &t, const u8 *p, const unsigned base) {
+S2J_COLD const u8 *check_value(Checker &c, const Text &t, const u8 *p, const unsigned base) {
     const u8 *const end = c.end;
     uint64_t objects[(CJSON_NESTING_LIMIT + 63) / 64];
     unsigned depth = base;
@@ -618,11 +623,13 @@ __attribute__((always_inline)) inline const u8 *check_member_value(Checker &c, c
 
 // The end of the record object opening at p inside `depth` open containers,
 // or null when cJSON refuses it: the generic check in tight loops for the
-// members of a record.  While the keys are the fields' keys in table order
-// (compared in place, strings known to need no scan), the first loop runs;
-// at the first other key the second loop checks the rest.  Inside the object
-// the text must go on, so p stays before the end, and the end is tested only
-// where p moves.  c.in_order tells whether the first loop read every member.
+// members of a record.  While the keys are the fields' keys in table order,
+// each followed at once by its ':' (compared in place: strings known to need
+// no scan), the first loop runs; at the first other key the second loop
+// checks the rest.  Inside the object the text must go on, so p stays before
+// the end, and the end is tested only where p moves.  c.in_order tells
+// whether the first loop read every member; c.blanks is set when a blank
+// stood between two tokens of the first loop.
 const u8 *check_record(Checker &c, const Text &t, const u8 *p, const unsigned depth) {
     const u8 *const end = c.end;
 #define S2J_BLANKS()                           \
@@ -631,34 +638,60 @@ const u8 *check_record(Checker &c, const Text &t, const u8 *p, const unsigned de
         } while (*p <= 32)
 #define S2J_STEP() \
     if (++p == end) return nullptr
+#define S2J_MARKED_BLANKS() \
+    if (*p <= 32) {         \
+        c.blanks = true;    \
+        S2J_BLANKS();       \
+    }
 
     if (depth >= CJSON_NESTING_LIMIT) return nullptr;
     S2J_STEP();
-    S2J_BLANKS();
+    S2J_MARKED_BLANKS();
     c.in_order = false;
     if (*p == '}') return p + 1;
     for (const Field *f = c.fields, *const last = f + c.field_count;; ++f) {
         if (f == last) goto other_member;
         {
             const size_t n = f->key_len;
-            if (end - p <= static_cast<ptrdiff_t>(n) + 2 || p[n + 1] != '"' || *p != '"' || !same_bytes(p + 1, f->key, n))
+            if (end - p <= static_cast<ptrdiff_t>(n) + 3 || p[n + 2] != ':' || p[n + 1] != '"' || *p != '"' ||
+                !same_bytes(p + 1, f->key, n))
                 goto other_member;
-            p += n + 2;
+            p += n + 3;
         }
-        S2J_BLANKS();
-        if (*p != ':') return nullptr;
-        S2J_STEP();
-        S2J_BLANKS();
-        p = check_member_value(c, t, p, depth);
-        if (p == nullptr) return nullptr;
-        S2J_BLANKS();
-        if (*p != ',') {
-            if (*p != '}') return nullptr;
-            c.in_order = f + 1 == last;
-            return p + 1;
+        S2J_MARKED_BLANKS();
+        if (*p == '"') {
+            const size_t q = next_quote_or_backslash(t.s, static_cast<size_t>(p - t.s) + 1, t.len);
+            p = q < t.len && t.s[q] == '"' ? t.s + q + 1 : check_string(t, p);
+        } else if (*p == '-' || static_cast<unsigned>(*p - '0') <= 9) {
+            const u8 *q = p + (*p == '-');
+            if (q < c.bounded) {
+                const u8 *const digits = q;
+                while (static_cast<unsigned>(*q - '0') <= 9) ++q;
+                if (q != digits && q - p <= 63) {
+                    if (*q == ',') {
+                        p = q;
+                        goto comma;
+                    }
+                    if (*q == '}') {
+                        p = q;
+                        goto close;
+                    }
+                }
+            }
+            p = check_number(c, t, p);
+        } else {
+            p = check_value(c, t, p, depth + 1);
         }
+        if (p == nullptr || p == end) return nullptr;
+        S2J_MARKED_BLANKS();
+        if (*p == ',') goto comma;
+        if (*p != '}') return nullptr;
+    close:
+        c.in_order = f + 1 == last;
+        return p + 1;
+    comma:
         S2J_STEP();
-        S2J_BLANKS();
+        S2J_MARKED_BLANKS();
     }
 other_member:  // p at a key that is not the one expected; no more guesses in this object
     for (;;) {
@@ -676,6 +709,7 @@ other_member:  // p at a key that is not the one expected; no more guesses in th
         S2J_STEP();
         S2J_BLANKS();
     }
+#undef S2J_MARKED_BLANKS
 #undef S2J_STEP
 #undef S2J_BLANKS
 }
@@ -722,7 +756,7 @@ bool check_document(const TypeDesc *d, unsigned record_depth, const Text &t, Doc
     doc->root = static_cast<size_t>(p - s);
     doc->elements = 0;
     doc->in_order = 0;
-    Checker c{end, end, d->fields, d->field_count, false, false};
+    Checker c{end, end, d->fields, d->field_count, false, false, false};
     while (c.bounded > p && static_cast<unsigned>(c.bounded[-1] - '0') <= 9) --c.bounded;
     if (p >= end) return false;
     if (*p == '{' && record_depth == 1) {
@@ -733,6 +767,7 @@ bool check_document(const TypeDesc *d, unsigned record_depth, const Text &t, Doc
         p = check_record_array(c, t, p, doc);
     else
         p = check_value(c, t, p, 0);
+    doc->blanks = c.blanks;
     return p != nullptr && (!c.fraction || decimal_point_is_one_byte());
 }
 
@@ -804,7 +839,7 @@ void each_child(const Text &t, size_t i, F f) {
 // The members of the value at t.s[i] (a value that is not an object has
 // none); returns the offset just past the value.  The key expected next is
 // compared in place before its end is looked for.
-size_t find_members(const Text &t, size_t i, Members *m) {
+S2J_COLD size_t find_members(const Text &t, size_t i, Members *m) {
     m->clear();
     const u8 *s = t.s;
     if (s[i] != '{') return skip_value(t, i);
@@ -876,7 +911,7 @@ inline bool integer_at(const Text &t, size_t i, int64_t *v, size_t *after) {
 
 // One integer list: entries stored by position, non-integers skipped; false
 // when the value has no children or none of them is an integer.
-bool read_list(const Text &t, size_t i, char *at, uint32_t size) {
+S2J_COLD bool read_list(const Text &t, size_t i, char *at, uint32_t size) {
     if (t.s[i] != '[' && t.s[i] != '{') return false;
     const uint32_t capacity = size / 4;
     uint32_t k = 0;
@@ -952,7 +987,7 @@ inline const u8 *read_member_value(const Text &t, const Field &f, const u8 *p, c
         const bool neg = *p == '-';
         const u8 *q = p + neg;
         uint64_t u = 0;  // wraps past 19 digits: such literals are read by integer_at()
-        for (unsigned c; (c = static_cast<unsigned>(*q - '0')) <= 9; ++q) u = u * 10 + c;
+        for (uint64_t c; (c = uint64_t{*q} - '0') <= 9; ++q) u = u * 10 + c;
         const size_t digits = static_cast<size_t>(q - p) - neg;
         if (digits != 0 && digits <= 18 && !is_number_char(*q)) {
             if (neg) u = 0 - u;
@@ -966,40 +1001,37 @@ inline const u8 *read_member_value(const Text &t, const Field &f, const u8 *p, c
             return q;
         }
     }
+    if (f.kind == Kind::Str && *p == '"') {
+        const size_t from = static_cast<size_t>(p - t.s) + 1, stop = next_quote_backslash_or_nul(t.s, from, t.len);
+        if (t.s[stop] == '"') {
+            const size_t n = stop - from < f.size - 1 ? stop - from : f.size - 1;
+            copy_bytes(at, t.s + from, n);
+            at[n] = '\0';
+            return t.s + stop + 1;
+        }
+    }
     size_t after;
     if (!read_value(t, f, static_cast<size_t>(p - t.s), at, &after)) return nullptr;
     return t.s + after;
 }
 
-// Reads the element at t.s[i] into rec as fill_record() reads the members
-// find_members() finds, and returns the offset just past it, or 0 when a
-// member is of the wrong JSON type.  Members written as the fields' keys in
-// table order, each field once, are read as they come; at the first other
-// member the element is read again the general way, which stores the same
-// bytes in the fields read so far.
+// Reads the element at t.s[i] into rec: fill_record() over the members
+// find_members() finds.  Returns the offset just past the element, or 0 when
+// a member is of the wrong JSON type.
 size_t read_element(const Text &t, size_t i, Members *m, char *rec) {
-    const u8 *const s = t.s, *const end = s + t.len;
-    if (s[i] != '{') return skip_value(t, i);  // no members: nothing to read
-    const TypeDesc *d = m->d;
-    const u8 *p = s + i + 1;
-    while (*p <= 32) ++p;
-    if (*p == '}') return static_cast<size_t>(p + 1 - s);
+    const size_t end = find_members(t, i, m);
+    return fill_record(t, *m, rec) ? end : 0;
+}
+
+// read_in_order() for a record without blanks between its tokens.
+size_t read_in_order_compact(const Text &t, size_t i, const TypeDesc *d, char *rec) {
+    const u8 *p = t.s + i + 1;
     for (const Field *f = d->fields, *const last = f + d->field_count; f != last; ++f) {
-        const u8 *const quote = p + 1 + f->key_len;
-        if (quote >= end || *quote != '"' || !same_bytes(p + 1, f->key, f->key_len)) break;
-        p = quote + 1;
-        while (*p <= 32) ++p;
-        ++p;  // the ':'
-        while (*p <= 32) ++p;
-        p = read_member_value(t, *f, p, rec);
+        p = read_member_value(t, *f, p + f->key_len + 3, rec);  // past the key, its quotes and the ':'
         if (p == nullptr) return 0;
-        while (*p <= 32) ++p;
-        if (*p != ',') return static_cast<size_t>(p + 1 - s);  // past the '}'
-        ++p;
-        while (*p <= 32) ++p;
+        ++p;  // the ',' or the '}'
     }
-    const size_t end_offset = find_members(t, i, m);
-    return fill_record(t, *m, rec) ? end_offset : 0;
+    return static_cast<size_t>(p - t.s);
 }
 
 // Reads the record object at t.s[i] whose members the check found to be the
@@ -1022,11 +1054,42 @@ size_t read_in_order(const Text &t, size_t i, const TypeDesc *d, char *rec) {
     return static_cast<size_t>(p - t.s);
 }
 
-// Whether an integer first key tells at once that rec is not the element
-// the keyword names (keys_match() decides every other case).
-inline bool first_key_differs(const TypeDesc *d, const char *rec, const char *keyword) {
-    const Key &k = d->keys[0];
-    return k.field.kind != Kind::Str && std::memcmp(rec + k.field.offset, keyword + k.keyword_offset, 4) != 0;
+// The index of the first of the capacity records at base whose keys equal
+// the keyword's (as keys_match() compares them), or capacity.  An integer
+// first key is compared in place before keys_match() is asked.
+uint32_t find_keyed(const TypeDesc *d, const char *base, uint32_t capacity, const char *keyword) {
+    const Field &first = d->keys[0].field;
+    if (first.kind == Kind::Str) {
+        for (uint32_t i = 0; i < capacity; ++i)
+            if (keys_match(d, base + static_cast<size_t>(i) * d->size, keyword)) return i;
+        return capacity;
+    }
+    uint32_t want;
+    std::memcpy(&want, keyword + d->keys[0].keyword_offset, sizeof want);
+    const char *key = base + first.offset;
+    for (uint32_t i = 0; i < capacity; ++i, key += d->size) {
+        uint32_t have;
+        std::memcpy(&have, key, sizeof have);
+        if (have == want && keys_match(d, key - first.offset, keyword)) return i;
+    }
+    return capacity;
+}
+
+// find_members() for a record object whose members the check found to be
+// the fields' keys in table order, each once: the value of each is where the
+// walk meets it.
+size_t members_in_order(const Text &t, size_t i, Members *m) {
+    const u8 *const s = t.s;
+    const TypeDesc *d = m->d;
+    size_t at = i + 1;
+    for (uint32_t f = 0; f < d->field_count; ++f) {
+        at = skip_ws(s, at) + d->fields[f].key_len + 2;  // past the key and its quotes
+        at = skip_ws(s, skip_ws(s, at) + 1);              // past the ':'
+        m->at[f] = at;
+        at = skip_ws(s, skip_value(t, at)) + 1;           // past the ',' or the '}'
+    }
+    m->next = d->field_count;
+    return at;
 }
 
 // The table index of a key field.
@@ -1037,7 +1100,7 @@ uint32_t field_of_key(const TypeDesc *d, const Key &k) {
 }
 
 bool start(const TypeDesc *d, unsigned record_depth, const Text &t, Document *doc) {
-    return !d->key_twins && check_document(d, record_depth, t, doc);
+    return check_document(d, record_depth, t, doc);
 }
 
 }  // namespace
@@ -1050,7 +1113,7 @@ Direct direct_record(const TypeDesc *d, const char *text, size_t len, void *rec)
     char *const r = static_cast<char *>(rec);
     size_t end;
     if (doc.in_order != 0) {
-        end = read_in_order(t, doc.root, d, r);
+        end = doc.blanks ? read_in_order(t, doc.root, d, r) : read_in_order_compact(t, doc.root, d, r);
     } else {
         Members m;
         m.d = d;
@@ -1077,7 +1140,13 @@ Direct direct_array(const TypeDesc *d, const char *text, size_t len, void *arr, 
     each_element(t, doc.root, [&](size_t value) -> size_t {
         if (k == filled) return 0;
         char *const rec = base + static_cast<size_t>(k) * d->size;
-        const size_t end = k < doc.in_order ? read_in_order(t, value, d, rec) : read_element(t, value, &m, rec);
+        size_t end;
+        if (k >= doc.in_order)
+            end = read_element(t, value, &m, rec);
+        else if (doc.blanks)
+            end = read_in_order(t, value, d, rec);
+        else
+            end = read_in_order_compact(t, value, d, rec);
         ok = end != 0;
         ++k;
         return end;
@@ -1098,8 +1167,9 @@ Direct direct_update(const TypeDesc *d, const char *text, size_t len, void *arr,
     Direct outcome = Direct::Done;
     Members m;
     m.d = d;
+    uint32_t k = 0;  // the element's index
     each_element(t, doc.root, [&](size_t value) -> size_t {
-        const size_t end = find_members(t, value, &m);
+        const size_t end = k++ < doc.in_order ? members_in_order(t, value, &m) : find_members(t, value, &m);
         // The keyword record of this element, read as the keyword reader
         // reads it: every key present and of its JSON type.
         alignas(8) char keyword[kMaxKeywordSize];
@@ -1113,15 +1183,13 @@ Direct direct_update(const TypeDesc *d, const char *text, size_t len, void *arr,
                 return size_t{0};
             }
         }
-        for (uint32_t i = 0; i < capacity; ++i) {
-            char *rec = base + static_cast<size_t>(i) * d->size;
-            if (first_key_differs(d, rec, keyword) || !keys_match(d, rec, keyword)) continue;
-            if (!fill_record(t, m, rec)) {
+        const uint32_t i = find_keyed(d, base, capacity, keyword);
+        if (i < capacity) {
+            if (!fill_record(t, m, base + static_cast<size_t>(i) * d->size)) {
                 outcome = Direct::ReaderFailed;
                 return size_t{0};
             }
             ++updated;
-            break;
         }
         return end;
     });
