@@ -59,7 +59,6 @@ struct TypeDesc {
     const Key *keys;  // in key order; null for types without keys
     uint32_t key_count;
     uint32_t int_text_bytes;  // room for the decimal text of every integer of a record
-    bool key_twins;           // two keys equal but for letter case
     // The longest text of one record with its strings empty, compact and
     // indented as the only object of a text: what the text writer reserves
     // before it adds the strings' escaped lengths (s2j_write.cpp).
@@ -210,7 +209,7 @@ constexpr bool same_but_case(const char *a, const char *b) {
     }
 }
 
-constexpr bool has_key_twins(const Field *f, size_t n) {
+constexpr bool has_keys_equal_but_for_case(const Field *f, size_t n) {
     for (size_t i = 0; i < n; ++i)
         for (size_t j = i + 1; j < n; ++j)
             if (same_but_case(f[i].key, f[j].key)) return true;
@@ -309,7 +308,9 @@ bool keys_match(const TypeDesc *d, const void *rec, const void *keyword);
     static_assert(sizeof(T##_fields) / sizeof(T##_fields[0]) <= ::s2j::kMaxFields, #T ": too many fields"); \
     static_assert(sizeof(T##_fields) / sizeof(T##_fields[0]) > 0, #T ": no fields");                  \
     static_assert(::s2j::keys_as_written(T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0])),      \
-                  #T ": a key is too long or needs escapes")
+                  #T ": a key is too long or needs escapes");                                    \
+    static_assert(!::s2j::has_keys_equal_but_for_case(T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0])),      \
+                  #T ": two keys are equal but for letter case")
 
 #define S2J_DESC(T, keys, nkeys)                                                               \
     namespace s2j {                                                                            \
@@ -317,7 +318,6 @@ bool keys_match(const TypeDesc *d, const void *rec, const void *keyword);
     constexpr TypeDesc desc_##T = {                                                            \
         #T, sizeof(T), T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0]), keys, nkeys,    \
         int_text_bytes(T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0])),                \
-        has_key_twins(T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0])),                 \
         text_bytes(T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0]), false),             \
         text_bytes(T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0]), true),              \
         string_fields(T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0]))};                \
