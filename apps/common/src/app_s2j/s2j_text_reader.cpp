@@ -1075,21 +1075,11 @@ uint32_t find_keyed(const TypeDesc *d, const char *base, uint32_t capacity, cons
     return capacity;
 }
 
-// find_members() for a record object whose members the check found to be
-// the fields' keys in table order, each once: the value of each is where the
-// walk meets it.
-size_t members_in_order(const Text &t, size_t i, Members *m) {
-    const u8 *const s = t.s;
-    const TypeDesc *d = m->d;
-    size_t at = i + 1;
-    for (uint32_t f = 0; f < d->field_count; ++f) {
-        at = skip_ws(s, at) + d->fields[f].key_len + 2;  // past the key and its quotes
-        at = skip_ws(s, skip_ws(s, at) + 1);              // past the ':'
-        m->at[f] = at;
-        at = skip_ws(s, skip_value(t, at)) + 1;           // past the ',' or the '}'
-    }
-    m->next = d->field_count;
-    return at;
+// A key field as the keyword record holds it: a string key as char[64].
+inline Field keyword_field(const Key &key) {
+    Field f = key.field;
+    if (f.kind == Kind::Str) f.size = kKeyStringSize;
+    return f;
 }
 
 // The table index of a key field.
@@ -1097,6 +1087,33 @@ uint32_t field_of_key(const TypeDesc *d, const Key &k) {
     uint32_t f = 0;
     while (d->fields[f].offset != k.field.offset) ++f;
     return f;
+}
+
+// Reads the keys of the record object at t.s[i], whose members the check
+// found to be the fields' keys in table order, into keyword as the keyword
+// reader reads them: false when one is not of its field's JSON type.
+bool keys_in_order(const Text &t, size_t i, const TypeDesc *d, char *keyword) {
+    const u8 *const s = t.s;
+    uint32_t last = 0;  // the last field that is a key
+    for (uint32_t k = 0; k < d->key_count; ++k) {
+        const uint32_t f = field_of_key(d, d->keys[k]);
+        if (f > last) last = f;
+    }
+    size_t at = i + 1;
+    for (uint32_t f = 0; f <= last; ++f) {
+        at = skip_ws(s, at) + d->fields[f].key_len + 2;  // past the key and its quotes
+        at = skip_ws(s, skip_ws(s, at) + 1);              // past the ':'
+        const Key *key = nullptr;
+        for (uint32_t k = 0; k < d->key_count; ++k)
+            if (d->keys[k].field.offset == d->fields[f].offset) key = &d->keys[k];
+        if (key == nullptr) {
+            at = skip_value(t, at);
+        } else if (!read_value(t, keyword_field(*key), at, keyword + key->keyword_offset, &at)) {
+            return false;
+        }
+        at = skip_ws(s, at) + 1;  // past the ',' or the '}'
+    }
+    return true;
 }
 
 bool start(const TypeDesc *d, unsigned record_depth, const Text &t, Document *doc) {
@@ -1169,16 +1186,30 @@ Direct direct_update(const TypeDesc *d, const char *text, size_t len, void *arr,
     m.d = d;
     uint32_t k = 0;  // the element's index
     each_element(t, doc.root, [&](size_t value) -> size_t {
-        const size_t end = k++ < doc.in_order ? members_in_order(t, value, &m) : find_members(t, value, &m);
         // The keyword record of this element, read as the keyword reader
         // reads it: every key present and of its JSON type.
         alignas(8) char keyword[kMaxKeywordSize];
-        for (uint32_t k = 0; k < d->key_count; ++k) {
-            const Key &key = d->keys[k];
-            Field f = key.field;
-            if (f.kind == Kind::Str) f.size = kKeyStringSize;
+        if (k++ < doc.in_order) {
+            if (!keys_in_order(t, value, d, keyword)) {
+                outcome = Direct::KeywordMissing;
+                return size_t{0};
+            }
+            const uint32_t i = find_keyed(d, base, capacity, keyword);
+            if (i == capacity) return skip_value(t, value);
+            char *rec = base + static_cast<size_t>(i) * d->size;
+            const size_t end = doc.blanks ? read_in_order(t, value, d, rec) : read_in_order_compact(t, value, d, rec);
+            if (end == 0) {
+                outcome = Direct::ReaderFailed;
+                return size_t{0};
+            }
+            ++updated;
+            return end;
+        }
+        const size_t end = find_members(t, value, &m);
+        for (uint32_t j = 0; j < d->key_count; ++j) {
+            const Key &key = d->keys[j];
             const size_t member = m.at[field_of_key(d, key)];
-            if (member == 0 || !read_field(t, f, member, keyword + key.keyword_offset)) {
+            if (member == 0 || !read_field(t, keyword_field(key), member, keyword + key.keyword_offset)) {
                 outcome = Direct::KeywordMissing;
                 return size_t{0};
             }
