@@ -7,13 +7,18 @@
 //     of number literals, the escapes of strings.  Anything cJSON refuses,
 //     and the few things this reader leaves to cJSON (a number literal of 63
 //     or more characters, a fraction under a locale whose decimal point is
-//     not one byte, a type with two keys equal but for case), ends the read
-//     here with UseTree, before any record is touched;
+//     not one byte), ends the read here with UseTree, before any record is
+//     touched.  On the way it counts the records, from the first, whose
+//     members are the fields' keys as the table writes them, in table order,
+//     each once, and notes whether blanks stand between their tokens;
 //  2. read the records from the text known to be well formed, exactly as the
 //     tree readers read the tree cJSON would have built: for each record the
 //     first member whose key equals a field's key without regard to case
 //     (under tolower(), as cJSON compares), then the fields in table order up
-//     to the first of the wrong JSON type.
+//     to the first of the wrong JSON type.  The records counted in pass 1
+//     are read in one walk, each member's value where the walk meets it (no
+//     key comparison), which is the same: each field's first match is its
+//     one member, met in table order.
 #include "s2j_text_reader.h"
 
 #include <cctype>
@@ -595,7 +600,8 @@ close:  // p just past the container that closed
 // `depth` open containers, or null when cJSON refuses it or the text ends
 // after it (the record is not closed).  Integers followed at once by a ',' or
 // a '}' take one loop; containers go to check_value().
-__attribute__((always_inline)) inline const u8 *check_member_value(Checker &c, const Text &t, const u8 *p, unsigned depth) {
+__attribute__((always_inline)) inline const u8 *check_member_value(Checker &c, const Text &t, const u8 *p,
+                                                                   unsigned depth) {
     switch (*p) {
         case '"':
             p = check_string(t, p);
@@ -1173,6 +1179,39 @@ Direct direct_array(const TypeDesc *d, const char *text, size_t len, void *arr, 
     return Direct::Done;
 }
 
+namespace {
+
+// Applies the update element at t.s[value], whose members are found the
+// general way, to the first of the capacity records at base with its keys
+// (counted in *updated); returns the offset just past the element, or 0 with
+// *outcome set when it has no keys or a member of the wrong JSON type.
+__attribute__((noinline)) size_t update_element(const Text &t, const TypeDesc *d, size_t value, char *base,
+                                                uint32_t capacity, uint32_t *updated, Direct *outcome) {
+    Members m;
+    m.d = d;
+    const size_t end = find_members(t, value, &m);
+    alignas(8) char keyword[kMaxKeywordSize];
+    for (uint32_t j = 0; j < d->key_count; ++j) {
+        const Key &key = d->keys[j];
+        const size_t member = m.at[field_of_key(d, key)];
+        if (member == 0 || !read_field(t, keyword_field(key), member, keyword + key.keyword_offset)) {
+            *outcome = Direct::KeywordMissing;
+            return 0;
+        }
+    }
+    const uint32_t i = find_keyed(d, base, capacity, keyword);
+    if (i < capacity) {
+        if (!fill_record(t, m, base + static_cast<size_t>(i) * d->size)) {
+            *outcome = Direct::ReaderFailed;
+            return 0;
+        }
+        ++*updated;
+    }
+    return end;
+}
+
+}  // namespace
+
 Direct direct_update(const TypeDesc *d, const char *text, size_t len, void *arr, uint32_t *count) {
     const Text t{reinterpret_cast<const u8 *>(text), len};
     Document doc;
@@ -1182,46 +1221,25 @@ Direct direct_update(const TypeDesc *d, const char *text, size_t len, void *arr,
     const uint32_t capacity = *count;  // not changed during the loop
     uint32_t updated = 0;
     Direct outcome = Direct::Done;
-    Members m;
-    m.d = d;
     uint32_t k = 0;  // the element's index
     each_element(t, doc.root, [&](size_t value) -> size_t {
+        if (k++ >= doc.in_order) return update_element(t, d, value, base, capacity, &updated, &outcome);
         // The keyword record of this element, read as the keyword reader
         // reads it: every key present and of its JSON type.
         alignas(8) char keyword[kMaxKeywordSize];
-        if (k++ < doc.in_order) {
-            if (!keys_in_order(t, value, d, keyword)) {
-                outcome = Direct::KeywordMissing;
-                return size_t{0};
-            }
-            const uint32_t i = find_keyed(d, base, capacity, keyword);
-            if (i == capacity) return skip_value(t, value);
-            char *rec = base + static_cast<size_t>(i) * d->size;
-            const size_t end = doc.blanks ? read_in_order(t, value, d, rec) : read_in_order_compact(t, value, d, rec);
-            if (end == 0) {
-                outcome = Direct::ReaderFailed;
-                return size_t{0};
-            }
-            ++updated;
-            return end;
-        }
-        const size_t end = find_members(t, value, &m);
-        for (uint32_t j = 0; j < d->key_count; ++j) {
-            const Key &key = d->keys[j];
-            const size_t member = m.at[field_of_key(d, key)];
-            if (member == 0 || !read_field(t, keyword_field(key), member, keyword + key.keyword_offset)) {
-                outcome = Direct::KeywordMissing;
-                return size_t{0};
-            }
+        if (!keys_in_order(t, value, d, keyword)) {
+            outcome = Direct::KeywordMissing;
+            return size_t{0};
         }
         const uint32_t i = find_keyed(d, base, capacity, keyword);
-        if (i < capacity) {
-            if (!fill_record(t, m, base + static_cast<size_t>(i) * d->size)) {
-                outcome = Direct::ReaderFailed;
-                return size_t{0};
-            }
-            ++updated;
+        if (i == capacity) return skip_value(t, value);
+        char *rec = base + static_cast<size_t>(i) * d->size;
+        const size_t end = doc.blanks ? read_in_order(t, value, d, rec) : read_in_order_compact(t, value, d, rec);
+        if (end == 0) {
+            outcome = Direct::ReaderFailed;
+            return size_t{0};
         }
+        ++updated;
         return end;
     });
     if (outcome == Direct::Done) *count = updated;  // an empty list sets the count to 0
