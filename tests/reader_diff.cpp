@@ -62,6 +62,9 @@ struct Outcome {
     std::vector<char> records;
     uint32_t count = 0;
     std::string err;
+    // cJSON's error position after the call: -1 when there is none, else its
+    // offset in the text (files: 0, their text is gone).
+    long error_at = -1;
 };
 
 Outcome run(const s2j::TypeInfo *t, const Call &c) {
@@ -76,6 +79,7 @@ Outcome run(const s2j::TypeInfo *t, const Call &c) {
         std::fwrite(c.text.data(), 1, c.text.size(), out);
         std::fclose(out);
     }
+    cJSON_Delete(cJSON_Parse("!"));  // an error position left over from an earlier parse
     errors().begin();
     switch (c.member) {
         case Member::J2s: o.rc = f.j2s(s, arr); break;
@@ -88,6 +92,8 @@ Outcome run(const s2j::TypeInfo *t, const Call &c) {
         case Member::F2sArray: o.rc = f.f2s_array(errors().file().c_str(), arr, &o.count); break;
     }
     o.err = errors().end();
+    if (const char *e = cJSON_GetErrorPtr())
+        o.error_at = c.member == Member::F2s || c.member == Member::F2sArray ? 0 : e - s;
     return o;
 }
 
@@ -132,6 +138,8 @@ std::string compare(const s2j::TypeInfo *lib, const s2j::TypeInfo *ref, const Ca
         what += "count " + std::to_string(a.count) + " against " + std::to_string(b.count) + "; ";
     if (a.records != b.records) what += hex_diff(a.records, b.records) + "; ";
     if (a.err != b.err) what += "standard error \"" + a.err + "\" against \"" + b.err + "\"; ";
+    if (a.error_at != b.error_at)
+        what += "cJSON error position " + std::to_string(a.error_at) + " against " + std::to_string(b.error_at) + "; ";
     if (!what.empty()) what = std::string(lib->name) + " " + member_name(call.member) + ": " + what;
     return what;
 }

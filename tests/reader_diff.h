@@ -1,9 +1,9 @@
 // reader_diff.h - runs a text family member of the library and of the
 // reference library (libapp_s2j_tree, which reads every text through cJSON's
 // tree) on the same text and the same records, and compares everything a
-// caller can observe: the status, every byte of the records, the count and
-// the standard error stream.  Shared by the differential test and the
-// differential fuzz target.
+// caller can observe: the status, every byte of the records, the count, the
+// standard error stream and cJSON's error position.  Shared by the
+// differential test and the differential fuzz target.
 #ifndef APP_S2J_READER_DIFF_H
 #define APP_S2J_READER_DIFF_H
 

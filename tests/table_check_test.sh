@@ -3,7 +3,8 @@
 # names the type, also where the member would sit in padding (a uint16_t
 # beside another, a uint16_t before a 32-bit member); so do a row repeated, a
 # row out of order and a misspelt member, a keyword record that holds a member
-# that is not a key, and a line added to or taken from an instantiation list.
+# that is not a key, two keys equal but for letter case, and a line added to or
+# taken from an instantiation list.
 # Each case compiles a copy of a real source file with one change; the copies
 # as they are compile.
 # usage: table_check_test.sh CXX LIBRARY_SOURCE_DIR [COMPILER_FLAG...]
@@ -128,5 +129,22 @@ compile "${flags[@]}"; rc=$?
 expect_eq "$rc" "1" "a keyword record with a member that is not a key: the build fails"
 expect_contains "$(cat "$tmp/err")" "ProbeKeyword: keyword record holds other members than the keys" \
   "a keyword record with a member that is not a key: message"
+
+# Two keys equal but for letter case: one member of a text would be the
+# match of both fields.
+twins_tu() {
+  cat > "$tmp/tu.cpp" <<TU
+#include "s2j_record_defs.h"
+struct Twins { uint32_t Port; uint32_t $1; };
+static constexpr s2j::Field Twins_fields[] = {S2J_FIELD(Twins, Port, "n"), S2J_FIELD(Twins, $1, "n")};
+S2J_RECORD(Twins)
+TU
+}
+twins_tu "Ports"
+compile "${flags[@]}"; rc=$?
+expect_eq "$rc" "0" "a table whose keys differ compiles"
+[ "$rc" -eq 0 ] || cat "$tmp/err"
+twins_tu "port"
+fails "a table with the keys Port and port" "Twins: two keys are equal but for letter case"
 
 finish

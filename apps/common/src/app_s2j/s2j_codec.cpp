@@ -203,29 +203,12 @@ private:
 
 static_assert(kMaxFields < 255, "field numbers are kept in bytes");
 
-// A reader that looks each key up in the object, as the record reader is
-// defined to: first match without regard to case, for every field.  Its cost
-// is the product of members and fields; it serves only types with two keys
-// equal but for case, where one member can be the match of two fields.
-int read_record_by_lookup(const TypeDesc *d, char *base, const cJSON *json, bool strict) {
-    for (uint32_t i = 0; i < d->field_count; ++i) {
-        const Field &f = d->fields[i];
-        const cJSON *m = cJSON_GetObjectItem(json, f.key);
-        if (m == nullptr) {
-            if (strict) return 0;
-            continue;
-        }
-        if (!read_field(f, base + f.offset, m)) return 0;
-    }
-    return 1;
-}
-
 int read_record_with(const TypeDesc *d, KeyIndex &index, void *rec, const cJSON *json, bool strict) {
     char *base = static_cast<char *>(rec);
-    if (d->key_twins) return read_record_by_lookup(d, base, json, strict);
     // One walk over the members finds, for every field, the first member
     // whose name equals its key without regard to case - the member that
-    // cJSON_GetObjectItem would return.  Members usually come in field order,
+    // cJSON_GetObjectItem would return (no two keys of a table are equal but
+    // for case, so a member is the match of one field at most).  Members usually come in field order,
     // so the field after the last one matched is tried first.
     const cJSON *match[kMaxFields];
     const uint32_t n = d->field_count;

@@ -246,8 +246,11 @@ enum class Shape : uint8_t { Record, Array, Update };
 
 #ifndef S2J_TREE_ONLY
 // What cJSON's parser leaves behind after a successful parse: no error
-// position.  The direct reader parses nothing, so it leaves the same.
-void as_after_a_parse() { cJSON_ParseWithLengthOpts(nullptr, 0, nullptr, 0); }
+// position.  The direct reader parses nothing, so it leaves the same (a call
+// that parses nothing resets the position; none is needed when it is unset).
+void as_after_a_parse() {
+    if (cJSON_GetErrorPtr() != nullptr) cJSON_ParseWithLengthOpts(nullptr, 0, nullptr, 0);
+}
 
 // The status and diagnostic of a text the direct reader has read.
 int answer(Site tree, const TypeDesc *d, Direct outcome) {

@@ -33,7 +33,7 @@ constexpr bool same_but_case(const char *a, const char *b) {
     }
 }
 
-constexpr bool has_key_twins(const Field *f, size_t n) {
+constexpr bool has_keys_equal_but_for_case(const Field *f, size_t n) {
     for (size_t i = 0; i < n; ++i)
         for (size_t j = i + 1; j < n; ++j)
             if (same_but_case(f[i].key, f[j].key)) return true;

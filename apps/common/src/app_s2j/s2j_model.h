@@ -53,7 +53,6 @@ struct TypeDesc {
     const Key *keys;  // in key order; null for types without keys
     uint32_t key_count;
     uint32_t int_text_bytes;  // room for the decimal text of every integer of a record
-    bool key_twins;           // two keys equal but for letter case
     // The longest text of one record with its strings empty, compact and
     // indented as the only object of a text: what the text writer reserves
     // before it adds the strings' escaped lengths (s2j_write.cpp).

@@ -58,7 +58,10 @@
     static_assert(sizeof(T##_fields) / sizeof(T##_fields[0]) <= ::s2j::kMaxFields, #T ": too many fields"); \
     static_assert(sizeof(T##_fields) / sizeof(T##_fields[0]) > 0, #T ": no fields");               \
     static_assert(::s2j::keys_as_written(T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0])),  \
-                  #T ": a key is too long or needs escapes")
+                  #T ": a key is too long or needs escapes");                                      \
+    static_assert(!::s2j::has_keys_equal_but_for_case(T##_fields,                                  \
+                                                      sizeof(T##_fields) / sizeof(T##_fields[0])), \
+                  #T ": two keys are equal but for letter case")
 
 #define S2J_DESC(T, keys, nkeys)                                                                   \
     namespace s2j {                                                                                \
@@ -66,7 +69,6 @@
     constexpr TypeDesc desc_##T = {                                                                \
         #T, sizeof(T), T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0]), keys, nkeys,        \
         int_text_bytes(T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0])),                    \
-        has_key_twins(T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0])),                     \
         text_bytes(T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0]), false),                 \
         text_bytes(T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0]), true),                  \
         string_fields(T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0]))};                    \

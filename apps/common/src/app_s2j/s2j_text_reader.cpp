@@ -7,13 +7,18 @@
 //     of number literals, the escapes of strings.  Anything cJSON refuses,
 //     and the few things this reader leaves to cJSON (a number literal of 63
 //     or more characters, a fraction under a locale whose decimal point is
-//     not one byte, a type with two keys equal but for case), ends the read
-//     here with UseTree, before any record is touched;
+//     not one byte), ends the read here with UseTree, before any record is
+//     touched.  On the way it counts the records, from the first, whose
+//     members are the fields' keys as the table writes them, in table order,
+//     each once, and notes whether blanks stand between their tokens;
 //  2. read the records from the text known to be well formed, exactly as the
 //     tree readers read the tree cJSON would have built: for each record the
 //     first member whose key equals a field's key without regard to case
 //     (under tolower(), as cJSON compares), then the fields in table order up
-//     to the first of the wrong JSON type.
+//     to the first of the wrong JSON type.  The records counted in pass 1
+//     are read in one walk, each member's value where the walk meets it (no
+//     key comparison), which is the same: each field's first match is its
+//     one member, met in table order.
 #include "s2j_text_reader.h"
 
 #include <cctype>
@@ -22,12 +27,19 @@
 
 #include <cjson/cJSON.h>
 
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
+
 #include "s2j_codec.h"
 #include "s2j_int.h"
 
 namespace s2j {
 
 namespace {
+
+// Paths that usual records do not take: compiled for size.
+#define S2J_COLD __attribute__((cold))
 
 using u8 = unsigned char;
 
@@ -87,7 +99,7 @@ unsigned hex4(const u8 *p) {
 // number of text bytes it takes (6, or 12 for a surrogate pair), or 0 when
 // cJSON refuses it; its UTF-8 bytes go to out, their number to *n.  Four hex
 // digits that are not all hex read as 0, which ends the string's text.
-unsigned unicode_escape(const u8 *p, const u8 *end, u8 out[4], unsigned *n) {
+S2J_COLD unsigned unicode_escape(const u8 *p, const u8 *end, u8 out[4], unsigned *n) {
     if (end - p < 6) return 0;
     unsigned code = hex4(p + 2);
     if (code >= 0xDC00 && code <= 0xDFFF) return 0;  // a low surrogate first
@@ -142,8 +154,18 @@ inline size_t first_marked(uint64_t marks) {
 }
 
 // The first quote or backslash at or after i, looking no further than len
-// (len when there is none): eight bytes at a time, then byte by byte.
+// (len when there is none): sixteen bytes at a time where the target has
+// 128-bit vectors, then eight at a time, then byte by byte.
 inline size_t next_quote_or_backslash(const u8 *s, size_t i, size_t len) {
+#ifdef __SSE2__
+    const __m128i quote = _mm_set1_epi8('"'), backslash = _mm_set1_epi8('\\');
+    for (; i + 16 <= len; i += 16) {
+        const __m128i w = _mm_loadu_si128(reinterpret_cast<const __m128i *>(s + i));
+        const unsigned marks = static_cast<unsigned>(
+            _mm_movemask_epi8(_mm_or_si128(_mm_cmpeq_epi8(w, quote), _mm_cmpeq_epi8(w, backslash))));
+        if (marks != 0) return i + static_cast<size_t>(__builtin_ctz(marks));
+    }
+#endif
     for (; i + 8 <= len; i += 8) {
         uint64_t w;
         std::memcpy(&w, s + i, 8);
@@ -167,7 +189,7 @@ inline size_t scan_string(const Text &t, size_t i, bool *escaped) {
 }
 
 // Whether cJSON accepts every escape of the string text [p, end).
-bool escapes_valid(const u8 *p, const u8 *end) {
+S2J_COLD bool escapes_valid(const u8 *p, const u8 *end) {
     while (p < end) {
         if (*p != '\\') {
             ++p;
@@ -203,7 +225,7 @@ inline size_t string_end(const Text &t, size_t i) {
 // Copies the text of the string opening at s[i] into a field of size bytes as
 // snprintf(field, size, "%s", text) would copy cJSON's value: at most size-1
 // bytes, up to the first NUL of the decoded text, then a NUL.
-void copy_string(const Text &t, size_t i, char *field, size_t size) {
+S2J_COLD void copy_string(const Text &t, size_t i, char *field, size_t size) {
     const size_t room = size - 1;
     const u8 *p = t.s + i + 1, *end = t.s + string_end(t, i);
     size_t n = 0;
@@ -234,6 +256,94 @@ void copy_string(const Text &t, size_t i, char *field, size_t size) {
     field[n] = '\0';
 }
 
+// The first quote, backslash or NUL at or after i, before len (len when
+// there is none).
+inline size_t next_quote_backslash_or_nul(const u8 *s, size_t i, size_t len) {
+#ifdef __SSE2__
+    const __m128i quote = _mm_set1_epi8('"'), backslash = _mm_set1_epi8('\\'), nul = _mm_setzero_si128();
+    for (; i + 16 <= len; i += 16) {
+        const __m128i w = _mm_loadu_si128(reinterpret_cast<const __m128i *>(s + i));
+        const __m128i hits = _mm_or_si128(_mm_or_si128(_mm_cmpeq_epi8(w, quote), _mm_cmpeq_epi8(w, backslash)),
+                                          _mm_cmpeq_epi8(w, nul));
+        const unsigned marks = static_cast<unsigned>(_mm_movemask_epi8(hits));
+        if (marks != 0) return i + static_cast<size_t>(__builtin_ctz(marks));
+    }
+#endif
+    constexpr uint64_t lows = 0x7F7F7F7F7F7F7F7Full;
+    for (; i + 8 <= len; i += 8) {
+        uint64_t w;
+        std::memcpy(&w, s + i, 8);
+        if (uint64_t marks = quotes_or_backslashes(w) | ~(((w & lows) + lows) | w | lows))
+            return i + first_marked(marks);
+    }
+    while (i < len && s[i] != '"' && s[i] != '\\' && s[i] != '\0') ++i;
+    return i;
+}
+
+// Copies n bytes, short runs in two overlapping words (no byte past n is
+// written).
+inline void copy_bytes(char *to, const u8 *from, size_t n) {
+    if (n >= 16) {
+        std::memcpy(to, from, n);
+    } else if (n >= 8) {
+        uint64_t a, b;
+        std::memcpy(&a, from, 8);
+        std::memcpy(&b, from + n - 8, 8);
+        std::memcpy(to, &a, 8);
+        std::memcpy(to + n - 8, &b, 8);
+    } else if (n >= 4) {
+        uint32_t a, b;
+        std::memcpy(&a, from, 4);
+        std::memcpy(&b, from + n - 4, 4);
+        std::memcpy(to, &a, 4);
+        std::memcpy(to + n - 4, &b, 4);
+    } else {
+        for (size_t k = 0; k < n; ++k) to[k] = static_cast<char>(from[k]);
+    }
+}
+
+// Copies the string opening at t.s[i] into a field as copy_string() does,
+// and returns the offset of its closing quote.  A string without escapes is
+// copied in one piece up to its end or its first NUL.
+inline size_t read_string(const Text &t, size_t i, char *field, size_t size) {
+    const size_t from = i + 1, stop = next_quote_backslash_or_nul(t.s, from, t.len);
+    if (t.s[stop] == '\\') {
+        copy_string(t, i, field, size);
+        return string_end(t, i);
+    }
+    const size_t n = stop - from < size - 1 ? stop - from : size - 1;
+    copy_bytes(field, t.s + from, n);
+    field[n] = '\0';
+    return t.s[stop] == '"' ? stop : string_end(t, i);
+}
+
+// Whether the n bytes at a are the n bytes at b, compared a word at a time
+// (the last word overlapping the one before it).
+inline bool same_bytes(const u8 *a, const char *b, size_t n) {
+    if (n >= 8) {
+        uint64_t x, y;
+        for (size_t k = 0; k + 8 < n; k += 8) {
+            std::memcpy(&x, a + k, 8);
+            std::memcpy(&y, b + k, 8);
+            if (x != y) return false;
+        }
+        std::memcpy(&x, a + n - 8, 8);
+        std::memcpy(&y, b + n - 8, 8);
+        return x == y;
+    }
+    if (n >= 4) {
+        uint32_t x0, y0, x1, y1;
+        std::memcpy(&x0, a, 4);
+        std::memcpy(&y0, b, 4);
+        std::memcpy(&x1, a + n - 4, 4);
+        std::memcpy(&y1, b + n - 4, 4);
+        return x0 == y0 && x1 == y1;
+    }
+    for (; n > 0; ++a, ++b, --n)
+        if (*a != static_cast<u8>(*b)) return false;
+    return true;
+}
+
 // A member's key as cJSON holds it: the decoded text up to its first NUL.
 // Keys without escapes or NULs are read in place; others are decoded into
 // buf, and a key longer than buf can hold equals no field's key.
@@ -244,7 +354,7 @@ struct KeyText {
 
 constexpr size_t kKeyRoom = 128;  // longer than every field's key
 
-bool decode_key(const Text &t, size_t i, u8 (&buf)[kKeyRoom], KeyText *key) {
+S2J_COLD bool decode_key(const Text &t, size_t i, u8 (&buf)[kKeyRoom], KeyText *key) {
     char *out = reinterpret_cast<char *>(buf);
     copy_string(t, i, out, kKeyRoom);
     key->p = buf;
@@ -270,7 +380,7 @@ bool same_key_text(const char *field_key, const KeyText &k) {
 // else 0: a run that strtod() reads only in part (cJSON refuses it inside a
 // document and ignores the rest after a top-level value), none of, or that
 // cJSON cuts at 63 characters.  *fraction tells whether it holds a '.'.
-size_t number_length(const Text &t, size_t i, bool *fraction) {
+S2J_COLD size_t number_length(const Text &t, size_t i, bool *fraction) {
     size_t run = i;
     while (run < t.len && is_number_char(t.s[run])) ++run;
     if (run - i >= 63) return 0;
@@ -305,7 +415,7 @@ bool decimal_point_is_one_byte() {
 
 // The field whose key equals the member's key, or -1; the field after the
 // last one matched is tried first, as members usually come in table order.
-int find_field(const TypeDesc *d, const KeyText &key, uint32_t next) {
+S2J_COLD int find_field(const TypeDesc *d, const KeyText &key, uint32_t next) {
     if (next < d->field_count && same_key_text(d->fields[next].key, key)) return static_cast<int>(next);
     for (uint32_t f = 0; f < d->field_count; ++f)
         if (f != next && same_key_text(d->fields[f].key, key)) return static_cast<int>(f);
@@ -317,12 +427,12 @@ int find_field(const TypeDesc *d, const KeyText &key, uint32_t next) {
 // field's is compared in place; others are decoded as cJSON decodes them
 // (escapes, and the text up to an escaped or raw NUL) and compared under
 // tolower() with every field's.
-int match_key(const TypeDesc *d, const Text &t, size_t quote, size_t end, uint32_t next) {
+S2J_COLD int match_key(const TypeDesc *d, const Text &t, size_t quote, size_t end, uint32_t next) {
     const size_t n = end - quote - 1;
     const u8 *p = t.s + quote + 1;
     if (next < d->field_count) {
         const Field &f = d->fields[next];
-        if (f.key_len == n && std::memcmp(p, f.key, n) == 0) return static_cast<int>(next);
+        if (f.key_len == n && same_bytes(p, f.key, n)) return static_cast<int>(next);
     }
     KeyText key{p, n};
     u8 buf[kKeyRoom];
@@ -359,40 +469,68 @@ struct Members {
 struct Document {
     size_t root;        // offset of the top-level value
     uint32_t elements;  // its number of elements, when it is an array
+    // How many records, from the first, have their fields' keys written as
+    // the table writes them, in table order, each once, and no other member.
+    uint32_t in_order;
+    bool blanks;  // whether those records have blanks between their tokens
 };
 
-// Checks the whole text as cJSON parses it.  With members, the members of a
-// top-level object are found on the way.  Written for speed over pointers:
-// blanks are tested before they are skipped, plain integers and strings
-// without escapes take one loop each.
-bool check_document(const Text &t, Document *doc, Members *members) {
-    const u8 *const s = t.s, *const end = t.s + t.len;
-    const u8 *p = s;
-    if (4 < t.len && s[0] == 0xEF && s[1] == 0xBB && s[2] == 0xBF) p += 3;  // a UTF-8 byte order mark
-    while (p < end && *p <= 32) ++p;
-    doc->root = static_cast<size_t>(p - s);
-    doc->elements = 0;
-    // One bit per open container (set for an object), as deep as cJSON nests.
-    uint64_t objects[(CJSON_NESTING_LIMIT + 63) / 64];
-    unsigned depth = 0;
-    bool object = false;  // whether the innermost open container is an object
-    bool fraction = false;
-    const u8 *key = nullptr, *key_end = nullptr;  // the quotes of a top-level member's key
+// What the check of one text knows and finds.
+struct Checker {
+    const u8 *end;      // just past the text
+    const u8 *bounded;  // every run of digits that starts before it ends before it
+    const Field *fields;
+    uint32_t field_count;
+    bool fraction;      // whether a number literal holds a '.'
+    bool in_order;      // whether the record checked last had its members in table order
+    bool blanks;        // whether a record read in table order had blanks between its tokens
+};
 
-#define S2J_SKIP_BLANKS() \
-    if (p < end && *p <= 32) \
-        do ++p; while (p < end && *p <= 32)
+inline const u8 *skip_blanks(const u8 *p, const u8 *end) {
+    while (p < end && *p <= 32) ++p;
+    return p;
+}
+
+// The end of the number literal at p (a '-' or a digit) as cJSON reads it
+// inside a document, or null when cJSON refuses it.  Plain integers take one
+// loop.
+inline const u8 *check_number(Checker &c, const Text &t, const u8 *p) {
+    const u8 *q = p + (*p == '-');
+    const u8 *const digits = q;
+    if (q < c.bounded)
+        while (static_cast<unsigned>(*q - '0') <= 9) ++q;
+    else
+        while (q < c.end && static_cast<unsigned>(*q - '0') <= 9) ++q;
+    if (q > digits && q - p <= 63 && (q == c.end || !is_number_char(*q))) return q;  // a plain integer
+    if (*p != '-' && !is_digit(*p)) return nullptr;
+    const size_t n = number_length(t, static_cast<size_t>(p - t.s), &c.fraction);
+    return n == 0 ? nullptr : p + n;
+}
+
+// The end of the string opening at p, or null when cJSON refuses it.
+inline const u8 *check_string(const Text &t, const u8 *p) {
+    bool escaped = false;
+    const size_t q = scan_string(t, static_cast<size_t>(p - t.s), &escaped);
+    if (q == 0 || (escaped && !escapes_valid(p + 1, t.s + q))) return nullptr;
+    return t.s + q + 1;
+}
+
+// The end of the value at p (blanks before it allowed) inside `depth` open
+// containers, or null when cJSON refuses it.  A state machine over pointers
+// that neither recurses nor allocates: one bit per open container (set for
+// an object), as deep as cJSON nests.
+S2J_COLD const u8 *check_value(Checker &c, const Text &t, const u8 *p, const unsigned base) {
+    const u8 *const end = c.end;
+    uint64_t objects[(CJSON_NESTING_LIMIT + 63) / 64];
+    unsigned depth = base;
+    bool object = false;  // whether the innermost open container is an object
 
 value:
-    if (p >= end) return false;
-    if (key != nullptr) {
-        members->add(t, static_cast<size_t>(key - s), static_cast<size_t>(key_end - s), static_cast<size_t>(p - s));
-        key = nullptr;
-    }
+    if (p >= end) return nullptr;
     switch (*p) {
         case '{':
         case '[': {
-            if (depth >= CJSON_NESTING_LIMIT) return false;
+            if (depth >= CJSON_NESTING_LIMIT) return nullptr;
             object = *p == '{';
             const uint64_t bit = uint64_t{1} << (depth % 64);
             if (object)
@@ -400,85 +538,246 @@ value:
             else
                 objects[depth / 64] &= ~bit;
             ++depth;
-            ++p;
-            S2J_SKIP_BLANKS();
+            p = skip_blanks(p + 1, end);
             if (p < end && *p == (object ? '}' : ']')) {
                 ++p;
                 goto close;
             }
             if (object) goto member;
-            if (depth == 1) doc->elements = 1;
             goto value;
         }
-        case '"': {
-            bool escaped = false;
-            const size_t q = scan_string(t, static_cast<size_t>(p - s), &escaped);
-            if (q == 0 || (escaped && !escapes_valid(p + 1, s + q))) return false;
-            p = s + q + 1;
+        case '"':
+            p = check_string(t, p);
+            if (p == nullptr) return nullptr;
             goto after_value;
-        }
         case 'n':
-            if (end - p < 4 || std::memcmp(p, "null", 4) != 0) return false;
+            if (end - p < 4 || std::memcmp(p, "null", 4) != 0) return nullptr;
             p += 4;
             goto after_value;
         case 't':
-            if (end - p < 4 || std::memcmp(p, "true", 4) != 0) return false;
+            if (end - p < 4 || std::memcmp(p, "true", 4) != 0) return nullptr;
             p += 4;
             goto after_value;
         case 'f':
-            if (end - p < 5 || std::memcmp(p, "false", 5) != 0) return false;
+            if (end - p < 5 || std::memcmp(p, "false", 5) != 0) return nullptr;
             p += 5;
             goto after_value;
-        default: {
-            const u8 *q = p + (*p == '-');
-            const u8 *digits = q;
-            while (q < end && is_digit(*q)) ++q;
-            if (q > digits && q - p <= 63 && (q == end || !is_number_char(*q))) {
-                p = q;  // a plain integer
-                goto after_value;
+        default:
+            if (*p <= 32) {  // a blank before the value
+                ++p;
+                goto value;
             }
-            if (*p != '-' && !is_digit(*p)) return false;
-            const size_t n = number_length(t, static_cast<size_t>(p - s), &fraction);
-            if (n == 0) return false;
-            p += n;
+            p = check_number(c, t, p);
+            if (p == nullptr) return nullptr;
             goto after_value;
-        }
     }
 
 member:  // p at the key of a member
-    if (p >= end || *p != '"') return false;
-    {
-        bool escaped = false;
-        const size_t q = scan_string(t, static_cast<size_t>(p - s), &escaped);
-        if (q == 0 || (escaped && !escapes_valid(p + 1, s + q))) return false;
-        if (depth == 1 && members != nullptr) key = p, key_end = s + q;
-        p = s + q + 1;
-    }
-    S2J_SKIP_BLANKS();
-    if (p >= end || *p != ':') return false;
+    if (p >= end || *p != '"') return nullptr;
+    p = check_string(t, p);
+    if (p == nullptr) return nullptr;
+    p = skip_blanks(p, end);
+    if (p >= end || *p != ':') return nullptr;
     ++p;
-    S2J_SKIP_BLANKS();
     goto value;
 
 after_value:
-    if (depth == 0) return !fraction || decimal_point_is_one_byte();  // what follows is not read
-    S2J_SKIP_BLANKS();
-    if (p >= end) return false;
+    if (depth == base) return p;
+    p = skip_blanks(p, end);
+    if (p >= end) return nullptr;
     if (*p == ',') {
-        ++p;
-        S2J_SKIP_BLANKS();
+        p = skip_blanks(p + 1, end);
         if (object) goto member;
-        if (depth == 1 && doc->elements++ == UINT32_MAX) return false;
         goto value;
     }
-    if (*p != (object ? '}' : ']')) return false;
+    if (*p != (object ? '}' : ']')) return nullptr;
     ++p;
 
 close:  // p just past the container that closed
     --depth;
-    if (depth > 0) object = objects[(depth - 1) / 64] & (uint64_t{1} << ((depth - 1) % 64));
+    if (depth > base) object = objects[(depth - 1) / 64] & (uint64_t{1} << ((depth - 1) % 64));
     goto after_value;
-#undef S2J_SKIP_BLANKS
+}
+
+// The end of the value of a record's member at p (not a blank) inside
+// `depth` open containers, or null when cJSON refuses it or the text ends
+// after it (the record is not closed).  Integers followed at once by a ',' or
+// a '}' take one loop; containers go to check_value().
+__attribute__((always_inline)) inline const u8 *check_member_value(Checker &c, const Text &t, const u8 *p,
+                                                                   unsigned depth) {
+    switch (*p) {
+        case '"':
+            p = check_string(t, p);
+            break;
+        case 'n':
+        case 't':
+        case 'f':
+        case '{':
+        case '[':
+            p = check_value(c, t, p, depth + 1);
+            break;
+        default: {
+            const u8 *q = p + (*p == '-');
+            if (q < c.bounded) {
+                const u8 *const digits = q;
+                while (static_cast<unsigned>(*q - '0') <= 9) ++q;
+                if (q != digits && q - p <= 63 && (*q == ',' || *q == '}')) return q;
+            }
+            p = check_number(c, t, p);
+            break;
+        }
+    }
+    return p == c.end ? nullptr : p;
+}
+
+// The end of the record object opening at p inside `depth` open containers,
+// or null when cJSON refuses it: the generic check in tight loops for the
+// members of a record.  While the keys are the fields' keys in table order,
+// each followed at once by its ':' (compared in place: strings known to need
+// no scan), the first loop runs; at the first other key the second loop
+// checks the rest.  Inside the object the text must go on, so p stays before
+// the end, and the end is tested only where p moves.  c.in_order tells
+// whether the first loop read every member; c.blanks is set when a blank
+// stood between two tokens of the first loop.
+const u8 *check_record(Checker &c, const Text &t, const u8 *p, const unsigned depth) {
+    const u8 *const end = c.end;
+#define S2J_BLANKS()                           \
+    if (*p <= 32) do {                         \
+            if (++p == end) return nullptr;    \
+        } while (*p <= 32)
+#define S2J_STEP() \
+    if (++p == end) return nullptr
+#define S2J_MARKED_BLANKS() \
+    if (*p <= 32) {         \
+        c.blanks = true;    \
+        S2J_BLANKS();       \
+    }
+
+    if (depth >= CJSON_NESTING_LIMIT) return nullptr;
+    S2J_STEP();
+    S2J_MARKED_BLANKS();
+    c.in_order = false;
+    if (*p == '}') return p + 1;
+    for (const Field *f = c.fields, *const last = f + c.field_count;; ++f) {
+        if (f == last) goto other_member;
+        {
+            const size_t n = f->key_len;
+            if (end - p <= static_cast<ptrdiff_t>(n) + 3 || p[n + 2] != ':' || p[n + 1] != '"' || *p != '"' ||
+                !same_bytes(p + 1, f->key, n))
+                goto other_member;
+            p += n + 3;
+        }
+        S2J_MARKED_BLANKS();
+        if (*p == '"') {
+            const size_t q = next_quote_or_backslash(t.s, static_cast<size_t>(p - t.s) + 1, t.len);
+            p = q < t.len && t.s[q] == '"' ? t.s + q + 1 : check_string(t, p);
+        } else if (*p == '-' || static_cast<unsigned>(*p - '0') <= 9) {
+            const u8 *q = p + (*p == '-');
+            if (q < c.bounded) {
+                const u8 *const digits = q;
+                while (static_cast<unsigned>(*q - '0') <= 9) ++q;
+                if (q != digits && q - p <= 63) {
+                    if (*q == ',') {
+                        p = q;
+                        goto comma;
+                    }
+                    if (*q == '}') {
+                        p = q;
+                        goto close;
+                    }
+                }
+            }
+            p = check_number(c, t, p);
+        } else {
+            p = check_value(c, t, p, depth + 1);
+        }
+        if (p == nullptr || p == end) return nullptr;
+        S2J_MARKED_BLANKS();
+        if (*p == ',') goto comma;
+        if (*p != '}') return nullptr;
+    close:
+        c.in_order = f + 1 == last;
+        return p + 1;
+    comma:
+        S2J_STEP();
+        S2J_MARKED_BLANKS();
+    }
+other_member:  // p at a key that is not the one expected; no more guesses in this object
+    for (;;) {
+        if (*p != '"') return nullptr;
+        p = check_string(t, p);
+        if (p == nullptr || p == end) return nullptr;
+        S2J_BLANKS();
+        if (*p != ':') return nullptr;
+        S2J_STEP();
+        S2J_BLANKS();
+        p = check_member_value(c, t, p, depth);
+        if (p == nullptr) return nullptr;
+        S2J_BLANKS();
+        if (*p != ',') return *p == '}' ? p + 1 : nullptr;
+        S2J_STEP();
+        S2J_BLANKS();
+    }
+#undef S2J_MARKED_BLANKS
+#undef S2J_STEP
+#undef S2J_BLANKS
+}
+
+// The end of the array of records opening at p at the top level, or null
+// when cJSON refuses it; its number of elements goes to *elements.
+const u8 *check_record_array(Checker &c, const Text &t, const u8 *p, Document *doc) {
+    const u8 *const end = c.end;
+    uint32_t *const elements = &doc->elements;
+    p = skip_blanks(p + 1, end);
+    if (p < end && *p == ']') return p + 1;
+    *elements = 1;
+    bool in_order = true;  // whether every record so far had its members in table order
+    for (;;) {
+        if (p >= end) return nullptr;
+        if (*p == '{') {
+            p = check_record(c, t, p, 1);
+            in_order = in_order && c.in_order;
+        } else {
+            p = check_value(c, t, p, 1);
+            in_order = false;
+        }
+        if (p == nullptr) return nullptr;
+        if (in_order) doc->in_order = *elements;
+        p = skip_blanks(p, end);
+        if (p >= end) return nullptr;
+        if (*p == ',') {
+            if ((*elements)++ == UINT32_MAX) return nullptr;
+            p = skip_blanks(p + 1, end);
+            continue;
+        }
+        return *p == ']' ? p + 1 : nullptr;
+    }
+}
+
+// Checks the whole text as cJSON parses it, records at record_depth (1: the
+// document is a record, 2: an array of records).  What follows the
+// top-level value is not read.
+bool check_document(const TypeDesc *d, unsigned record_depth, const Text &t, Document *doc) {
+    const u8 *const s = t.s, *const end = t.s + t.len;
+    const u8 *p = s;
+    if (4 < t.len && s[0] == 0xEF && s[1] == 0xBB && s[2] == 0xBF) p += 3;  // a UTF-8 byte order mark
+    p = skip_blanks(p, end);
+    doc->root = static_cast<size_t>(p - s);
+    doc->elements = 0;
+    doc->in_order = 0;
+    Checker c{end, end, d->fields, d->field_count, false, false, false};
+    while (c.bounded > p && static_cast<unsigned>(c.bounded[-1] - '0') <= 9) --c.bounded;
+    if (p >= end) return false;
+    if (*p == '{' && record_depth == 1) {
+        p = check_record(c, t, p, 0);
+        doc->in_order = c.in_order;
+    }
+    else if (*p == '[' && record_depth == 2)
+        p = check_record_array(c, t, p, doc);
+    else
+        p = check_value(c, t, p, 0);
+    doc->blanks = c.blanks;
+    return p != nullptr && (!c.fraction || decimal_point_is_one_byte());
 }
 
 // ---- Pass 2: reading from a well-formed text ---------------------------------
@@ -549,7 +848,7 @@ void each_child(const Text &t, size_t i, F f) {
 // The members of the value at t.s[i] (a value that is not an object has
 // none); returns the offset just past the value.  The key expected next is
 // compared in place before its end is looked for.
-size_t find_members(const Text &t, size_t i, Members *m) {
+S2J_COLD size_t find_members(const Text &t, size_t i, Members *m) {
     m->clear();
     const u8 *s = t.s;
     if (s[i] != '{') return skip_value(t, i);
@@ -561,7 +860,7 @@ size_t find_members(const Text &t, size_t i, Members *m) {
         if (m->next < d->field_count) {
             const Field &f = d->fields[m->next];
             const size_t at = i + 1 + f.key_len;
-            if (at < t.len && s[at] == '"' && std::memcmp(s + i + 1, f.key, f.key_len) == 0) end = at;
+            if (at < t.len && s[at] == '"' && same_bytes(s + i + 1, f.key, f.key_len)) end = at;
         }
         if (end != 0) {
             const uint32_t f = m->next++;
@@ -596,28 +895,32 @@ void each_element(const Text &t, size_t i, F f) {
 }
 
 // Whether the value at t.s[i] is an integer item (an integer literal within
-// the int64_t range, as the marking parser classifies it), and its value.
-// Up to 18 digits are read here; longer literals by the marking parser's
-// own reader.
-inline bool integer_at(const Text &t, size_t i, int64_t *v) {
+// the int64_t range, as the marking parser classifies it), and its value;
+// *after is set just past the literal.  Up to 18 digits are read here; longer
+// literals by the marking parser's own reader.  The literal lies inside a
+// container of a checked text, so a byte that is no digit follows it.
+inline bool integer_at(const Text &t, size_t i, int64_t *v, size_t *after) {
     const u8 *s = t.s;
     const bool neg = s[i] == '-';
     size_t j = i + neg;
     const size_t digits = j;
-    uint64_t u = 0;
-    for (; is_digit(s[j]) && j - digits < 18; ++j) u = u * 10 + (s[j] - '0');
-    if (j > digits && !is_number_char(s[j])) {
+    uint64_t u = 0;  // wraps past 19 digits: such literals go to the marking parser's reader
+    for (unsigned c; (c = static_cast<unsigned>(s[j] - '0')) <= 9; ++j) u = u * 10 + c;
+    if (j > digits && j - digits <= 18 && !is_number_char(s[j])) {
         *v = neg ? static_cast<int64_t>(0 - u) : static_cast<int64_t>(u);
+        *after = j;
         return true;
     }
     if (!neg && !is_digit(s[i])) return false;
     const char *p = reinterpret_cast<const char *>(s + i);
-    return read_literal(p, reinterpret_cast<const char *>(s + t.len), v);
+    const bool integer = read_literal(p, reinterpret_cast<const char *>(s + t.len), v);
+    *after = static_cast<size_t>(reinterpret_cast<const u8 *>(p) - s);
+    return integer;
 }
 
 // One integer list: entries stored by position, non-integers skipped; false
 // when the value has no children or none of them is an integer.
-bool read_list(const Text &t, size_t i, char *at, uint32_t size) {
+S2J_COLD bool read_list(const Text &t, size_t i, char *at, uint32_t size) {
     if (t.s[i] != '[' && t.s[i] != '{') return false;
     const uint32_t capacity = size / 4;
     uint32_t k = 0;
@@ -625,7 +928,8 @@ bool read_list(const Text &t, size_t i, char *at, uint32_t size) {
     each_child(t, i, [&](size_t value, size_t, size_t) {
         if (k == capacity) return false;
         int64_t v;
-        if (integer_at(t, value, &v)) {
+        size_t after;
+        if (integer_at(t, value, &v, &after)) {
             uint32_t u = static_cast<uint32_t>(static_cast<uint64_t>(v));
             std::memcpy(at + 4 * k, &u, sizeof u);
             stored = true;
@@ -637,14 +941,15 @@ bool read_list(const Text &t, size_t i, char *at, uint32_t size) {
 }
 
 // Reads the value at t.s[i] into a field at `at`, as the tree reader reads
-// the item: false when it is not of the field's JSON type.
-bool read_field(const Text &t, const Field &f, size_t i, char *at) {
+// the item, and sets *after just past the value: false when it is not of the
+// field's JSON type.
+inline bool read_value(const Text &t, const Field &f, size_t i, char *at, size_t *after) {
     switch (f.kind) {
         case Kind::I32:
         case Kind::U32:
         case Kind::U16: {
             int64_t v;
-            if (!integer_at(t, i, &v)) return false;
+            if (!integer_at(t, i, &v, after)) return false;
             const uint64_t bits = static_cast<uint64_t>(v);
             if (f.kind == Kind::U16) {
                 uint16_t u = static_cast<uint16_t>(bits);
@@ -657,12 +962,19 @@ bool read_field(const Text &t, const Field &f, size_t i, char *at) {
         }
         case Kind::Str:
             if (t.s[i] != '"') return false;
-            copy_string(t, i, at, f.size);
+            *after = read_string(t, i, at, f.size) + 1;
             return true;
         case Kind::U32List:
-            return read_list(t, i, at, f.size);
+            if (!read_list(t, i, at, f.size)) return false;
+            *after = skip_value(t, i);
+            return true;
     }
     return false;
+}
+
+bool read_field(const Text &t, const Field &f, size_t i, char *at) {
+    size_t after;
+    return read_value(t, f, i, at, &after);
 }
 
 // Fills the record's fields in table order from the members found, up to the
@@ -675,6 +987,110 @@ bool fill_record(const Text &t, const Members &m, void *rec) {
     return true;
 }
 
+// Reads the value at p into the field f of rec, and returns the position
+// just past it, or null when the value is not of the field's JSON type.
+// Integer literals of up to 18 digits are read in place.
+inline const u8 *read_member_value(const Text &t, const Field &f, const u8 *p, char *rec) {
+    char *const at = rec + f.offset;
+    if (f.kind == Kind::I32 || f.kind == Kind::U32 || f.kind == Kind::U16) {
+        const bool neg = *p == '-';
+        const u8 *q = p + neg;
+        uint64_t u = 0;  // wraps past 19 digits: such literals are read by integer_at()
+        for (uint64_t c; (c = uint64_t{*q} - '0') <= 9; ++q) u = u * 10 + c;
+        const size_t digits = static_cast<size_t>(q - p) - neg;
+        if (digits != 0 && digits <= 18 && !is_number_char(*q)) {
+            if (neg) u = 0 - u;
+            if (f.kind == Kind::U16) {
+                const uint16_t v = static_cast<uint16_t>(u);
+                std::memcpy(at, &v, sizeof v);
+            } else {
+                const uint32_t v = static_cast<uint32_t>(u);
+                std::memcpy(at, &v, sizeof v);
+            }
+            return q;
+        }
+    }
+    if (f.kind == Kind::Str && *p == '"') {
+        const size_t from = static_cast<size_t>(p - t.s) + 1, stop = next_quote_backslash_or_nul(t.s, from, t.len);
+        if (t.s[stop] == '"') {
+            const size_t n = stop - from < f.size - 1 ? stop - from : f.size - 1;
+            copy_bytes(at, t.s + from, n);
+            at[n] = '\0';
+            return t.s + stop + 1;
+        }
+    }
+    size_t after;
+    if (!read_value(t, f, static_cast<size_t>(p - t.s), at, &after)) return nullptr;
+    return t.s + after;
+}
+
+// Reads the element at t.s[i] into rec: fill_record() over the members
+// find_members() finds.  Returns the offset just past the element, or 0 when
+// a member is of the wrong JSON type.
+size_t read_element(const Text &t, size_t i, Members *m, char *rec) {
+    const size_t end = find_members(t, i, m);
+    return fill_record(t, *m, rec) ? end : 0;
+}
+
+// read_in_order() for a record without blanks between its tokens.
+size_t read_in_order_compact(const Text &t, size_t i, const TypeDesc *d, char *rec) {
+    const u8 *p = t.s + i + 1;
+    for (const Field *f = d->fields, *const last = f + d->field_count; f != last; ++f) {
+        p = read_member_value(t, *f, p + f->key_len + 3, rec);  // past the key, its quotes and the ':'
+        if (p == nullptr) return 0;
+        ++p;  // the ',' or the '}'
+    }
+    return static_cast<size_t>(p - t.s);
+}
+
+// Reads the record object at t.s[i] whose members the check found to be the
+// fields' keys as the table writes them, in table order, each once, as
+// read_element() reads it, and returns the offset just past it (0 when a
+// member is of the wrong JSON type).
+size_t read_in_order(const Text &t, size_t i, const TypeDesc *d, char *rec) {
+    const u8 *p = t.s + i + 1;
+    for (const Field *f = d->fields, *const last = f + d->field_count; f != last; ++f) {
+        while (*p <= 32) ++p;
+        p += f->key_len + 2;  // the key and its quotes
+        while (*p <= 32) ++p;
+        ++p;  // the ':'
+        while (*p <= 32) ++p;
+        p = read_member_value(t, *f, p, rec);
+        if (p == nullptr) return 0;
+        while (*p <= 32) ++p;
+        ++p;  // the ',' or the '}'
+    }
+    return static_cast<size_t>(p - t.s);
+}
+
+// The index of the first of the capacity records at base whose keys equal
+// the keyword's (as keys_match() compares them), or capacity.  An integer
+// first key is compared in place before keys_match() is asked.
+uint32_t find_keyed(const TypeDesc *d, const char *base, uint32_t capacity, const char *keyword) {
+    const Field &first = d->keys[0].field;
+    if (first.kind == Kind::Str) {
+        for (uint32_t i = 0; i < capacity; ++i)
+            if (keys_match(d, base + static_cast<size_t>(i) * d->size, keyword)) return i;
+        return capacity;
+    }
+    uint32_t want;
+    std::memcpy(&want, keyword + d->keys[0].keyword_offset, sizeof want);
+    const char *key = base + first.offset;
+    for (uint32_t i = 0; i < capacity; ++i, key += d->size) {
+        uint32_t have;
+        std::memcpy(&have, key, sizeof have);
+        if (have == want && keys_match(d, key - first.offset, keyword)) return i;
+    }
+    return capacity;
+}
+
+// A key field as the keyword record holds it: a string key as char[64].
+inline Field keyword_field(const Key &key) {
+    Field f = key.field;
+    if (f.kind == Kind::Str) f.size = kKeyStringSize;
+    return f;
+}
+
 // The table index of a key field.
 uint32_t field_of_key(const TypeDesc *d, const Key &k) {
     uint32_t f = 0;
@@ -682,8 +1098,35 @@ uint32_t field_of_key(const TypeDesc *d, const Key &k) {
     return f;
 }
 
-bool start(const TypeDesc *d, const Text &t, Document *doc, Members *members) {
-    return !d->key_twins && check_document(t, doc, members);
+// Reads the keys of the record object at t.s[i], whose members the check
+// found to be the fields' keys in table order, into keyword as the keyword
+// reader reads them: false when one is not of its field's JSON type.
+bool keys_in_order(const Text &t, size_t i, const TypeDesc *d, char *keyword) {
+    const u8 *const s = t.s;
+    uint32_t last = 0;  // the last field that is a key
+    for (uint32_t k = 0; k < d->key_count; ++k) {
+        const uint32_t f = field_of_key(d, d->keys[k]);
+        if (f > last) last = f;
+    }
+    size_t at = i + 1;
+    for (uint32_t f = 0; f <= last; ++f) {
+        at = skip_ws(s, at) + d->fields[f].key_len + 2;  // past the key and its quotes
+        at = skip_ws(s, skip_ws(s, at) + 1);              // past the ':'
+        const Key *key = nullptr;
+        for (uint32_t k = 0; k < d->key_count; ++k)
+            if (d->keys[k].field.offset == d->fields[f].offset) key = &d->keys[k];
+        if (key == nullptr) {
+            at = skip_value(t, at);
+        } else if (!read_value(t, keyword_field(*key), at, keyword + key->keyword_offset, &at)) {
+            return false;
+        }
+        at = skip_ws(s, at) + 1;  // past the ',' or the '}'
+    }
+    return true;
+}
+
+bool start(const TypeDesc *d, unsigned record_depth, const Text &t, Document *doc) {
+    return check_document(d, record_depth, t, doc);
 }
 
 }  // namespace
@@ -691,18 +1134,24 @@ bool start(const TypeDesc *d, const Text &t, Document *doc, Members *members) {
 Direct direct_record(const TypeDesc *d, const char *text, size_t len, void *rec) {
     const Text t{reinterpret_cast<const u8 *>(text), len};
     Document doc;
-    Members m;
-    m.d = d;
-    m.clear();
-    if (!start(d, t, &doc, &m)) return Direct::UseTree;
+    if (!start(d, 1, t, &doc)) return Direct::UseTree;
     if (t.s[doc.root] != '{') return Direct::NotObject;
-    return fill_record(t, m, rec) ? Direct::Done : Direct::ReaderFailed;
+    char *const r = static_cast<char *>(rec);
+    size_t end;
+    if (doc.in_order != 0) {
+        end = doc.blanks ? read_in_order(t, doc.root, d, r) : read_in_order_compact(t, doc.root, d, r);
+    } else {
+        Members m;
+        m.d = d;
+        end = read_element(t, doc.root, &m, r);
+    }
+    return end != 0 ? Direct::Done : Direct::ReaderFailed;
 }
 
 Direct direct_array(const TypeDesc *d, const char *text, size_t len, void *arr, uint32_t *count) {
     const Text t{reinterpret_cast<const u8 *>(text), len};
     Document doc;
-    if (!start(d, t, &doc, nullptr)) return Direct::UseTree;
+    if (!start(d, 2, t, &doc)) return Direct::UseTree;
     if (t.s[doc.root] != '[') return Direct::NotArray;
     if (arr == nullptr) {  // query mode: how many elements to provide
         *count = doc.elements;
@@ -716,52 +1165,84 @@ Direct direct_array(const TypeDesc *d, const char *text, size_t len, void *arr, 
     m.d = d;
     each_element(t, doc.root, [&](size_t value) -> size_t {
         if (k == filled) return 0;
-        const size_t end = find_members(t, value, &m);
-        ok = fill_record(t, m, base + static_cast<size_t>(k) * d->size);
+        char *const rec = base + static_cast<size_t>(k) * d->size;
+        size_t end;
+        if (k >= doc.in_order)
+            end = read_element(t, value, &m, rec);
+        else if (doc.blanks)
+            end = read_in_order(t, value, d, rec);
+        else
+            end = read_in_order_compact(t, value, d, rec);
+        ok = end != 0;
         ++k;
-        return ok ? end : 0;
+        return end;
     });
     if (!ok) return Direct::ReaderFailed;
     *count = filled;
     return Direct::Done;
 }
 
+namespace {
+
+// Applies the update element at t.s[value], whose members are found the
+// general way, to the first of the capacity records at base with its keys
+// (counted in *updated); returns the offset just past the element, or 0 with
+// *outcome set when it has no keys or a member of the wrong JSON type.
+__attribute__((noinline)) size_t update_element(const Text &t, const TypeDesc *d, size_t value, char *base,
+                                                uint32_t capacity, uint32_t *updated, Direct *outcome) {
+    Members m;
+    m.d = d;
+    const size_t end = find_members(t, value, &m);
+    alignas(8) char keyword[kMaxKeywordSize];
+    for (uint32_t j = 0; j < d->key_count; ++j) {
+        const Key &key = d->keys[j];
+        const size_t member = m.at[field_of_key(d, key)];
+        if (member == 0 || !read_field(t, keyword_field(key), member, keyword + key.keyword_offset)) {
+            *outcome = Direct::KeywordMissing;
+            return 0;
+        }
+    }
+    const uint32_t i = find_keyed(d, base, capacity, keyword);
+    if (i < capacity) {
+        if (!fill_record(t, m, base + static_cast<size_t>(i) * d->size)) {
+            *outcome = Direct::ReaderFailed;
+            return 0;
+        }
+        ++*updated;
+    }
+    return end;
+}
+
+}  // namespace
+
 Direct direct_update(const TypeDesc *d, const char *text, size_t len, void *arr, uint32_t *count) {
     const Text t{reinterpret_cast<const u8 *>(text), len};
     Document doc;
-    if (!start(d, t, &doc, nullptr)) return Direct::UseTree;
+    if (!start(d, 2, t, &doc)) return Direct::UseTree;
     if (t.s[doc.root] != '[') return Direct::NotArray;
     char *base = static_cast<char *>(arr);
     const uint32_t capacity = *count;  // not changed during the loop
     uint32_t updated = 0;
     Direct outcome = Direct::Done;
-    Members m;
-    m.d = d;
+    uint32_t k = 0;  // the element's index
     each_element(t, doc.root, [&](size_t value) -> size_t {
-        const size_t end = find_members(t, value, &m);
+        if (k++ >= doc.in_order) return update_element(t, d, value, base, capacity, &updated, &outcome);
         // The keyword record of this element, read as the keyword reader
         // reads it: every key present and of its JSON type.
         alignas(8) char keyword[kMaxKeywordSize];
-        for (uint32_t k = 0; k < d->key_count; ++k) {
-            const Key &key = d->keys[k];
-            Field f = key.field;
-            if (f.kind == Kind::Str) f.size = kKeyStringSize;
-            const size_t member = m.at[field_of_key(d, key)];
-            if (member == 0 || !read_field(t, f, member, keyword + key.keyword_offset)) {
-                outcome = Direct::KeywordMissing;
-                return size_t{0};
-            }
+        if (!keys_in_order(t, value, d, keyword)) {
+            outcome = Direct::KeywordMissing;
+            return size_t{0};
         }
-        for (uint32_t i = 0; i < capacity; ++i) {
-            char *rec = base + static_cast<size_t>(i) * d->size;
-            if (!keys_match(d, rec, keyword)) continue;
-            if (!fill_record(t, m, rec)) {
-                outcome = Direct::ReaderFailed;
-                return size_t{0};
-            }
-            ++updated;
-            break;
+        const uint32_t i = find_keyed(d, base, capacity, keyword);
+        if (i == capacity) return skip_value(t, value);
+        char *rec = base + static_cast<size_t>(i) * d->size;
+        const size_t end = doc.blanks ? read_in_order(t, value, d, rec) : read_in_order_compact(t, value, d, rec);
+        if (end == 0) {
+            outcome = Direct::ReaderFailed;
+            return size_t{0};
         }
+        ++updated;
         return end;
     });
     if (outcome == Direct::Done) *count = updated;  // an empty list sets the count to 0
