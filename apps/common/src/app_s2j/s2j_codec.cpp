@@ -14,9 +14,12 @@ namespace s2j {
 
 namespace {
 
+// What an emitted tree is for (see emit_record() and emit_record_for_print()).
+enum class TreeUse : uint8_t { Caller, PrintOnly };
+
 // A string member whose text is terminated within the field.
-void add_string(cJSON *obj, const char *key, const char *text, bool print_only) {
-    if (!print_only) {
+void add_string(cJSON *obj, const char *key, const char *text, TreeUse use) {
+    if (use == TreeUse::Caller) {
         cJSON_AddStringToObject(obj, key, text);
         return;
     }
@@ -24,9 +27,15 @@ void add_string(cJSON *obj, const char *key, const char *text, bool print_only) 
     if (item != nullptr) cJSON_AddItemToObjectCS(obj, key, item);
 }
 
-}  // namespace
+// An integer member (ints: where a print-only tree's texts go).
+void add_integer(cJSON *obj, const char *key, int64_t v, TreeUse use, char **ints) {
+    if (use == TreeUse::Caller)
+        add_int_item(obj, key, v);
+    else
+        add_int_text(obj, key, v, ints);
+}
 
-cJSON *emit_record(const TypeDesc *d, const void *rec, char **ints) {
+cJSON *emit(const TypeDesc *d, const void *rec, TreeUse use, char **ints) {
     cJSON *obj = cJSON_CreateObject();
     if (obj == nullptr) return nullptr;
     const char *base = static_cast<const char *>(rec);
@@ -37,24 +46,24 @@ cJSON *emit_record(const TypeDesc *d, const void *rec, char **ints) {
             case Kind::I32: {
                 int32_t v;
                 std::memcpy(&v, at, sizeof v);
-                add_int(obj, f.key, v, ints);
+                add_integer(obj, f.key, v, use, ints);
                 break;
             }
             case Kind::U32: {
                 uint32_t v;
                 std::memcpy(&v, at, sizeof v);
-                add_int(obj, f.key, v, ints);
+                add_integer(obj, f.key, v, use, ints);
                 break;
             }
             case Kind::U16: {
                 uint16_t v;
                 std::memcpy(&v, at, sizeof v);
-                add_int(obj, f.key, v, ints);
+                add_integer(obj, f.key, v, use, ints);
                 break;
             }
             case Kind::Str:
                 if (std::memchr(at, '\0', f.size) != nullptr) {
-                    add_string(obj, f.key, at, ints != nullptr);
+                    add_string(obj, f.key, at, use);
                 } else {
                     // All N bytes are text: emit them whole through a terminated
                     // copy.  Without memory the member is left out (a null
@@ -82,6 +91,14 @@ cJSON *emit_record(const TypeDesc *d, const void *rec, char **ints) {
         }
     }
     return obj;
+}
+
+}  // namespace
+
+cJSON *emit_record(const TypeDesc *d, const void *rec) { return emit(d, rec, TreeUse::Caller, nullptr); }
+
+cJSON *emit_record_for_print(const TypeDesc *d, const void *rec, char **ints) {
+    return emit(d, rec, TreeUse::PrintOnly, ints);
 }
 
 namespace {

@@ -11,14 +11,15 @@
 
 namespace s2j {
 
-// Emits a record as a new object.  With ints null the tree is the caller's:
-// keys copied, integers as integer items.  Otherwise the tree is only to be
-// printed and freed while the record is alive: keys are the table's
-// constants, strings refer to the record's fields and integers are raw items
-// whose decimal text is written at *ints (advanced past it; the caller
-// provides d->int_text_bytes per record and frees that memory after the
-// tree).  Both trees print the same text.
-cJSON *emit_record(const TypeDesc *d, const void *rec, char **ints);
+// Emits a record as a new object for the caller: keys copied, integers as
+// integer items.
+cJSON *emit_record(const TypeDesc *d, const void *rec);
+// Emits a record as a new object that is only to be printed and freed while
+// the record is alive: keys are the table's constants, strings refer to the
+// record's fields and integers are raw items whose decimal text is written at
+// *ints (advanced past it; the caller provides d->int_text_bytes per record
+// and frees that memory after the tree).  It prints as emit_record()'s tree.
+cJSON *emit_record_for_print(const TypeDesc *d, const void *rec, char **ints);
 // strict: every field must be present (the whole-record keyword reader).
 int read_record(const TypeDesc *d, void *rec, const cJSON *json, bool strict);
 // Reads count records of an array from the elements starting at first;

@@ -91,7 +91,7 @@ namespace {
 __attribute__((noinline)) char *s2j_tree(Site s, const TypeDesc *d, const void *rec, int formatted) {
     char *ints = int_texts(d, 1);
     char *cursor = ints;
-    cJSON *tree = emit_record(d, rec, ints != nullptr ? &cursor : nullptr);
+    cJSON *tree = ints != nullptr ? emit_record_for_print(d, rec, &cursor) : emit_record(d, rec);
     if (tree == nullptr) {
         std::free(ints);
         diag(s, d->name, S2J_MSG_EMITTER_FAILED, d->name);
@@ -146,7 +146,8 @@ __attribute__((noinline)) char *s2j_array_tree(Site s, const TypeDesc *d, const 
     char *cursor = ints;
     const char *base = static_cast<const char *>(arr);
     for (uint32_t i = 0; i < count; ++i) {
-        cJSON *obj = emit_record(d, base + static_cast<size_t>(i) * d->size, ints != nullptr ? &cursor : nullptr);
+        const char *rec = base + static_cast<size_t>(i) * d->size;
+        cJSON *obj = ints != nullptr ? emit_record_for_print(d, rec, &cursor) : emit_record(d, rec);
         if (obj == nullptr) {
             diag(s, d->name, S2J_MSG_EMITTER_FAILED, d->name);
             cJSON_Delete(list);

@@ -125,18 +125,17 @@ cJSON *parse_marked(const char *text, size_t len, bool with_len, const char **pa
 // text reader classifies literals with it too.
 bool read_literal(const char *&p, const char *end, int64_t *value);
 
-// An integer member of an object.  With ints null, an integer item under a
-// copy of the key (the caller's tree).  Otherwise, for a tree that is only
-// printed and freed while the key and *ints live: a raw item under the
-// constant key holding the decimal text, written at *ints and not owned by
-// the item (*ints moves past the text; cJSON copies a raw item's text to the
-// output instead of formatting a double through sprintf and checking it with
-// sscanf).  A member whose item cannot be made is left out.
-inline void add_int(cJSON *obj, const char *key, int64_t v, char **ints) {
-    if (ints == nullptr) {
-        cJSON_AddIntToObject(obj, key, v);
-        return;
-    }
+// An integer member of an object in the caller's tree: an integer item under
+// a copy of the key.  A member whose item cannot be made is left out.
+inline void add_int_item(cJSON *obj, const char *key, int64_t v) { cJSON_AddIntToObject(obj, key, v); }
+
+// An integer member of an object in a tree that is only printed and freed
+// while the key and *ints live: a raw item under the constant key holding the
+// decimal text, written at *ints and not owned by the item (*ints moves past
+// the text; cJSON copies a raw item's text to the output instead of
+// formatting a double through sprintf and checking it with sscanf).  A
+// member whose item cannot be made is left out.
+inline void add_int_text(cJSON *obj, const char *key, int64_t v, char **ints) {
     cJSON *item = cJSON_CreateNull();
     if (item == nullptr) return;
     char *text = *ints;

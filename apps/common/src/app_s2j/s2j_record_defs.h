@@ -113,7 +113,7 @@
 #define S2J_DEFINE_HOOKS(T, keyword, get, kwsize)
 #define S2J_DEFINE_EMITTER_AND_READER(T)                                                           \
     S2J_SIG_EMIT(T) {                                                                              \
-        return ::s2j::emit_record(&::s2j::desc_##T, struct_ptr, nullptr);                          \
+        return ::s2j::emit_record(&::s2j::desc_##T, struct_ptr);                                   \
     }                                                                                              \
     S2J_SIG_READ(T) {                                                                              \
         return ::s2j::read_record(&::s2j::desc_##T, struct_ptr, json, false);                      \
