@@ -3,11 +3,19 @@
 #ifndef APP_S2J_TEST_SUPPORT_H
 #define APP_S2J_TEST_SUPPORT_H
 
+#include <gtest/gtest.h>
+
+#include <cstring>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "app_s2j.h"
 #include "registry.h"
+
+// Capacity of a member, and whether a member has a given C type.
+#define CAPACITY(T, m) sizeof(((T *)0)->m)
+#define MEMBER_IS(T, m, C) std::is_same<decltype(T::m), C>::value
 
 namespace testing_support {
 
@@ -42,11 +50,37 @@ const s2j::Families::Lines &lines_of(const char *type);
 
 // The three writes of one diagnostic.
 std::string diag(const std::string &file, int line, const std::string &func, const std::string &msg);
+// The same of a diagnostic at a line of the text list.
+std::string text_diag(int line, const std::string &func, const std::string &msg);
 
 // What cJSON itself reports, after failing to parse text, as the place
 // where parsing stopped (the rest of the text from there).
 std::string parse_reason(const char *text);
 std::string parse_reason_with_len(const char *text, size_t len);
+
+// The example file of a record type (examples/<type>.json), and its text as
+// the library writes it: the file without its final newline.
+std::string example_path(const std::string &type);
+std::string example_text(const std::string &type);
+
+// The compact text of a tree ("<null>" for none), the tree left as it is.
+std::string print_compact(const cJSON *tree);
+// The same of a tree made for the call (an emitter's), which it deletes.
+std::string compact(cJSON *tree);
+
+// Records of a registry type filled field by field (integers, strings and
+// lists alike), with keys distinct per seed so that the elements of an array
+// can be told apart.
+// Boundary and varied values: seed 0 gives the extremes (INT32_MIN,
+// UINT32_MAX, UINT16_MAX, strings of N-1 characters), other seeds others;
+// keys "key<seed>", or seed + 100 * k for the k-th integer key.
+void fill_boundary(const s2j::TypeInfo *t, char *rec, uint32_t seed);
+// Strings that fill all N bytes (no NUL), so that an emitter copies each of
+// them; keys "k<seed>" or seed.
+void fill_unterminated(const s2j::TypeInfo *t, char *rec, uint32_t seed);
+// Values that differ from seed to seed and field to field, strings
+// "t<seed>-<field>"; the record is zeroed first.
+void fill_distinct(const s2j::TypeInfo *t, char *rec, uint32_t seed);
 
 // A fresh empty directory for the test, removed with its files at exit.
 std::string temp_dir();
@@ -87,6 +121,57 @@ private:
     CjsonFaults(const CjsonFaults &) = delete;
     CjsonFaults &operator=(const CjsonFaults &) = delete;
 };
+
+// A text of n characters c.
+inline std::string chars(size_t n, char c = 'a') { return std::string(n, c); }
+
+// Compact text of one emitted record.
+template <class T>
+std::string emitted(cJSON *(*emit)(const T *), const T &r) {
+    return compact(emit(&r));
+}
+
+// The example loads with the type's reader (each element of an array file),
+// and the type's emitter gives back the file's very text (an example file
+// ends in a newline after the library's text).
+template <class T>
+void expect_example_reads(const char *type, bool array, cJSON *(*emit)(const T *),
+                          int (*read)(T *, const cJSON *), std::vector<T> *out = nullptr) {
+    const std::string text = example_text(type);
+    Tree tree(cJSON_Parse(text.c_str()));
+    ASSERT_NE(tree.p, nullptr) << type;
+    std::vector<T> recs;
+    if (array) {
+        ASSERT_TRUE(cJSON_IsArray(tree.p)) << type;
+        int n = cJSON_GetArraySize(tree.p);
+        EXPECT_TRUE(n >= 2 && n <= 4) << type;
+        recs.resize(static_cast<size_t>(n));
+        for (int i = 0; i < n; ++i) EXPECT_EQ(read(&recs[i], cJSON_GetArrayItem(tree.p, i)), 1) << type << " " << i;
+    } else {
+        ASSERT_TRUE(cJSON_IsObject(tree.p)) << type;
+        recs.resize(1);
+        EXPECT_EQ(read(&recs[0], tree.p), 1) << type;
+    }
+    cJSON *again = array ? cJSON_CreateArray() : emit(&recs[0]);
+    if (array)
+        for (const T &r : recs) cJSON_AddItemToArray(again, emit(&r));
+    Tree back(again);
+    Text printed(cJSON_Print(again));
+    EXPECT_EQ(printed.str(), text) << type;
+    if (out) *out = recs;
+}
+
+// The same file through the type's file reader gives the same records.
+template <class T>
+void expect_f2s_array(const char *type, int (*f2s_array)(const char *, T *, uint32_t *), const std::vector<T> &want) {
+    const std::string path = example_path(type);
+    uint32_t n = 0;
+    ASSERT_EQ(f2s_array(path.c_str(), nullptr, &n), 0) << type;
+    ASSERT_EQ(n, want.size()) << type;
+    std::vector<T> got(n);
+    ASSERT_EQ(f2s_array(path.c_str(), got.data(), &n), 0) << type;
+    EXPECT_EQ(std::memcmp(got.data(), want.data(), n * sizeof(T)), 0) << type;
+}
 
 }  // namespace testing_support
 

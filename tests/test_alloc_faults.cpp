@@ -187,36 +187,6 @@ FaultRun under_fault(long fail_at, F f, bool refuse_first = false) {
 
 // ---- Records and texts ---------------------------------------------------
 
-// Values of every kind; strings fill all N bytes (no NUL), so that the
-// emitter copies each of them; keys are i (integer) or "k<i>" (string).
-void fill(const TypeInfo *t, char *rec, uint32_t i) {
-    const s2j::TypeDesc *d = t->desc;
-    for (uint32_t k = 0; k < d->field_count; ++k) {
-        const Field &f = d->fields[k];
-        char *at = rec + f.offset;
-        switch (f.kind) {
-            case Kind::I32: { int32_t v = -static_cast<int32_t>(1000 * i + k + 1); std::memcpy(at, &v, 4); break; }
-            case Kind::U32: { uint32_t v = 4000000000u + 1000 * i + k; std::memcpy(at, &v, 4); break; }
-            case Kind::U16: { uint16_t v = static_cast<uint16_t>(60000 + 100 * i + k); std::memcpy(at, &v, 2); break; }
-            case Kind::Str:
-                for (uint32_t b = 0; b < f.size; ++b) at[b] = static_cast<char>('a' + (b + k + i) % 26);
-                break;
-            case Kind::U32List:
-                for (uint32_t b = 0; b < f.size / 4; ++b) { uint32_t v = b * 7 + i; std::memcpy(at + 4 * b, &v, 4); }
-                break;
-        }
-    }
-    for (uint32_t k = 0; k < d->key_count; ++k) {
-        const Field &f = d->keys[k].field;
-        if (f.kind == Kind::Str) {
-            std::memset(rec + f.offset, 0, f.size);
-            std::snprintf(rec + f.offset, f.size, "k%u", i);
-        } else {
-            std::memcpy(rec + f.offset, &i, 4);
-        }
-    }
-}
-
 std::string print_plain(cJSON *tree) {
     char *p = cJSON_PrintUnformatted(tree);
     std::string s = p != nullptr ? p : "";
@@ -369,7 +339,7 @@ void expect_one_allocation_or_the_whole_text(Call call, const std::string &ref, 
 TEST_P(TextWriters, s2j_and_s2j_array_lose_members_or_return_null_and_leak_nothing) {
     const TypeInfo *t = GetParam();
     std::vector<char> recs(t->desc->size * kElements);
-    for (uint32_t i = 0; i < kElements; ++i) fill(t, recs.data() + i * t->desc->size, i);
+    for (uint32_t i = 0; i < kElements; ++i) fill_unterminated(t, recs.data() + i * t->desc->size, i);
     int checked = 0;
     if (t->fam.s2j != nullptr) {
         const std::string ref = emit(t, recs.data(), 1, false);
@@ -451,7 +421,7 @@ void reader_allocates_nothing(const char *what, std::vector<char> &buf, uint32_t
 template <class Check>
 void text_readers(const TypeInfo *t, const s2j::Families &f, Check reader_faults) {
     std::vector<char> recs(t->desc->size * kElements);
-    for (uint32_t i = 0; i < kElements; ++i) fill(t, recs.data() + i * t->desc->size, i);
+    for (uint32_t i = 0; i < kElements; ++i) fill_unterminated(t, recs.data() + i * t->desc->size, i);
     const std::string one = with_large_numbers(emit(t, recs.data(), 1, false));
     const std::string many = with_large_numbers(emit(t, recs.data(), kElements, true));
     std::vector<char> buf;
@@ -474,7 +444,7 @@ void text_readers(const TypeInfo *t, const s2j::Families &f, Check reader_faults
         std::vector<char> keyed(t->desc->size * kElements, 0);
         for (uint32_t i = 0; i < kElements; ++i) {
             std::vector<char> full(t->desc->size);
-            fill(t, full.data(), i);
+            fill_unterminated(t, full.data(), i);
             for (uint32_t k = 0; k < t->desc->key_count; ++k) {
                 const Field &kf = t->desc->keys[k].field;
                 std::memcpy(keyed.data() + i * t->desc->size + kf.offset, full.data() + kf.offset, kf.size);
@@ -513,7 +483,7 @@ TEST_P(TreeReaders, allocate_nothing) {
     const TypeInfo *t = GetParam();
     const s2j::Families &f = t->fam;
     std::vector<char> recs(t->desc->size * kElements);
-    for (uint32_t i = 0; i < kElements; ++i) fill(t, recs.data() + i * t->desc->size, i);
+    for (uint32_t i = 0; i < kElements; ++i) fill_unterminated(t, recs.data() + i * t->desc->size, i);
     Tree one(s2j::parse_marked(with_large_numbers(emit(t, recs.data(), 1, false)).c_str(), 0, false));
     Tree many(s2j::parse_marked(with_large_numbers(emit(t, recs.data(), kElements, true)).c_str(), 0, false));
     ASSERT_NE(one.p, nullptr);
@@ -562,7 +532,7 @@ TEST_P(FileReaders, give_minus_15_for_fopen_or_the_buffer_and_allocate_nothing_e
     const TypeInfo *t = GetParam();
     const s2j::Families &f = t->fam;
     std::vector<char> recs(t->desc->size * kElements);
-    for (uint32_t i = 0; i < kElements; ++i) fill(t, recs.data() + i * t->desc->size, i);
+    for (uint32_t i = 0; i < kElements; ++i) fill_unterminated(t, recs.data() + i * t->desc->size, i);
     const std::string dir = temp_dir();
     struct Case {
         const char *what;
@@ -616,7 +586,7 @@ TEST_P(FileWriters, give_minus_15_without_text_and_minus_7_when_fopen_fails) {
     const TypeInfo *t = GetParam();
     const s2j::Families &f = t->fam;
     std::vector<char> recs(t->desc->size * kElements);
-    for (uint32_t i = 0; i < kElements; ++i) fill(t, recs.data() + i * t->desc->size, i);
+    for (uint32_t i = 0; i < kElements; ++i) fill_unterminated(t, recs.data() + i * t->desc->size, i);
     const std::string dir = temp_dir();
     for (int which = 0; which < 2; ++which) {
         const bool array = which == 1;
@@ -710,7 +680,7 @@ TEST(AllocationFaults, the_replacement_sees_the_library_cjson_and_the_c_library)
     const TypeInfo *t = s2j::find_type("DeviceInfo");
     ASSERT_NE(t, nullptr);
     std::vector<char> rec(t->desc->size);
-    fill(t, rec.data(), 0);
+    fill_unterminated(t, rec.data(), 0);
     bool library = false, cjson = false;
     for (long n = 2;; ++n) {
         FaultRun r = under_fault(n, [&] { keep(t->fam.s2j(rec.data(), 1)); }, true);

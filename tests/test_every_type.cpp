@@ -44,55 +44,6 @@ struct Rec {
     std::vector<char> bytes;
 };
 
-// Boundary and varied values: seed 0 gives the extremes (INT32_MIN,
-// UINT32_MAX, UINT16_MAX, strings of N-1 characters), other seeds others.
-void fill(const TypeInfo *t, char *rec, uint32_t seed) {
-    for (uint32_t i = 0; i < t->desc->field_count; ++i) {
-        const Field &f = t->desc->fields[i];
-        char *at = rec + f.offset;
-        switch (f.kind) {
-            case Kind::I32: {
-                int32_t v = seed == 0 ? INT32_MIN : seed == 1 ? INT32_MAX : -static_cast<int32_t>(seed * 7 + i);
-                std::memcpy(at, &v, 4);
-                break;
-            }
-            case Kind::U32: {
-                uint32_t v = seed == 0 ? UINT32_MAX : seed * 1000003u + i;
-                std::memcpy(at, &v, 4);
-                break;
-            }
-            case Kind::U16: {
-                uint16_t v = seed == 0 ? UINT16_MAX : static_cast<uint16_t>(seed * 31 + i);
-                std::memcpy(at, &v, 2);
-                break;
-            }
-            case Kind::Str: {
-                uint32_t len = seed == 0 ? f.size - 1 : (seed * 5 + i) % f.size;
-                for (uint32_t k = 0; k < len; ++k) at[k] = static_cast<char>('A' + (k + seed + i) % 26);
-                std::memset(at + len, 0, f.size - len);
-                break;
-            }
-            case Kind::U32List:
-                for (uint32_t k = 0; k < f.size / 4; ++k) {
-                    uint32_t v = seed == 0 ? UINT32_MAX - k : seed * k;
-                    std::memcpy(at + 4 * k, &v, 4);
-                }
-                break;
-        }
-    }
-    // Keys distinct per seed, so that elements of an array can be told apart.
-    for (uint32_t k = 0; k < t->desc->key_count; ++k) {
-        const Field &f = t->desc->keys[k].field;
-        if (f.kind == Kind::Str) {
-            std::memset(rec + f.offset, 0, f.size);
-            std::snprintf(rec + f.offset, f.size, "key%u", seed);
-        } else {
-            uint32_t v = seed + 100 * k;
-            std::memcpy(rec + f.offset, &v, 4);
-        }
-    }
-}
-
 bool same(const TypeInfo *t, const void *a, const void *b) { return std::memcmp(a, b, t->desc->size) == 0; }
 bool same_values(const TypeInfo *t, const char *a, const char *b) {
     for (uint32_t i = 0; i < t->desc->field_count; ++i) {
@@ -155,7 +106,7 @@ TEST_P(EveryType, FieldTableListsTheStructsMembersByNameInOrder) {
 TEST_P(EveryType, EmitterWritesEveryFieldInTableOrderWithItsJsonType) {
     const TypeInfo *t = GetParam();
     Rec r(t);
-    fill(t, r.at(0, t), 0);
+    fill_boundary(t, r.at(0, t), 0);
     Tree tree(t->hooks->emit(r.p()));
     ASSERT_TRUE(cJSON_IsObject(tree.p));
     const cJSON *m = tree.p->child;
@@ -177,7 +128,7 @@ TEST_P(EveryType, ReaderReadsBackBoundaryValuesExactly) {
     const TypeInfo *t = GetParam();
     for (uint32_t seed = 0; seed < 3; ++seed) {
         Rec a(t), b(t);
-        fill(t, a.at(0, t), seed);
+        fill_boundary(t, a.at(0, t), seed);
         Tree tree(t->hooks->emit(a.p()));
         EXPECT_EQ(t->hooks->read(b.p(), tree.p), 1);
         EXPECT_TRUE(same(t, a.p(), b.p())) << "seed " << seed;
@@ -204,8 +155,8 @@ TEST_P(EveryType, MemberOfWrongTypeStopsReaderThereLeavingEarlierFieldsWritten) 
     const TypeInfo *t = GetParam();
     for (uint32_t bad = 0; bad < t->desc->field_count; ++bad) {
         Rec src(t), dst(t), before(t);
-        fill(t, src.at(0, t), 2);
-        fill(t, dst.at(0, t), 1);
+        fill_boundary(t, src.at(0, t), 2);
+        fill_boundary(t, dst.at(0, t), 1);
         before.bytes = dst.bytes;
         Tree tree(t->hooks->emit(src.p()));
         const Field &bf = t->desc->fields[bad];
@@ -224,7 +175,7 @@ TEST_P(EveryType, MemberOfWrongTypeStopsReaderThereLeavingEarlierFieldsWritten) 
 TEST_P(EveryType, EmptyObjectChangesNothing) {
     const TypeInfo *t = GetParam();
     Rec a(t), b(t);
-    fill(t, a.at(0, t), 1);
+    fill_boundary(t, a.at(0, t), 1);
     b.bytes = a.bytes;
     Tree tree(cJSON_Parse("{}"));
     EXPECT_EQ(t->hooks->read(a.p(), tree.p), 1);
@@ -235,7 +186,7 @@ TEST_P(SingleRecordType, SingleRecordFamiliesRoundTripIndentedAndCompact) {
     const TypeInfo *t = GetParam();
     const s2j::Families &f = t->fam;
     Rec a(t);
-    fill(t, a.at(0, t), 0);
+    fill_boundary(t, a.at(0, t), 0);
     Tree tree(t->hooks->emit(a.p()));
     Text indented(cJSON_Print(tree.p)), compact(cJSON_PrintUnformatted(tree.p));
     if (f.s2j) {
@@ -265,7 +216,7 @@ TEST_P(ArrayType, ArrayFamiliesRoundTripWithQueryAndCapacity) {
     const TypeInfo *t = GetParam();
     const s2j::Families &f = t->fam;
     Rec a(t, 3);
-    for (uint32_t i = 0; i < 3; ++i) fill(t, a.at(i, t), i);
+    for (uint32_t i = 0; i < 3; ++i) fill_boundary(t, a.at(i, t), i);
     cJSON *list = cJSON_CreateArray();
     for (uint32_t i = 0; i < 3; ++i) cJSON_AddItemToArray(list, t->hooks->emit(a.at(i, t)));
     Tree tree(list);
@@ -309,11 +260,11 @@ TEST_P(KeyedArrayType, KeyedUpdateAppliesElementToTheRecordWithItsKeys) {
     const TypeInfo *t = GetParam();
     const s2j::Families &f = t->fam;
     Rec a(t, 3), want(t, 3);
-    for (uint32_t i = 0; i < 3; ++i) fill(t, a.at(i, t), i + 1);
+    for (uint32_t i = 0; i < 3; ++i) fill_boundary(t, a.at(i, t), i + 1);
     want.bytes = a.bytes;
     // The update carries element 1's keys and seed 7's other values.
     Rec src(t);
-    fill(t, src.at(0, t), 7);
+    fill_boundary(t, src.at(0, t), 7);
     for (uint32_t k = 0; k < t->desc->key_count; ++k) {
         const Field &kf = t->desc->keys[k].field;
         std::memcpy(src.at(0, t) + kf.offset, a.at(1, t) + kf.offset, kf.size);
@@ -364,7 +315,7 @@ TEST_P(KeywordType, KeywordReadersReadTheKeysOfAnEmittedRecord) {
     const TypeInfo *t = GetParam();
     const s2j::TypeHooks *h = t->hooks;
     Rec a(t);
-    fill(t, a.at(0, t), 5);
+    fill_boundary(t, a.at(0, t), 5);
     Tree tree(t->hooks->emit(a.p()));
     Tree empty(cJSON_CreateObject());
     if (h->keyword && t->desc->key_count > 0) {
@@ -392,8 +343,8 @@ TEST_P(FileType, FileFamiliesSaveAndLoadTheSameRecords) {
     const s2j::Families &f = t->fam;
     std::string dir = temp_dir();
     Rec a(t, 2);
-    fill(t, a.at(0, t), 0);
-    fill(t, a.at(1, t), 3);
+    fill_boundary(t, a.at(0, t), 0);
+    fill_boundary(t, a.at(1, t), 3);
     if (f.f2s) {
         std::string path = dir + "/one.json";
         if (f.s2f) {
@@ -483,7 +434,8 @@ TEST_P(EveryType, EveryFamilyMemberReportsNullArgumentsUnderItsOwnNameAndLine) {
               diag(F, f.line.s2f_array, "s2f_array_" + T, "fine_name is empty!\n"));
 }
 
-// The library exports a family member exactly when the lists instantiate it.
+// The library exports a family member exactly when the lists instantiate it:
+// the one check of every type's exported names (no other test repeats it).
 TEST_P(EveryType, ExportsExactlyTheFamilyMembersTheRegistryLists) {
     const TypeInfo *t = GetParam();
     const s2j::Families &f = t->fam;

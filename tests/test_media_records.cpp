@@ -1,7 +1,7 @@
 // Video input, video encoding, encoder OSD and audio input/encoding records:
-// their layout, keys as written, family sets, the 16-bit frame-rate and
-// scanning-frequency fields, the two-key updates, signed and unsigned fields
-// sharing a key, capacities, and the example files.
+// their layout, keys as written, the 16-bit frame-rate and scanning-frequency
+// fields, the two-key updates, signed and unsigned fields sharing a key,
+// capacities, and the example files.
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
@@ -16,14 +16,13 @@
 
 using namespace testing_support;
 
-#define CAP(T, m) sizeof(((T *)0)->m)
 
 // ---- Layout ----------------------------------------------------------------
 
 static_assert(sizeof(VideoInputCapabilitySet) == 276);
 static_assert(offsetof(VideoInputCapabilitySet, SupportImageColorAdjust) == 256);
 static_assert(offsetof(VideoInputCapabilitySet, MaxImageHue) == 272);
-static_assert(CAP(VideoInputCapabilitySet, SupportedVideoInputInterfaceList) == 256);
+static_assert(CAPACITY(VideoInputCapabilitySet, SupportedVideoInputInterfaceList) == 256);
 
 static_assert(sizeof(VideoInputInterface) == 2320);
 static_assert(offsetof(VideoInputInterface, Alias) == 128);
@@ -31,9 +30,9 @@ static_assert(offsetof(VideoInputInterface, HardwareRelated) == 192);
 static_assert(offsetof(VideoInputInterface, Removeable) == 196);
 static_assert(offsetof(VideoInputInterface, MaxInputTiming) == 208);
 static_assert(offsetof(VideoInputInterface, SupportedManualTimingList) == 272);
-static_assert(CAP(VideoInputInterface, Name) == 64 && CAP(VideoInputInterface, Type) == 64);
-static_assert(CAP(VideoInputInterface, MaxInputTiming) == 64);
-static_assert(CAP(VideoInputInterface, SupportedManualTimingList) == 2048);
+static_assert(CAPACITY(VideoInputInterface, Name) == 64 && CAPACITY(VideoInputInterface, Type) == 64);
+static_assert(CAPACITY(VideoInputInterface, MaxInputTiming) == 64);
+static_assert(CAPACITY(VideoInputInterface, SupportedManualTimingList) == 2048);
 
 // The two 16-bit scanning-frequency parts take the room of one 32-bit field.
 static_assert(sizeof(VideoInputParameter) == 120);
@@ -44,9 +43,9 @@ static_assert(offsetof(VideoInputParameter, ScanningFrequencyDecimal) == 86);
 static_assert(offsetof(VideoInputParameter, ScanningMode) == 88);
 static_assert(offsetof(VideoInputParameter, Hue) == 96);
 static_assert(offsetof(VideoInputParameter, VideoLostAction) == 116);
-static_assert(CAP(VideoInputParameter, ScanningFrequencyInteger) == 2);
-static_assert(CAP(VideoInputParameter, ScanningFrequencyDecimal) == 2);
-static_assert(CAP(VideoInputParameter, InterfaceName) == 64);
+static_assert(CAPACITY(VideoInputParameter, ScanningFrequencyInteger) == 2);
+static_assert(CAPACITY(VideoInputParameter, ScanningFrequencyDecimal) == 2);
+static_assert(CAPACITY(VideoInputParameter, InterfaceName) == 64);
 static_assert(sizeof(VideoInputParameterKeyword) == 4);
 
 static_assert(sizeof(VideoInputStatus) == 2192);
@@ -54,14 +53,14 @@ static_assert(offsetof(VideoInputStatus, CableIsPlugged) == 64);
 static_assert(offsetof(VideoInputStatus, VideoInputTiming) == 72);
 static_assert(offsetof(VideoInputStatus, EmbeddedAudioSamplerate) == 140);
 static_assert(offsetof(VideoInputStatus, InputTimingDetails) == 144);
-static_assert(CAP(VideoInputStatus, VideoInputTiming) == 64);
-static_assert(CAP(VideoInputStatus, InputTimingDetails) == 2048);
+static_assert(CAPACITY(VideoInputStatus, VideoInputTiming) == 64);
+static_assert(CAPACITY(VideoInputStatus, InputTimingDetails) == 2048);
 
 static_assert(sizeof(VideoInputVGAParameter) == 80);
 static_assert(offsetof(VideoInputVGAParameter, BlackEdgeIsSelfCorrection) == 64);
 static_assert(offsetof(VideoInputVGAParameter, CorrectedOffsetY) == 76);
 static_assert(sizeof(VideoInputVGAParameterKeyword) == 64);
-static_assert(CAP(VideoInputVGAParameterKeyword, InterfaceName) == 64);
+static_assert(CAPACITY(VideoInputVGAParameterKeyword, InterfaceName) == 64);
 
 static_assert(sizeof(VideoEncodeCapabilitySet) == 3128);
 static_assert(offsetof(VideoEncodeCapabilitySet, MaxVideoEncodeWidth) == 2048);
@@ -69,8 +68,8 @@ static_assert(offsetof(VideoEncodeCapabilitySet, SupportedVideoCodecList) == 206
 static_assert(offsetof(VideoEncodeCapabilitySet, MaxVideoEncodeBitrate) == 3084);
 static_assert(offsetof(VideoEncodeCapabilitySet, Rotate) == 3112);
 static_assert(offsetof(VideoEncodeCapabilitySet, Crop) == 3124);
-static_assert(CAP(VideoEncodeCapabilitySet, SupportedVideoEncodeSizeList) == 2048);
-static_assert(CAP(VideoEncodeCapabilitySet, SupportedBitrateControlAlgorithmList) == 256);
+static_assert(CAPACITY(VideoEncodeCapabilitySet, SupportedVideoEncodeSizeList) == 2048);
+static_assert(CAPACITY(VideoEncodeCapabilitySet, SupportedBitrateControlAlgorithmList) == 256);
 
 // The two 16-bit frame-rate parts take the room of one 32-bit field.
 static_assert(sizeof(VideoEncodeParameter) == 268);
@@ -82,9 +81,9 @@ static_assert(offsetof(VideoEncodeParameter, Codec) == 28);
 static_assert(offsetof(VideoEncodeParameter, GOP) == 220);
 static_assert(offsetof(VideoEncodeParameter, Rotate) == 232);
 static_assert(offsetof(VideoEncodeParameter, CropOffsetBase) == 264);
-static_assert(CAP(VideoEncodeParameter, FramerateInteger) == 2 && CAP(VideoEncodeParameter, FramerateDecimal) == 2);
-static_assert(CAP(VideoEncodeParameter, Codec) == 64 && CAP(VideoEncodeParameter, Profile) == 64);
-static_assert(CAP(VideoEncodeParameter, BitrateControl) == 64);
+static_assert(CAPACITY(VideoEncodeParameter, FramerateInteger) == 2 && CAPACITY(VideoEncodeParameter, FramerateDecimal) == 2);
+static_assert(CAPACITY(VideoEncodeParameter, Codec) == 64 && CAPACITY(VideoEncodeParameter, Profile) == 64);
+static_assert(CAPACITY(VideoEncodeParameter, BitrateControl) == 64);
 static_assert(sizeof(VideoEncodeParameterKeyword) == 8);
 static_assert(offsetof(VideoEncodeParameterKeyword, StreamIndex) == 4);
 
@@ -101,22 +100,22 @@ static_assert(offsetof(VideoEncodeOSDParameter, ForeAlpha) == 96);
 static_assert(offsetof(VideoEncodeOSDParameter, BackColor) == 100);
 static_assert(offsetof(VideoEncodeOSDParameter, XCoordinate) == 172);
 static_assert(offsetof(VideoEncodeOSDParameter, Content) == 184);
-static_assert(CAP(VideoEncodeOSDParameter, Content) == 256);
-static_assert(CAP(VideoEncodeOSDParameter, ForeColor) == 64 && CAP(VideoEncodeOSDParameter, BackColor) == 64);
+static_assert(CAPACITY(VideoEncodeOSDParameter, Content) == 256);
+static_assert(CAPACITY(VideoEncodeOSDParameter, ForeColor) == 64 && CAPACITY(VideoEncodeOSDParameter, BackColor) == 64);
 static_assert(sizeof(VideoEncodeOSDParameterKeyword) == 8);
 static_assert(offsetof(VideoEncodeOSDParameterKeyword, Index) == 4);
 
 static_assert(sizeof(AudioInputCapabilitySet) == 280);
 static_assert(offsetof(AudioInputCapabilitySet, MinVolume) == 260);
 static_assert(offsetof(AudioInputCapabilitySet, MaxGain) == 276);
-static_assert(CAP(AudioInputCapabilitySet, SupportedAudioInputInterfaceList) == 256);
+static_assert(CAPACITY(AudioInputCapabilitySet, SupportedAudioInputInterfaceList) == 256);
 
 static_assert(sizeof(AudioInputInterface) == 496);
 static_assert(offsetof(AudioInputInterface, MinAudioSamplerate) == 192);
 static_assert(offsetof(AudioInputInterface, SupportedSampleRateList) == 216);
 static_assert(offsetof(AudioInputInterface, SupportVolumeControl) == 472);
 static_assert(offsetof(AudioInputInterface, MaxGain) == 492);
-static_assert(CAP(AudioInputInterface, SupportedSampleRateList) == 256);
+static_assert(CAPACITY(AudioInputInterface, SupportedSampleRateList) == 256);
 
 static_assert(sizeof(AudioInputInterfaceParameter) == 72);
 static_assert(offsetof(AudioInputInterfaceParameter, Volume) == 64);
@@ -133,7 +132,7 @@ static_assert(offsetof(AudioInputStatus, AudioSamplerate) == 72);
 static_assert(offsetof(AudioInputStatus, InputTimingDetails) == 84);
 static_assert(offsetof(AudioInputStatus, Volume) == 2132);
 static_assert(offsetof(AudioInputStatus, Gain) == 2136);
-static_assert(CAP(AudioInputStatus, InputTimingDetails) == 2048);
+static_assert(CAPACITY(AudioInputStatus, InputTimingDetails) == 2048);
 
 static_assert(sizeof(AudioEncodeCapabilitySet) == 9 * 256 + 4);
 static_assert(offsetof(AudioEncodeCapabilitySet, G711SupportedBitrateList) == 8 * 256);
@@ -159,40 +158,12 @@ std::string reader_diag_c2s_array(const char *type) {
                 std::string("json_to_struct_") + type + " failed!\n");
 }
 
-// Which families a type has; the keyword readers are checked beside them.
-struct FamilySet {
-    bool text, array, update, f2s, s2f, f2s_array, s2f_array, keyword, get_keyword;
-};
-
-void expect_families(const std::string &T, const FamilySet &w) {
-    EXPECT_TRUE(exported("struct_to_json_" + T)) << T;
-    EXPECT_TRUE(exported("json_to_struct_" + T)) << T;
-    for (const char *p : {"s2j_", "c2s_", "j2s_"}) EXPECT_EQ(exported(p + T), w.text) << p << T;
-    EXPECT_EQ(exported("j2s_" + T + "_with_len"), w.text) << T;
-    for (const char *p : {"s2j_array_", "c2s_array_", "j2s_array_"}) EXPECT_EQ(exported(p + T), w.array) << p << T;
-    EXPECT_EQ(exported("j2s_array_" + T + "_with_len"), w.array) << T;
-    for (const char *p : {"c2s_array_update_", "j2s_array_update_"}) EXPECT_EQ(exported(p + T), w.update) << p << T;
-    EXPECT_EQ(exported("j2s_array_update_" + T + "_with_len"), w.update) << T;
-    EXPECT_EQ(exported("f2s_" + T), w.f2s) << T;
-    EXPECT_EQ(exported("s2f_" + T), w.s2f) << T;
-    EXPECT_EQ(exported("f2s_array_" + T), w.f2s_array) << T;
-    EXPECT_EQ(exported("s2f_array_" + T), w.s2f_array) << T;
-    EXPECT_EQ(exported("json_to_struct_" + T + "Keyword"), w.keyword) << T;
-    EXPECT_EQ(exported("json_to_struct_Get" + T + "Keyword"), w.get_keyword) << T;
-}
-
 // The member names of an object, in order; the tree is freed.
 std::vector<std::string> keys_of(cJSON *obj) {
     std::vector<std::string> k;
     for (const cJSON *m = obj ? obj->child : nullptr; m != nullptr; m = m->next) k.push_back(m->string);
     cJSON_Delete(obj);
     return k;
-}
-
-std::string compact(cJSON *tree) {
-    Text t(cJSON_PrintUnformatted(tree));
-    cJSON_Delete(tree);
-    return t.str();
 }
 
 bool contains(const std::string &hay, const std::string &needle) { return hay.find(needle) != std::string::npos; }
@@ -204,14 +175,6 @@ cJSON *one_string(const char *key, const std::string &text) {
     cJSON_AddStringToObject(obj, key, text.c_str());
     cJSON_AddItemToArray(list, obj);
     return list;
-}
-
-std::string example_path(const std::string &type) { return std::string(APP_S2J_SOURCE_DIR) + "/examples/" + type + ".json"; }
-// An example file holds the text as the library writes it, and a final newline.
-std::string example(const std::string &type) {
-    std::string text = read_file(example_path(type));
-    if (!text.empty() && text.back() == '\n') text.pop_back();
-    return text;
 }
 
 const std::string k2100(2100, 'q');
@@ -346,62 +309,6 @@ TEST(MediaKeys, AudioEncodeParameterKeysInOrder) {
     EXPECT_EQ(keys_of(struct_to_json_AudioEncodeParameter(&r)),
               (std::vector<std::string>{"Channel", "Enable", "Codec", "Samplerate", "SameWithAudioInputSamplerate",
                                         "Bitrate"}));
-}
-
-// =============================================================================
-// Family sets
-// =============================================================================
-
-TEST(MediaFamilies, VideoInputCapabilitySetIsAnArrayLoadedFromAFileButNeverSaved) {
-    expect_families("VideoInputCapabilitySet", {false, true, false, false, false, true, false, false, false});
-}
-TEST(MediaFamilies, VideoInputInterfaceIsAnArrayLoadedAndSaved) {
-    expect_families("VideoInputInterface", {false, true, false, false, false, true, true, false, false});
-}
-TEST(MediaFamilies, VideoInputParameterHasArrayUpdateKeywordReadersAndArrayFiles) {
-    expect_families("VideoInputParameter", {false, true, true, false, false, true, true, true, true});
-}
-TEST(MediaFamilies, VideoInputStatusHasArraysAndTheGetKeywordReaderOnly) {
-    expect_families("VideoInputStatus", {false, true, false, false, false, false, false, false, true});
-}
-TEST(MediaFamilies, VideoInputVGAParameterHasKeyedUpdateButNoFileFamily) {
-    expect_families("VideoInputVGAParameter", {false, true, true, false, false, false, false, true, true});
-}
-TEST(MediaFamilies, VideoEncodeCapabilitySetIsAnArrayLoadedFromAFileButNeverSaved) {
-    expect_families("VideoEncodeCapabilitySet", {false, true, false, false, false, true, false, false, false});
-}
-TEST(MediaFamilies, VideoEncodeParameterHasArrayUpdateKeywordReadersAndArrayFiles) {
-    expect_families("VideoEncodeParameter", {false, true, true, false, false, true, true, true, true});
-}
-TEST(MediaFamilies, RequestIDRParameterHasTextFamiliesOnly) {
-    expect_families("RequestIDRParameter", {true, false, false, false, false, false, false, false, false});
-}
-TEST(MediaFamilies, VideoEncodeOSDCapabilitySetIsASingleRecordLoadedButNeverSaved) {
-    expect_families("VideoEncodeOSDCapabilitySet", {true, false, false, true, false, false, false, false, false});
-}
-TEST(MediaFamilies, VideoEncodeOSDParameterHasArrayUpdateKeywordReadersAndArrayFiles) {
-    expect_families("VideoEncodeOSDParameter", {false, true, true, false, false, true, true, true, true});
-}
-TEST(MediaFamilies, AudioInputCapabilitySetIsAnArrayLoadedFromAFileButNeverSaved) {
-    expect_families("AudioInputCapabilitySet", {false, true, false, false, false, true, false, false, false});
-}
-TEST(MediaFamilies, AudioInputInterfaceIsAnArrayLoadedAndSaved) {
-    expect_families("AudioInputInterface", {false, true, false, false, false, true, true, false, false});
-}
-TEST(MediaFamilies, AudioInputInterfaceParameterHasArrayUpdateKeywordReadersAndArrayFiles) {
-    expect_families("AudioInputInterfaceParameter", {false, true, true, false, false, true, true, true, true});
-}
-TEST(MediaFamilies, AudioInputParameterHasArrayUpdateKeywordReadersAndArrayFiles) {
-    expect_families("AudioInputParameter", {false, true, true, false, false, true, true, true, true});
-}
-TEST(MediaFamilies, AudioInputStatusHasArraysAndTheGetKeywordReaderOnly) {
-    expect_families("AudioInputStatus", {false, true, false, false, false, false, false, false, true});
-}
-TEST(MediaFamilies, AudioEncodeCapabilitySetIsASingleRecordLoadedButNeverSaved) {
-    expect_families("AudioEncodeCapabilitySet", {true, false, false, true, false, false, false, false, false});
-}
-TEST(MediaFamilies, AudioEncodeParameterHasArrayUpdateKeywordReadersAndArrayFiles) {
-    expect_families("AudioEncodeParameter", {false, true, true, false, false, true, true, true, true});
 }
 
 // =============================================================================
@@ -1135,7 +1042,7 @@ void expect_array_example(const char *type, int (*f2s_array)(const char *, T *, 
     T recs[4];
     std::memset(recs, 0, sizeof recs);
     uint32_t n = 4;
-    const std::string text = example(type);
+    const std::string text = example_text(type);
     if (f2s_array)
         ASSERT_EQ(f2s_array(example_path(type).c_str(), recs, &n), 0) << type;
     else
@@ -1185,23 +1092,23 @@ TEST(MediaExamples, EveryArrayExampleLoadsWithItsTypesReader) {
 TEST(MediaExamples, EverySingleRecordExampleLoadsWithItsTypesReader) {
     {
         RequestIDRParameter r{};
-        ASSERT_EQ(j2s_RequestIDRParameter(example("RequestIDRParameter").c_str(), &r), 0);
+        ASSERT_EQ(j2s_RequestIDRParameter(example_text("RequestIDRParameter").c_str(), &r), 0);
         Text again(s2j_RequestIDRParameter(&r, 1));
-        EXPECT_EQ(again.str(), example("RequestIDRParameter"));
+        EXPECT_EQ(again.str(), example_text("RequestIDRParameter"));
     }
     {
         VideoEncodeOSDCapabilitySet r{};
         ASSERT_EQ(f2s_VideoEncodeOSDCapabilitySet(example_path("VideoEncodeOSDCapabilitySet").c_str(), &r), 0);
         EXPECT_GT(r.OSDNumberPerChannel, 0u);
         Text again(s2j_VideoEncodeOSDCapabilitySet(&r, 1));
-        EXPECT_EQ(again.str(), example("VideoEncodeOSDCapabilitySet"));
+        EXPECT_EQ(again.str(), example_text("VideoEncodeOSDCapabilitySet"));
     }
     {
         AudioEncodeCapabilitySet r{};
         ASSERT_EQ(f2s_AudioEncodeCapabilitySet(example_path("AudioEncodeCapabilitySet").c_str(), &r), 0);
         EXPECT_STRNE(r.SupportedAudioCodecList, "");
         Text again(s2j_AudioEncodeCapabilitySet(&r, 1));
-        EXPECT_EQ(again.str(), example("AudioEncodeCapabilitySet"));
+        EXPECT_EQ(again.str(), example_text("AudioEncodeCapabilitySet"));
     }
 }
 

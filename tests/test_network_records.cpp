@@ -12,10 +12,9 @@
 #include <string>
 #include <vector>
 
-#include "record_checks.h"
+#include "support.h"
 
 using namespace testing_support;
-using namespace record_checks;
 
 namespace {
 
@@ -117,7 +116,7 @@ TEST(NetworkExamples, EveryExampleFileLoadsWithItsReaderAndIsTheEmittersOwnText)
     expect_example_reads("NetworkCapabilitySet", false, struct_to_json_NetworkCapabilitySet,
                          json_to_struct_NetworkCapabilitySet, &caps);
     NetworkCapabilitySet cap = {};
-    EXPECT_EQ(f2s_NetworkCapabilitySet(example("NetworkCapabilitySet").c_str(), &cap), 0);
+    EXPECT_EQ(f2s_NetworkCapabilitySet(example_path("NetworkCapabilitySet").c_str(), &cap), 0);
     EXPECT_EQ(std::memcmp(&cap, &caps[0], sizeof cap), 0);
 
     std::vector<NetworkInterface> ifs;
@@ -129,7 +128,7 @@ TEST(NetworkExamples, EveryExampleFileLoadsWithItsReaderAndIsTheEmittersOwnText)
                          json_to_struct_NetworkInterfaceStatus, &st);
     uint32_t n = 4;
     NetworkInterfaceStatus st_arr[4] = {};
-    EXPECT_EQ(j2s_array_NetworkInterfaceStatus(read_file(example("NetworkInterfaceStatus")).c_str(), st_arr, &n), 0);
+    EXPECT_EQ(j2s_array_NetworkInterfaceStatus(read_file(example_path("NetworkInterfaceStatus")).c_str(), st_arr, &n), 0);
     EXPECT_EQ(n, st.size());
 
     std::vector<NetworkLANParameter> lans;
@@ -141,7 +140,7 @@ TEST(NetworkExamples, EveryExampleFileLoadsWithItsReaderAndIsTheEmittersOwnText)
     expect_example_reads("NetworkRouteParameter", false, struct_to_json_NetworkRouteParameter,
                          json_to_struct_NetworkRouteParameter, &routes);
     NetworkRouteParameter route = {};
-    EXPECT_EQ(f2s_NetworkRouteParameter(example("NetworkRouteParameter").c_str(), &route), 0);
+    EXPECT_EQ(f2s_NetworkRouteParameter(example_path("NetworkRouteParameter").c_str(), &route), 0);
     EXPECT_STREQ(route.PrimaryNetworkInterface, routes[0].PrimaryNetworkInterface);
 
     std::vector<NetworkWIFIParameter> wifis;
@@ -151,7 +150,7 @@ TEST(NetworkExamples, EveryExampleFileLoadsWithItsReaderAndIsTheEmittersOwnText)
 
     expect_example_reads("ScanWIFIHotspotParameter", false, struct_to_json_ScanWIFIHotspotParameter,
                          json_to_struct_ScanWIFIHotspotParameter);
-    Tree scan(cJSON_Parse(read_file(example("ScanWIFIHotspotParameter")).c_str()));
+    Tree scan(cJSON_Parse(read_file(example_path("ScanWIFIHotspotParameter")).c_str()));
     ScanWIFIHotspotParameter req = {};
     EXPECT_EQ(c2s_ScanWIFIHotspotParameter(scan.p, &req), 0);
     EXPECT_STREQ(req.InterfaceName, "wlan0");
@@ -174,49 +173,6 @@ TEST(NetworkExamples, EveryExampleFileLoadsWithItsReaderAndIsTheEmittersOwnText)
     expect_example_reads("SerialPortNetworkTransferParameter", true, struct_to_json_SerialPortNetworkTransferParameter,
                          json_to_struct_SerialPortNetworkTransferParameter, &links);
     expect_f2s_array("SerialPortNetworkTransferParameter", f2s_array_SerialPortNetworkTransferParameter, links);
-}
-
-// ---- Function sets ----------------------------------------------------------
-
-TEST(NetworkFunctions, CapabilitySetHasTextFamiliesAndALoaderButNoSaver) {
-    expect_exactly("NetworkCapabilitySet", {"s2j", "c2s", "j2s", "f2s"});
-}
-
-TEST(NetworkFunctions, InterfaceArraysLoadFromFilesButHaveNoSaverAndNoKeywordReaders) {
-    expect_exactly("NetworkInterface", {"s2j_array", "c2s_array", "j2s_array", "f2s_array"});
-}
-
-TEST(NetworkFunctions, InterfaceStatusHasArraysAndOnlyTheSingleKeyReader) {
-    expect_exactly("NetworkInterfaceStatus", {"s2j_array", "c2s_array", "j2s_array", "get"});
-}
-
-TEST(NetworkFunctions, LANParameterHasArraysKeyedUpdateBothKeywordReadersAndArrayFiles) {
-    expect_exactly("NetworkLANParameter",
-                   {"s2j_array", "c2s_array", "j2s_array", "update", "keyword", "get", "f2s_array", "s2f_array"});
-}
-
-TEST(NetworkFunctions, RouteParameterHasTextFamiliesAndBothFileFunctions) {
-    expect_exactly("NetworkRouteParameter", {"s2j", "c2s", "j2s", "f2s", "s2f"});
-}
-
-TEST(NetworkFunctions, WIFIParameterHasArraysKeyedUpdateBothKeywordReadersAndArrayFiles) {
-    expect_exactly("NetworkWIFIParameter",
-                   {"s2j_array", "c2s_array", "j2s_array", "update", "keyword", "get", "f2s_array", "s2f_array"});
-}
-
-TEST(NetworkFunctions, ScanRequestHasOnlyC2s) { expect_exactly("ScanWIFIHotspotParameter", {"c2s"}); }
-
-TEST(NetworkFunctions, HotspotArraysLoadFromFilesButAreNeverSaved) {
-    expect_exactly("WIFIHotspot", {"s2j_array", "c2s_array", "j2s_array", "f2s_array"});
-}
-
-TEST(NetworkFunctions, SerialPortInterfaceArraysLoadFromFilesButAreNeverSaved) {
-    expect_exactly("SerialPortInterface", {"s2j_array", "c2s_array", "j2s_array", "f2s_array"});
-}
-
-TEST(NetworkFunctions, SerialPortSettingsHaveArraysKeyedUpdateBothKeywordReadersAndArrayFiles) {
-    for (const char *T : {"SerialPortParameter", "SerialPortNetworkTransferParameter"})
-        expect_exactly(T, {"s2j_array", "c2s_array", "j2s_array", "update", "keyword", "get", "f2s_array", "s2f_array"});
 }
 
 // ---- Network interfaces and LAN ---------------------------------------------
@@ -308,7 +264,7 @@ TEST(NetworkLANParameter, MTUSizeGivenAsTextFailsTheArrayReaderWithItsDiagnostic
     uint32_t n = 2;
     StderrCapture err;
     EXPECT_EQ(j2s_array_NetworkLANParameter("[{\"InterfaceName\":\"wan\",\"MTUSize\":\"1500\"}]", arr, &n), -1);
-    EXPECT_EQ(err.text(), d(fam("NetworkLANParameter").line.c2s_array, "c2s_array_NetworkLANParameter",
+    EXPECT_EQ(err.text(), text_diag(lines_of("NetworkLANParameter").c2s_array, "c2s_array_NetworkLANParameter",
                             "json_to_struct_NetworkLANParameter failed!\n"));
     EXPECT_EQ(n, 2u);
     EXPECT_STREQ(arr[0].InterfaceName, "wan");
@@ -534,7 +490,7 @@ TEST(NetworkWIFIParameter, KeyedUpdateOfAnElementWithoutInterfaceNameIsRefused) 
     EXPECT_EQ(j2s_array_update_NetworkWIFIParameter(
                   "[{\"InterfaceName\":\"wlan1\",\"SSID\":\"Studio\"},{\"SSID\":\"Lobby\"}]", arr, &n),
               -2);
-    EXPECT_EQ(err.text(), d(fam("NetworkWIFIParameter").line.c2s_array_update, "c2s_array_update_NetworkWIFIParameter",
+    EXPECT_EQ(err.text(), text_diag(lines_of("NetworkWIFIParameter").c2s_array_update, "c2s_array_update_NetworkWIFIParameter",
                             "The keyword is not contained in an object of the json array!\n"));
     EXPECT_EQ(n, 2u);
     EXPECT_STREQ(arr[1].SSID, "Studio");  // the element before the refused one stays applied
@@ -547,7 +503,7 @@ TEST(NetworkWIFIParameter, KeyedUpdateOfAnElementWithNumericInterfaceNameIsRefus
     uint32_t n = 1;
     StderrCapture err;
     EXPECT_EQ(j2s_array_update_NetworkWIFIParameter("[{\"InterfaceName\":0,\"SSID\":\"x\"}]", arr, &n), -2);
-    EXPECT_EQ(err.text(), d(fam("NetworkWIFIParameter").line.c2s_array_update, "c2s_array_update_NetworkWIFIParameter",
+    EXPECT_EQ(err.text(), text_diag(lines_of("NetworkWIFIParameter").c2s_array_update, "c2s_array_update_NetworkWIFIParameter",
                             "The keyword is not contained in an object of the json array!\n"));
     EXPECT_STREQ(arr[0].SSID, "");
     Tree tree(cJSON_Parse("{\"InterfaceName\":0}"));
@@ -585,7 +541,7 @@ TEST(ScanWIFIHotspotParameter, C2sReportsATreeThatIsNotAnObjectOnItsLine) {
     ScanWIFIHotspotParameter r = {};
     StderrCapture err;
     EXPECT_EQ(c2s_ScanWIFIHotspotParameter(tree.p, &r), -2);
-    EXPECT_EQ(err.text(), d(fam("ScanWIFIHotspotParameter").line.c2s, "c2s_ScanWIFIHotspotParameter",
+    EXPECT_EQ(err.text(), text_diag(lines_of("ScanWIFIHotspotParameter").c2s, "c2s_ScanWIFIHotspotParameter",
                             "the cJSON pointer is not an object!\n"));
 }
 
@@ -594,7 +550,7 @@ TEST(ScanWIFIHotspotParameter, C2sReportsAMistypedFieldAsReaderFailure) {
     ScanWIFIHotspotParameter r = {};
     StderrCapture err;
     EXPECT_EQ(c2s_ScanWIFIHotspotParameter(tree.p, &r), -1);
-    EXPECT_EQ(err.text(), d(fam("ScanWIFIHotspotParameter").line.c2s, "c2s_ScanWIFIHotspotParameter",
+    EXPECT_EQ(err.text(), text_diag(lines_of("ScanWIFIHotspotParameter").c2s, "c2s_ScanWIFIHotspotParameter",
                             "json_to_struct_ScanWIFIHotspotParameter failed!\n"));
     EXPECT_STREQ(r.InterfaceName, "wlan0");
 }
@@ -641,7 +597,7 @@ TEST(SerialPortParameter, BaudrateGivenAsTextFailsTheArrayReaderWithItsDiagnosti
     StderrCapture err;
     const char *json = "[{\"Baudrate\":\"9600\"}]";
     EXPECT_EQ(j2s_array_SerialPortParameter_with_len(json, std::strlen(json), arr, &n), -1);
-    EXPECT_EQ(err.text(), d(fam("SerialPortParameter").line.c2s_array, "c2s_array_SerialPortParameter",
+    EXPECT_EQ(err.text(), text_diag(lines_of("SerialPortParameter").c2s_array, "c2s_array_SerialPortParameter",
                             "json_to_struct_SerialPortParameter failed!\n"));
 }
 
@@ -681,7 +637,7 @@ TEST(SerialPortNetworkTransferParameter, KeyedUpdateOfAnElementWithEnableButNoIn
     uint32_t n = 1;
     StderrCapture err;
     EXPECT_EQ(j2s_array_update_SerialPortNetworkTransferParameter("[{\"Enable\":1,\"LocalPort\":4001}]", arr, &n), -2);
-    EXPECT_EQ(err.text(), d(fam("SerialPortNetworkTransferParameter").line.c2s_array_update,
+    EXPECT_EQ(err.text(), text_diag(lines_of("SerialPortNetworkTransferParameter").c2s_array_update,
                             "c2s_array_update_SerialPortNetworkTransferParameter",
                             "The keyword is not contained in an object of the json array!\n"));
     EXPECT_EQ(arr[0].Enable, 0);

@@ -13,10 +13,9 @@
 #include <string>
 #include <vector>
 
-#include "record_checks.h"
+#include "support.h"
 
 using namespace testing_support;
-using namespace record_checks;
 
 namespace {
 
@@ -117,7 +116,7 @@ TEST(StorageExamples, EveryExampleFileLoadsWithItsReaderAndIsTheEmittersOwnText)
     expect_example_reads("DiskGroupCapabilitySet", false, struct_to_json_DiskGroupCapabilitySet,
                          json_to_struct_DiskGroupCapabilitySet, &caps);
     DiskGroupCapabilitySet cap = {};
-    EXPECT_EQ(f2s_DiskGroupCapabilitySet(example("DiskGroupCapabilitySet").c_str(), &cap), 0);
+    EXPECT_EQ(f2s_DiskGroupCapabilitySet(example_path("DiskGroupCapabilitySet").c_str(), &cap), 0);
     EXPECT_EQ(cap.MaxDiskGroupNumber, caps[0].MaxDiskGroupNumber);
 
     std::vector<DiskGroupParameter> groups;
@@ -128,7 +127,7 @@ TEST(StorageExamples, EveryExampleFileLoadsWithItsReaderAndIsTheEmittersOwnText)
     expect_example_reads("FormatDiskParameter", false, struct_to_json_FormatDiskParameter,
                          json_to_struct_FormatDiskParameter);
     FormatDiskParameter fmt = {};
-    EXPECT_EQ(j2s_FormatDiskParameter(read_file(example("FormatDiskParameter")).c_str(), &fmt), 0);
+    EXPECT_EQ(j2s_FormatDiskParameter(read_file(example_path("FormatDiskParameter")).c_str(), &fmt), 0);
     EXPECT_STREQ(fmt.StorageDeviceName, "mmcblk1");
 
     expect_example_reads("FormatDiskProgress", false, struct_to_json_FormatDiskProgress, json_to_struct_FormatDiskProgress);
@@ -139,7 +138,7 @@ TEST(StorageExamples, EveryExampleFileLoadsWithItsReaderAndIsTheEmittersOwnText)
     expect_example_reads("RecordCapabilitySet", false, struct_to_json_RecordCapabilitySet,
                          json_to_struct_RecordCapabilitySet, &rcaps);
     RecordCapabilitySet rcap = {};
-    EXPECT_EQ(f2s_RecordCapabilitySet(example("RecordCapabilitySet").c_str(), &rcap), 0);
+    EXPECT_EQ(f2s_RecordCapabilitySet(example_path("RecordCapabilitySet").c_str(), &rcap), 0);
     EXPECT_EQ(std::memcmp(&rcap, &rcaps[0], sizeof rcap), 0);
 
     std::vector<RecordParameter> recs;
@@ -162,46 +161,6 @@ TEST(StorageExamples, EveryExampleFileLoadsWithItsReaderAndIsTheEmittersOwnText)
     expect_example_reads("SnapshotInputParameter", false, struct_to_json_SnapshotInputParameter,
                          json_to_struct_SnapshotInputParameter);
     expect_example_reads("SnapshotResult", false, struct_to_json_SnapshotResult, json_to_struct_SnapshotResult);
-}
-
-// ---- Function sets ----------------------------------------------------------
-
-TEST(StorageFunctions, StorageInterfaceHasItsEmitterAndReaderAndNothingElse) {
-    expect_exactly("StorageInterface", {});
-}
-
-TEST(StorageFunctions, StorageDeviceArraysLoadFromFilesButAreNeverSaved) {
-    expect_exactly("StorageDevice", {"s2j_array", "c2s_array", "j2s_array", "f2s_array"});
-}
-
-TEST(StorageFunctions, StatusRecordsHaveArraysAndOnlyTheSingleKeyReader) {
-    for (const char *T : {"StorageDeviceStatus", "RecordStatus", "SnapshotStatus"})
-        expect_exactly(T, {"s2j_array", "c2s_array", "j2s_array", "get"});
-}
-
-TEST(StorageFunctions, CapabilitySetsLoadFromFilesButHaveNoSaver) {
-    expect_exactly("DiskGroupCapabilitySet", {"s2j", "c2s", "j2s", "f2s"});
-    expect_exactly("RecordCapabilitySet", {"s2j", "c2s", "j2s", "f2s"});
-    expect_exactly("SnapshotCapabilitySet", {"s2j_array", "c2s_array", "j2s_array", "f2s_array"});
-}
-
-TEST(StorageFunctions, KeyedSettingsHaveArraysKeyedUpdateBothKeywordReadersAndArrayFiles) {
-    for (const char *T : {"DiskGroupParameter", "RecordParameter", "SnapshotParameter"})
-        expect_exactly(T, {"s2j_array", "c2s_array", "j2s_array", "update", "keyword", "get", "f2s_array", "s2f_array"});
-}
-
-TEST(StorageFunctions, FormatAndRemoveRequestsAreReadButNeverMadeIntoText) {
-    expect_exactly("FormatDiskParameter", {"c2s", "j2s"});
-    expect_exactly("RemoveStorageDeviceParameter", {"c2s", "j2s"});
-}
-
-TEST(StorageFunctions, FormatProgressHasTextFamiliesAndTheSingleKeyReader) {
-    expect_exactly("FormatDiskProgress", {"s2j", "c2s", "j2s", "get"});
-}
-
-TEST(StorageFunctions, SnapshotRequestIsReadFromATreeOnlyAndItsAnswerOnlyMadeIntoText) {
-    expect_exactly("SnapshotInputParameter", {"c2s"});
-    expect_exactly("SnapshotResult", {"s2j"});
 }
 
 // ---- Storage devices and disk groups ------------------------------------------
@@ -302,7 +261,7 @@ TEST(DiskGroupParameter, KeyedUpdateOfAnElementWithoutStorageDeviceNameIsRefused
     uint32_t n = 1;
     StderrCapture err;
     EXPECT_EQ(j2s_array_update_DiskGroupParameter("[{\"GroupID\":2}]", arr, &n), -2);
-    EXPECT_EQ(err.text(), d(fam("DiskGroupParameter").line.c2s_array_update, "c2s_array_update_DiskGroupParameter",
+    EXPECT_EQ(err.text(), text_diag(lines_of("DiskGroupParameter").c2s_array_update, "c2s_array_update_DiskGroupParameter",
                             "The keyword is not contained in an object of the json array!\n"));
     EXPECT_EQ(arr[0].GroupID, 0);
     EXPECT_EQ(n, 1u);
@@ -429,7 +388,7 @@ TEST(RemoveStorageDeviceParameter, RequestIsReadAndAWrongTypeIsReportedOnTheC2sL
     EXPECT_STREQ(r.StorageDeviceName, "mmcblk1");
     StderrCapture err;
     EXPECT_EQ(j2s_RemoveStorageDeviceParameter("{\"StorageDeviceName\":7}", &r), -1);
-    EXPECT_EQ(err.text(), d(fam("RemoveStorageDeviceParameter").line.c2s, "c2s_RemoveStorageDeviceParameter",
+    EXPECT_EQ(err.text(), text_diag(lines_of("RemoveStorageDeviceParameter").c2s, "c2s_RemoveStorageDeviceParameter",
                             "json_to_struct_RemoveStorageDeviceParameter failed!\n"));
     EXPECT_STREQ(r.StorageDeviceName, "mmcblk1");
 }
@@ -513,7 +472,7 @@ TEST(RecordParameter, KeyedUpdateWithoutChannelIsRefusedOnTheUpdateLine) {
     uint32_t n = 1;
     StderrCapture err;
     EXPECT_EQ(j2s_array_update_RecordParameter("[{\"StreamIndex\":1}]", arr, &n), -2);
-    EXPECT_EQ(err.text(), d(fam("RecordParameter").line.c2s_array_update, "c2s_array_update_RecordParameter",
+    EXPECT_EQ(err.text(), text_diag(lines_of("RecordParameter").c2s_array_update, "c2s_array_update_RecordParameter",
                             "The keyword is not contained in an object of the json array!\n"));
     EXPECT_EQ(arr[0].StreamIndex, 0u);
 }
@@ -665,7 +624,7 @@ TEST(SnapshotResult, ImageURLOf256CharactersWithoutNulIsEmittedWholeAndReadBackA
 TEST(SnapshotResult, S2jReportsANullRecordOnItsLine) {
     StderrCapture err;
     EXPECT_EQ(s2j_SnapshotResult(nullptr, 1), nullptr);
-    EXPECT_EQ(err.text(), d(fam("SnapshotResult").line.s2j, "s2j_SnapshotResult", "struct_ptr is empty!\n"));
+    EXPECT_EQ(err.text(), text_diag(lines_of("SnapshotResult").s2j, "s2j_SnapshotResult", "struct_ptr is empty!\n"));
 }
 
 TEST(SnapshotInputParameter, RequestIsReadFromATree) {
@@ -682,7 +641,7 @@ TEST(SnapshotInputParameter, C2sReportsANullRecordAfterCheckingTheTree) {
     Tree tree(cJSON_Parse("{\"Channel\":1}"));
     StderrCapture err;
     EXPECT_EQ(c2s_SnapshotInputParameter(tree.p, nullptr), -2);
-    EXPECT_EQ(err.text(), d(fam("SnapshotInputParameter").line.c2s, "c2s_SnapshotInputParameter", "struct_ptr is empty!\n"));
+    EXPECT_EQ(err.text(), text_diag(lines_of("SnapshotInputParameter").c2s, "c2s_SnapshotInputParameter", "struct_ptr is empty!\n"));
 }
 
 TEST(SnapshotParameter, KeyedUpdateMatchesTheChannelAndArrayFilesKeepTheSettings) {

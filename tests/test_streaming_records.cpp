@@ -1,6 +1,6 @@
 // Streaming records: what is particular to each type (layouts, capacities,
 // signed and unsigned fields of the same key, the 16-bit RTSP server ports,
-// the two-key updates of the protocol streams, irregular family sets) and
+// the two-key updates of the protocol streams) and
 // the integer lists of StreamingInputUseCount with its lenient and strict
 // readers.  What every type shares is covered by test_every_type.
 #include <dlfcn.h>
@@ -44,12 +44,6 @@ int line_of(const char *type, int s2j::Families::Lines::*member) {
     return t != nullptr ? t->fam.line.*member : -1;
 }
 
-std::string example(const std::string &type) {
-    return read_file(std::string(APP_S2J_SOURCE_DIR) + "/examples/" + type + ".json");
-}
-std::string example_path(const std::string &type) {
-    return std::string(APP_S2J_SOURCE_DIR) + "/examples/" + type + ".json";
-}
 
 // The member `key` of an emitted object.
 const cJSON *member(const Tree &t, const char *key) { return cJSON_GetObjectItemCaseSensitive(t.p, key); }
@@ -206,105 +200,6 @@ TEST(StreamingLayout, StreamingInputRecordsHaveTheirNaturalLayoutAndListCapaciti
     static_assert(sizeof(((StreamingInputUseCount *)0)->UseCountList) == 256 * sizeof(uint32_t), "");
     static_assert(std::is_same<decltype(StreamingInputUseCount::IndexList), uint32_t[256]>::value, "");
     SUCCEED();
-}
-
-// ======================================================================
-// Family sets
-// ======================================================================
-
-void expect_text_family(const std::string &T, bool present) {
-    EXPECT_EQ(exported("s2j_" + T), present) << T;
-    EXPECT_EQ(exported("c2s_" + T), present) << T;
-    EXPECT_EQ(exported("j2s_" + T), present) << T;
-    EXPECT_EQ(exported("j2s_" + T + "_with_len"), present) << T;
-}
-void expect_array_family(const std::string &T, bool present) {
-    EXPECT_EQ(exported("s2j_array_" + T), present) << T;
-    EXPECT_EQ(exported("c2s_array_" + T), present) << T;
-    EXPECT_EQ(exported("j2s_array_" + T), present) << T;
-    EXPECT_EQ(exported("j2s_array_" + T + "_with_len"), present) << T;
-}
-void expect_update_family(const std::string &T, bool present) {
-    EXPECT_EQ(exported("c2s_array_update_" + T), present) << T;
-    EXPECT_EQ(exported("j2s_array_update_" + T), present) << T;
-    EXPECT_EQ(exported("j2s_array_update_" + T + "_with_len"), present) << T;
-}
-void expect_files(const std::string &T, bool f2s, bool s2f, bool f2s_array, bool s2f_array) {
-    EXPECT_EQ(exported("f2s_" + T), f2s) << T;
-    EXPECT_EQ(exported("s2f_" + T), s2f) << T;
-    EXPECT_EQ(exported("f2s_array_" + T), f2s_array) << T;
-    EXPECT_EQ(exported("s2f_array_" + T), s2f_array) << T;
-}
-void expect_keywords(const std::string &T, bool keyword, bool get) {
-    EXPECT_TRUE(exported("struct_to_json_" + T)) << T;
-    EXPECT_TRUE(exported("json_to_struct_" + T)) << T;
-    EXPECT_EQ(exported("json_to_struct_" + T + "Keyword"), keyword) << T;
-    EXPECT_EQ(exported("json_to_struct_Get" + T + "Keyword"), get) << T;
-}
-
-TEST(StreamingFamilies, CapabilitySetsAreLoadedFromFilesButHaveNoSaver) {
-    for (const char *T : {"StreamingOutputCapabilitySet", "RtspCapabilitySet", "RtmpCapabilitySet", "UdpCapabilitySet",
-                          "HttpStreamingCapabilitySet", "SrtStreamingCapabilitySet", "StreamingInputCapabilitySet"}) {
-        expect_text_family(T, true);
-        expect_array_family(T, false);
-        expect_update_family(T, false);
-        expect_files(T, true, false, false, false);
-        expect_keywords(T, false, false);
-    }
-}
-
-TEST(StreamingFamilies, OutputSwitchesAndServersAreLoadedAndSaved) {
-    for (const char *T : {"StreamingOutputParameter", "RtspServerParameter", "HttpStreamingServerParameter",
-                          "OnvifServerParameter", "WebServerParameter"}) {
-        expect_text_family(T, true);
-        expect_array_family(T, false);
-        expect_update_family(T, false);
-        expect_files(T, true, true, false, false);
-        expect_keywords(T, false, false);
-    }
-}
-
-TEST(StreamingFamilies, ProtocolStreamsExistOnlyAsArraysWithKeyedUpdateAndBothKeywordReaders) {
-    for (const char *T : {"RtspStreamingParameter", "RtmpStreamingParameter", "UdpStreamingParameter",
-                          "HttpStreamingParameter", "SrtStreamingParameter"}) {
-        expect_text_family(T, false);
-        expect_array_family(T, true);
-        expect_update_family(T, true);
-        expect_files(T, false, false, true, true);
-        expect_keywords(T, true, true);
-    }
-}
-
-TEST(StreamingFamilies, StreamingInputParameterIsAKeyedArrayKeptInFiles) {
-    expect_text_family("StreamingInputParameter", false);
-    expect_array_family("StreamingInputParameter", true);
-    expect_update_family("StreamingInputParameter", true);
-    expect_files("StreamingInputParameter", false, false, true, true);
-    expect_keywords("StreamingInputParameter", true, true);
-}
-
-TEST(StreamingFamilies, StreamingInputStatusHasArraysAndTheSingleKeyReaderButNoUpdateOrFile) {
-    expect_text_family("StreamingInputStatus", false);
-    expect_array_family("StreamingInputStatus", true);
-    expect_update_family("StreamingInputStatus", false);
-    expect_files("StreamingInputStatus", false, false, false, false);
-    expect_keywords("StreamingInputStatus", false, true);
-}
-
-TEST(StreamingFamilies, StreamingInputStatusChangeIsTextOnly) {
-    expect_text_family("StreamingInputStatusChange", true);
-    expect_array_family("StreamingInputStatusChange", false);
-    expect_update_family("StreamingInputStatusChange", false);
-    expect_files("StreamingInputStatusChange", false, false, false, false);
-    expect_keywords("StreamingInputStatusChange", false, false);
-}
-
-TEST(StreamingFamilies, StreamingInputUseCountIsTextOnlyWithItsStrictReader) {
-    expect_text_family("StreamingInputUseCount", true);
-    expect_array_family("StreamingInputUseCount", false);
-    expect_update_family("StreamingInputUseCount", false);
-    expect_files("StreamingInputUseCount", false, false, false, false);
-    expect_keywords("StreamingInputUseCount", true, false);
 }
 
 // ======================================================================
@@ -570,7 +465,7 @@ TYPED_TEST(ProtocolStream, ExampleFileLoadsAndIsWhatTheArrayEmitterWrites) {
     std::memset(static_cast<void *>(a), 0, sizeof a);
     ASSERT_EQ(Stream<T>::f2s_array(example_path(name).c_str(), a, &n), 0);
     Text text(Stream<T>::s2j_array(a, n, 1));
-    EXPECT_EQ(example(name), text.str() + "\n");
+    EXPECT_EQ(read_file(example_path(name)), text.str() + "\n");
     // Saved again and reloaded, the streams are the same.
     std::string path = temp_dir() + "/" + name + ".json";
     ASSERT_EQ(Stream<T>::s2f_array(path.c_str(), a, n), 0);
@@ -1293,7 +1188,7 @@ TEST(StreamingInputUseCount, StrictReaderAcceptsAWholeRecordWithSkippedItems) {
         std::memset(static_cast<void *>(&r), 0, sizeof r);                 \
         ASSERT_EQ(load, 0) << #T;                                          \
         Text text(s2j_##T(&r, 1));                                         \
-        EXPECT_EQ(example(#T), text.str() + "\n") << #T;                   \
+        EXPECT_EQ(read_file(example_path(#T)), text.str() + "\n") << #T;                   \
     } while (0)
 
 TEST(StreamingExamples, CapabilitySetsLoadFromTheirExampleFiles) {
@@ -1315,9 +1210,9 @@ TEST(StreamingExamples, SettingsLoadFromTheirExampleFiles) {
 }
 
 TEST(StreamingExamples, NoticesAndUseCountsLoadFromTheirExampleTexts) {
-    std::string change = example("StreamingInputStatusChange");
+    std::string change = read_file(example_path("StreamingInputStatusChange"));
     EXPECT_SINGLE_EXAMPLE(StreamingInputStatusChange, j2s_StreamingInputStatusChange(change.c_str(), &r));
-    std::string use = example("StreamingInputUseCount");
+    std::string use = read_file(example_path("StreamingInputUseCount"));
     EXPECT_SINGLE_EXAMPLE(StreamingInputUseCount, j2s_StreamingInputUseCount_with_len(use.c_str(), use.size(), &r));
     StreamingInputUseCount strict = {};
     Tree t(cJSON_Parse(use.c_str()));
@@ -1330,11 +1225,11 @@ TEST(StreamingExamples, InputArraysLoadFromTheirExampleFiles) {
     ASSERT_EQ(f2s_array_StreamingInputParameter(example_path("StreamingInputParameter").c_str(), in, &n), 0);
     EXPECT_GE(n, 2u);
     Text a(s2j_array_StreamingInputParameter(in, n, 1));
-    EXPECT_EQ(example("StreamingInputParameter"), a.str() + "\n");
+    EXPECT_EQ(read_file(example_path("StreamingInputParameter")), a.str() + "\n");
 
     StreamingInputStatus st[4] = {};
     uint32_t m = 4;
-    std::string text = example("StreamingInputStatus");
+    std::string text = read_file(example_path("StreamingInputStatus"));
     ASSERT_EQ(j2s_array_StreamingInputStatus(text.c_str(), st, &m), 0);
     EXPECT_GE(m, 2u);
     Text b(s2j_array_StreamingInputStatus(st, m, 1));
