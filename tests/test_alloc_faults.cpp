@@ -19,8 +19,9 @@
 //   - the file reader's fopen or its text buffer: -15; the writer's fopen:
 //     -7; a text that cannot be made: -15 and the file left alone.
 // c2s, c2s_array and c2s_array_update allocate nothing, which is checked.
-// The replacement cannot coexist with a sanitizer's allocator, and valgrind
-// replaces the allocator itself: it runs in the plain build only.
+// The replacement cannot coexist with a sanitizer's allocator: it runs in
+// the plain build only (and under valgrind, which is told to leave it in
+// place and to watch the C library's allocator beneath it).
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <gtest/gtest.h>
