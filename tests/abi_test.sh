@@ -2,7 +2,8 @@
 # The library's ABI: the dynamic symbols it defines are exactly the committed
 # list (one name a line, sorted), and its soname carries the major version.
 # A symbol added or lost fails here until the list is updated on purpose:
-#   nm -D --defined-only build/apps/common/src/app_s2j/libapp_s2j.so | awk '{print $3}' | LC_ALL=C sort > apps/common/src/app_s2j/app_s2j.symbols
+#   nm -D --defined-only build/apps/common/src/app_s2j/libapp_s2j.so | awk '{print $3}' | LC_ALL=C sort \
+#     > apps/common/src/app_s2j/app_s2j.symbols
 # usage: abi_test.sh LIBRARY SYMBOL_LIST SONAME
 set -u
 lib=$1

@@ -4,9 +4,8 @@
 # usage: schema_test.sh TOOL
 set -u
 tool=$1
-tmp=$(mktemp -d)
-trap 'rm -rf "$tmp"' EXIT
 . "$(dirname "$0")/shell_checks.sh"
+scratch_dir
 
 synopsis='usage: app_s2j schema TYPE [--update] | schema --all
 (app_s2j schema --help tells more)'
@@ -63,7 +62,9 @@ usage_case "app_s2j: --all takes no TYPE
 $synopsis" --all DeviceInfo
 usage_case "app_s2j: --all already holds every update schema; drop --update
 $synopsis" --all --update
-usage_case "app_s2j: DeviceInfo has no keyed update (c2s_array_update); --update applies only to the types whose families in 'app_s2j types' include it
+no_update="app_s2j: DeviceInfo has no keyed update (c2s_array_update); --update applies only to the types"
+no_update="$no_update whose families in 'app_s2j types' include it"
+usage_case "$no_update
 $synopsis" DeviceInfo --update
 usage_case "app_s2j: unknown record type 'NoSuchType' (app_s2j types lists them)" NoSuchType
 

@@ -142,6 +142,25 @@ std::string example_text(const std::string &type) {
     return text;
 }
 
+std::string string_member(const cJSON *object, const char *key) {
+    const cJSON *m = cJSON_GetObjectItemCaseSensitive(object, key);
+    EXPECT_TRUE(cJSON_IsString(m)) << key;
+    return m != nullptr && m->valuestring != nullptr ? m->valuestring : "<absent>";
+}
+
+void expect_integer_key_reader(int (*get)(uint32_t *, const cJSON *), const char *doc, uint32_t want,
+                               std::initializer_list<const char *> refused) {
+    uint32_t key = 0;
+    Tree tree(cJSON_Parse(doc));
+    EXPECT_EQ(get(&key, tree.p), 1) << doc;
+    EXPECT_EQ(key, want) << doc;
+    for (const char *other : refused) {
+        Tree no(cJSON_Parse(other));
+        EXPECT_EQ(get(&key, no.p), 0) << other;
+        EXPECT_EQ(key, want) << other;
+    }
+}
+
 std::string print_compact(const cJSON *tree) { return Text(cJSON_PrintUnformatted(tree)).str(); }
 
 std::string compact(cJSON *tree) {

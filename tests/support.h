@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <initializer_list>
 #include <string>
 #include <type_traits>
 #include <vector>
@@ -172,6 +173,54 @@ void expect_f2s_array(const char *type, int (*f2s_array)(const char *, T *, uint
     ASSERT_EQ(f2s_array(path.c_str(), got.data(), &n), 0) << type;
     EXPECT_EQ(std::memcmp(got.data(), want.data(), n * sizeof(T)), 0) << type;
 }
+
+// A record whose every byte is `fill`, so that untouched bytes show.
+template <class T>
+T pattern(unsigned char fill = 0xA5) {
+    T r;
+    std::memset(static_cast<void *>(&r), fill, sizeof r);
+    return r;
+}
+
+// The string member `key` of an object, with a test failure where it is
+// absent or not a string.
+std::string string_member(const cJSON *object, const char *key);
+
+// A text of `len` characters c (len >= N) for the string member `key` is
+// stored as its first N - 1, through the type's reader of a tree, or its
+// text reader (`j2s`), from a record of 0xA5 bytes.
+template <class T, size_t N>
+void expect_read_as_prefix(int (*read)(T *, const cJSON *), char (T::*member)[N], const char *key, size_t len,
+                           char c) {
+    T r = pattern<T>();
+    const std::string doc = std::string("{\"") + key + "\": \"" + std::string(len, c) + "\"}";
+    Tree tree(cJSON_Parse(doc.c_str()));
+    ASSERT_EQ(read(&r, tree.p), 1) << key << " " << len;
+    EXPECT_EQ(std::string(r.*member), std::string(N - 1, c)) << key << " " << len;
+}
+template <class T, size_t N>
+void expect_read_as_prefix(int (*j2s)(const char *, T *), char (T::*member)[N], const char *key, size_t len, char c) {
+    T r = pattern<T>();
+    const std::string doc = std::string("{\"") + key + "\": \"" + std::string(len, c) + "\"}";
+    ASSERT_EQ(j2s(doc.c_str(), &r), 0) << key << " " << len;
+    EXPECT_EQ(std::string(r.*member), std::string(N - 1, c)) << key << " " << len;
+}
+
+// The string member `key` filled with c, without a NUL, is emitted as all
+// N characters.
+template <class T, size_t N>
+void expect_emitted_whole(cJSON *(*emit)(const T *), char (T::*member)[N], const char *key, char c) {
+    T r = pattern<T>(0);
+    std::memset(r.*member, c, N);
+    Tree tree(emit(&r));
+    EXPECT_EQ(string_member(tree.p, key), std::string(N, c)) << key;
+}
+
+// The single-key reader `get` of an integer first key reads `want` out of
+// the object `doc` (status 1), and refuses each of `refused` (status 0),
+// leaving the key as it was.
+void expect_integer_key_reader(int (*get)(uint32_t *, const cJSON *), const char *doc, uint32_t want,
+                               std::initializer_list<const char *> refused);
 
 }  // namespace testing_support
 

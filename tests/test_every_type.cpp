@@ -48,7 +48,8 @@ bool same(const TypeInfo *t, const void *a, const void *b) { return std::memcmp(
 bool same_values(const TypeInfo *t, const char *a, const char *b) {
     for (uint32_t i = 0; i < t->desc->field_count; ++i) {
         const Field &f = t->desc->fields[i];
-        int d = f.kind == Kind::Str ? std::strncmp(a + f.offset, b + f.offset, f.size) : std::memcmp(a + f.offset, b + f.offset, f.size);
+        int d = f.kind == Kind::Str ? std::strncmp(a + f.offset, b + f.offset, f.size)
+                                    : std::memcmp(a + f.offset, b + f.offset, f.size);
         if (d != 0) return false;
     }
     return true;
@@ -167,7 +168,10 @@ TEST_P(EveryType, MemberOfWrongTypeStopsReaderThereLeavingEarlierFieldsWritten) 
         for (uint32_t i = 0; i < t->desc->field_count; ++i) {
             const Field &f = t->desc->fields[i];
             const char *want = (i < bad ? src : before).at(0, t) + f.offset;
-            EXPECT_EQ(f.kind == Kind::Str ? std::strncmp(dst.at(0, t) + f.offset, want, f.size) : std::memcmp(dst.at(0, t) + f.offset, want, f.size), 0) << "bad " << bf.key << ", field " << f.key;
+            EXPECT_EQ(f.kind == Kind::Str ? std::strncmp(dst.at(0, t) + f.offset, want, f.size)
+                                          : std::memcmp(dst.at(0, t) + f.offset, want, f.size),
+                      0)
+                << "bad " << bf.key << ", field " << f.key;
         }
     }
 }
@@ -306,8 +310,9 @@ TEST_P(KeyedArrayType, KeyedUpdateAppliesElementToTheRecordWithItsKeys) {
         EXPECT_EQ(f.j2s_array_update("[{}]", b.p(), &n), -2);
         EXPECT_EQ(n, 3u);
         EXPECT_EQ(b.bytes, a.bytes);
-        EXPECT_EQ(err.text(), diag(text_list_file(), f.line.c2s_array_update, std::string("c2s_array_update_") + t->name,
-                                   "The keyword is not contained in an object of the json array!\n"));
+        EXPECT_EQ(err.text(),
+                  diag(text_list_file(), f.line.c2s_array_update, std::string("c2s_array_update_") + t->name,
+                       "The keyword is not contained in an object of the json array!\n"));
     }
 }
 
@@ -324,7 +329,8 @@ TEST_P(KeywordType, KeywordReadersReadTheKeysOfAnEmittedRecord) {
         for (uint32_t k = 0; k < t->desc->key_count; ++k) {
             const s2j::Key &key = t->desc->keys[k];
             size_t n = key.field.kind == Kind::Str ? std::strlen(a.at(0, t) + key.field.offset) + 1 : 4;
-            EXPECT_EQ(std::memcmp(kw.data() + key.keyword_offset, a.at(0, t) + key.field.offset, n), 0) << key.field.key;
+            EXPECT_EQ(std::memcmp(kw.data() + key.keyword_offset, a.at(0, t) + key.field.offset, n), 0)
+                << key.field.key;
         }
         EXPECT_EQ(h->keyword(kw.data(), empty.p), 0);
     }
@@ -390,7 +396,9 @@ TEST_P(EveryType, EveryFamilyMemberReportsNullArgumentsUnderItsOwnNameAndLine) {
         call();
         EXPECT_EQ(err.text(), want);
     };
-    if (f.s2j) check([&] { EXPECT_EQ(f.s2j(nullptr, 1), nullptr); }, diag(L, f.line.s2j, "s2j_" + T, "struct_ptr is empty!\n"));
+    if (f.s2j)
+        check([&] { EXPECT_EQ(f.s2j(nullptr, 1), nullptr); },
+              diag(L, f.line.s2j, "s2j_" + T, "struct_ptr is empty!\n"));
     if (f.c2s)
         check([&] { EXPECT_EQ(f.c2s(nullptr, nullptr), -2); },
               diag(L, f.line.c2s, "c2s_" + T, "the cJSON pointer is not an object!\n"));
@@ -414,8 +422,9 @@ TEST_P(EveryType, EveryFamilyMemberReportsNullArgumentsUnderItsOwnNameAndLine) {
                    "json_str or json_str_len or struct_array_size is empty!\n"));
     }
     if (f.c2s_array_update)
-        check([&] { EXPECT_EQ(f.c2s_array_update(nullptr, nullptr, nullptr), -2); },
-              diag(L, f.line.c2s_array_update, "c2s_array_update_" + T, "struct_array or struct_array_size is empty!\n"));
+        check(
+            [&] { EXPECT_EQ(f.c2s_array_update(nullptr, nullptr, nullptr), -2); },
+            diag(L, f.line.c2s_array_update, "c2s_array_update_" + T, "struct_array or struct_array_size is empty!\n"));
     if (f.j2s_array_update) {
         check([&] { EXPECT_EQ(f.j2s_array_update(nullptr, nullptr, nullptr), -2); },
               diag(L, f.line.j2s_array_update, "j2s_array_update_" + T,
@@ -424,8 +433,12 @@ TEST_P(EveryType, EveryFamilyMemberReportsNullArgumentsUnderItsOwnNameAndLine) {
               diag(L, f.line.j2s_array_update, "j2s_array_update_" + T + "_with_len",
                    "json_str or json_str_len or struct_array or struct_array_size is empty!\n"));
     }
-    if (f.f2s) check([&] { EXPECT_EQ(f.f2s(nullptr, nullptr), -2); }, diag(F, f.line.f2s, "f2s_" + T, "fine_name is empty!\n"));
-    if (f.s2f) check([&] { EXPECT_EQ(f.s2f(nullptr, nullptr), -2); }, diag(F, f.line.s2f, "s2f_" + T, "fine_name is empty!\n"));
+    if (f.f2s)
+        check([&] { EXPECT_EQ(f.f2s(nullptr, nullptr), -2); },
+              diag(F, f.line.f2s, "f2s_" + T, "fine_name is empty!\n"));
+    if (f.s2f)
+        check([&] { EXPECT_EQ(f.s2f(nullptr, nullptr), -2); },
+              diag(F, f.line.s2f, "s2f_" + T, "fine_name is empty!\n"));
     if (f.f2s_array)
         check([&] { EXPECT_EQ(f.f2s_array(nullptr, nullptr, nullptr), -2); },
               diag(F, f.line.f2s_array, "f2s_array_" + T, "fine_name is empty!\n"));
@@ -440,25 +453,29 @@ TEST_P(EveryType, ExportsExactlyTheFamilyMembersTheRegistryLists) {
     const TypeInfo *t = GetParam();
     const s2j::Families &f = t->fam;
     const std::string T = t->name;
-    EXPECT_TRUE(exported("struct_to_json_" + T));
-    EXPECT_TRUE(exported("json_to_struct_" + T));
-    EXPECT_EQ(exported("s2j_" + T), f.s2j != nullptr);
-    EXPECT_EQ(exported("c2s_" + T), f.c2s != nullptr);
-    EXPECT_EQ(exported("j2s_" + T), f.j2s != nullptr);
-    EXPECT_EQ(exported("j2s_" + T + "_with_len"), f.j2s != nullptr);
-    EXPECT_EQ(exported("s2j_array_" + T), f.s2j_array != nullptr);
-    EXPECT_EQ(exported("c2s_array_" + T), f.c2s_array != nullptr);
-    EXPECT_EQ(exported("j2s_array_" + T), f.j2s_array != nullptr);
-    EXPECT_EQ(exported("j2s_array_" + T + "_with_len"), f.j2s_array != nullptr);
-    EXPECT_EQ(exported("c2s_array_update_" + T), f.c2s_array_update != nullptr);
-    EXPECT_EQ(exported("j2s_array_update_" + T), f.j2s_array_update != nullptr);
-    EXPECT_EQ(exported("j2s_array_update_" + T + "_with_len"), f.j2s_array_update != nullptr);
-    EXPECT_EQ(exported("f2s_" + T), f.f2s != nullptr);
-    EXPECT_EQ(exported("s2f_" + T), f.s2f != nullptr);
-    EXPECT_EQ(exported("f2s_array_" + T), f.f2s_array != nullptr);
-    EXPECT_EQ(exported("s2f_array_" + T), f.s2f_array != nullptr);
-    EXPECT_EQ(exported("json_to_struct_" + T + "Keyword"), t->hooks->keyword != nullptr);
-    EXPECT_EQ(exported("json_to_struct_Get" + T + "Keyword"), t->hooks->get_keyword != nullptr);
+    // Each exported name, and whether the registry has that member.
+    const std::vector<std::pair<std::string, bool>> names = {
+        {"struct_to_json_" + T, true},
+        {"json_to_struct_" + T, true},
+        {"s2j_" + T, f.s2j != nullptr},
+        {"c2s_" + T, f.c2s != nullptr},
+        {"j2s_" + T, f.j2s != nullptr},
+        {"j2s_" + T + "_with_len", f.j2s != nullptr},
+        {"s2j_array_" + T, f.s2j_array != nullptr},
+        {"c2s_array_" + T, f.c2s_array != nullptr},
+        {"j2s_array_" + T, f.j2s_array != nullptr},
+        {"j2s_array_" + T + "_with_len", f.j2s_array != nullptr},
+        {"c2s_array_update_" + T, f.c2s_array_update != nullptr},
+        {"j2s_array_update_" + T, f.j2s_array_update != nullptr},
+        {"j2s_array_update_" + T + "_with_len", f.j2s_array_update != nullptr},
+        {"f2s_" + T, f.f2s != nullptr},
+        {"s2f_" + T, f.s2f != nullptr},
+        {"f2s_array_" + T, f.f2s_array != nullptr},
+        {"s2f_array_" + T, f.s2f_array != nullptr},
+        {"json_to_struct_" + T + "Keyword", t->hooks->keyword != nullptr},
+        {"json_to_struct_Get" + T + "Keyword", t->hooks->get_keyword != nullptr},
+    };
+    for (const auto &[name, has] : names) EXPECT_EQ(exported(name), has) << name;
     // Where a text family and a file family both exist they stand together:
     // a file reader needs the text reader it calls.
     EXPECT_TRUE(!f.f2s || f.j2s);

@@ -157,17 +157,20 @@ TEST(Files, NullFileNameIsRefusedUnderTheFileFamilysOwnLine) {
     {
         StderrCapture err;
         EXPECT_EQ(f2s_CrontabCapabilitySet(nullptr, &c), -2);
-        EXPECT_EQ(err.text(), diag(file_list_file(), kF2sCapabilityLine, "f2s_CrontabCapabilitySet", "fine_name is empty!\n"));
+        EXPECT_EQ(err.text(),
+                  diag(file_list_file(), kF2sCapabilityLine, "f2s_CrontabCapabilitySet", "fine_name is empty!\n"));
     }
     {
         StderrCapture err;
         EXPECT_EQ(f2s_array_CrontabParameter(nullptr, tasks, &n), -2);
-        EXPECT_EQ(err.text(), diag(file_list_file(), kF2sArrayLine, "f2s_array_CrontabParameter", "fine_name is empty!\n"));
+        EXPECT_EQ(err.text(),
+                  diag(file_list_file(), kF2sArrayLine, "f2s_array_CrontabParameter", "fine_name is empty!\n"));
     }
     {
         StderrCapture err;
         EXPECT_EQ(s2f_array_CrontabParameter(nullptr, tasks, 1), -2);
-        EXPECT_EQ(err.text(), diag(file_list_file(), kS2fArrayLine, "s2f_array_CrontabParameter", "fine_name is empty!\n"));
+        EXPECT_EQ(err.text(),
+                  diag(file_list_file(), kS2fArrayLine, "s2f_array_CrontabParameter", "fine_name is empty!\n"));
     }
 }
 
@@ -177,7 +180,8 @@ TEST(Files, ReaderFailureInAFileIsReportedByC2sAndReturnsMinusOne) {
     CrontabCapabilitySet c = {};
     StderrCapture err;
     EXPECT_EQ(f2s_CrontabCapabilitySet(path.c_str(), &c), -1);
-    EXPECT_EQ(err.text(), diag(text_list_file(), 7, "c2s_CrontabCapabilitySet", "json_to_struct_CrontabCapabilitySet failed!\n"));
+    EXPECT_EQ(err.text(),
+              diag(text_list_file(), 7, "c2s_CrontabCapabilitySet", "json_to_struct_CrontabCapabilitySet failed!\n"));
 }
 
 TEST(Files, ArrayFileReadWithSmallerCapacityFillsOnlyThat) {

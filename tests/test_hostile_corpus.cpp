@@ -133,7 +133,10 @@ enum class Shape { Rejected, Object, Array, Other };
 Shape shape(const std::string &bytes, bool with_len) {
     cJSON *t = with_len ? (bytes.empty() ? nullptr : cJSON_ParseWithLength(bytes.data(), bytes.size()))
                         : cJSON_Parse(bytes.c_str());
-    Shape s = t == nullptr ? Shape::Rejected : cJSON_IsObject(t) ? Shape::Object : cJSON_IsArray(t) ? Shape::Array : Shape::Other;
+    Shape s = t == nullptr        ? Shape::Rejected
+              : cJSON_IsObject(t) ? Shape::Object
+              : cJSON_IsArray(t)  ? Shape::Array
+                                  : Shape::Other;
     cJSON_Delete(t);
     return s;
 }

@@ -33,7 +33,9 @@ TEST(KeyedUpdate, ElementWithKnownKeyUpdatesItsRecordAndUnknownKeyIsIgnored) {
     Tasks a;
     uint32_t n = 3;
     StderrCapture err;
-    EXPECT_EQ(j2s_array_update_CrontabParameter("[{\"Index\": 3, \"Enable\": 1}, {\"Index\": 7, \"Enable\": 1}]", a.t, &n), 0);
+    EXPECT_EQ(
+        j2s_array_update_CrontabParameter("[{\"Index\": 3, \"Enable\": 1}, {\"Index\": 7, \"Enable\": 1}]", a.t, &n),
+        0);
     EXPECT_EQ(err.text(), "");
     EXPECT_EQ(n, 1u);
     EXPECT_EQ(a.t[2].Enable, 1);
@@ -54,8 +56,8 @@ TEST(KeyedUpdate, ElementWithoutItsKeyIsRefusedAfterEarlierElementsWereApplied) 
     Tasks a;
     uint32_t n = 3;
     StderrCapture err;
-    EXPECT_EQ(j2s_array_update_CrontabParameter("[{\"Index\": 1, \"Enable\": 5}, {\"Enable\": 6}, {\"Index\": 2, \"Enable\": 7}]",
-                                                a.t, &n),
+    EXPECT_EQ(j2s_array_update_CrontabParameter(
+                  "[{\"Index\": 1, \"Enable\": 5}, {\"Enable\": 6}, {\"Index\": 2, \"Enable\": 7}]", a.t, &n),
               -2);
     EXPECT_EQ(err.text(), d(kUpdateLine, "c2s_array_update_CrontabParameter",
                             "The keyword is not contained in an object of the json array!\n"));
@@ -78,7 +80,9 @@ TEST(KeyedUpdate, KeyOfTheWrongJsonTypeCountsAsMissing) {
 TEST(KeyedUpdate, CapacityZeroUpdatesNothingAndCountStaysZero) {
     Tasks a, before;
     uint32_t n = 0;
-    EXPECT_EQ(j2s_array_update_CrontabParameter("[{\"Index\": 1, \"Enable\": 1}, {\"Index\": 2, \"Enable\": 1}]", a.t, &n), 0);
+    EXPECT_EQ(
+        j2s_array_update_CrontabParameter("[{\"Index\": 1, \"Enable\": 1}, {\"Index\": 2, \"Enable\": 1}]", a.t, &n),
+        0);
     EXPECT_EQ(n, 0u);
     EXPECT_EQ(std::memcmp(a.t, before.t, sizeof a.t), 0);
 }
@@ -96,7 +100,9 @@ TEST(KeyedUpdate, OnlyTheLowestIndexOfTwoRecordsWithTheSameKeyIsUpdated) {
 TEST(KeyedUpdate, TwoElementsWithTheSameKeyUpdateOneRecordTwiceAndCountTwice) {
     Tasks a;
     uint32_t n = 3;
-    EXPECT_EQ(j2s_array_update_CrontabParameter("[{\"Index\": 1, \"Enable\": 4}, {\"Index\": 1, \"Command\": \"x\"}]", a.t, &n), 0);
+    EXPECT_EQ(j2s_array_update_CrontabParameter("[{\"Index\": 1, \"Enable\": 4}, {\"Index\": 1, \"Command\": \"x\"}]",
+                                                a.t, &n),
+              0);
     EXPECT_EQ(n, 2u);
     EXPECT_EQ(a.t[0].Enable, 4);
     EXPECT_STREQ(a.t[0].Command, "x");
@@ -114,9 +120,11 @@ TEST(KeyedUpdate, ReaderFailureOfAMatchedElementReturnsMinusOneWithCountUnchange
     Tasks a;
     uint32_t n = 3;
     StderrCapture err;
-    EXPECT_EQ(j2s_array_update_CrontabParameter("[{\"Index\": 1, \"Enable\": 3}, {\"Index\": 2, \"Enable\": \"on\"}]", a.t, &n),
+    EXPECT_EQ(j2s_array_update_CrontabParameter("[{\"Index\": 1, \"Enable\": 3}, {\"Index\": 2, \"Enable\": \"on\"}]",
+                                                a.t, &n),
               -1);
-    EXPECT_EQ(err.text(), d(kUpdateLine, "c2s_array_update_CrontabParameter", "json_to_struct_CrontabParameter failed!\n"));
+    EXPECT_EQ(err.text(),
+              d(kUpdateLine, "c2s_array_update_CrontabParameter", "json_to_struct_CrontabParameter failed!\n"));
     EXPECT_EQ(n, 3u);
     EXPECT_EQ(a.t[0].Enable, 3);
 }
@@ -280,13 +288,7 @@ TEST(KeywordReaders, KeywordReaderReadsTheKeyAndFailsWithoutIt) {
 }
 
 TEST(KeywordReaders, GetKeywordReadsTheFirstKeyOnly) {
-    uint32_t index = 0;
-    Tree ok(cJSON_Parse("{\"INDEX\": 12}"));
-    EXPECT_EQ(json_to_struct_GetCrontabParameterKeyword(&index, ok.p), 1);
-    EXPECT_EQ(index, 12u);
-    Tree missing(cJSON_Parse("{}"));
-    EXPECT_EQ(json_to_struct_GetCrontabParameterKeyword(&index, missing.p), 0);
-    EXPECT_EQ(index, 12u);
+    expect_integer_key_reader(json_to_struct_GetCrontabParameterKeyword, "{\"INDEX\": 12}", 12u, {"{}"});
 }
 
 TEST(KeywordReaders, DeviceTimeKeywordRequiresAllEightKeysAndKeepsThoseReadBeforeAFailure) {

@@ -81,7 +81,8 @@ static_assert(offsetof(VideoEncodeParameter, Codec) == 28);
 static_assert(offsetof(VideoEncodeParameter, GOP) == 220);
 static_assert(offsetof(VideoEncodeParameter, Rotate) == 232);
 static_assert(offsetof(VideoEncodeParameter, CropOffsetBase) == 264);
-static_assert(CAPACITY(VideoEncodeParameter, FramerateInteger) == 2 && CAPACITY(VideoEncodeParameter, FramerateDecimal) == 2);
+static_assert(CAPACITY(VideoEncodeParameter, FramerateInteger) == 2 &&
+              CAPACITY(VideoEncodeParameter, FramerateDecimal) == 2);
 static_assert(CAPACITY(VideoEncodeParameter, Codec) == 64 && CAPACITY(VideoEncodeParameter, Profile) == 64);
 static_assert(CAPACITY(VideoEncodeParameter, BitrateControl) == 64);
 static_assert(sizeof(VideoEncodeParameterKeyword) == 8);
@@ -185,25 +186,27 @@ const std::string k2100(2100, 'q');
 
 TEST(MediaKeys, VideoInputCapabilitySetKeysInOrder) {
     VideoInputCapabilitySet r{};
-    EXPECT_EQ(keys_of(struct_to_json_VideoInputCapabilitySet(&r)),
-              (std::vector<std::string>{"SupportedVideoInputInterfaceList", "SupportImageColorAdjust", "MaxImageBrightness",
-                                        "MaxImageContrast", "MaxImageSaturation", "MaxImageHue"}));
+    EXPECT_EQ(
+        keys_of(struct_to_json_VideoInputCapabilitySet(&r)),
+        (std::vector<std::string>{"SupportedVideoInputInterfaceList", "SupportImageColorAdjust", "MaxImageBrightness",
+                                  "MaxImageContrast", "MaxImageSaturation", "MaxImageHue"}));
 }
 
 TEST(MediaKeys, VideoInputInterfaceKeysInOrderWithRemoveableSpelledSo) {
     VideoInputInterface r{};
-    EXPECT_EQ(keys_of(struct_to_json_VideoInputInterface(&r)),
-              (std::vector<std::string>{"Name", "Type", "Alias", "HardwareRelated", "Removeable", "SupportTimingManualConfig",
-                                        "SupportEmbeddedAudio", "MaxInputTiming", "SupportedManualTimingList"}));
+    EXPECT_EQ(
+        keys_of(struct_to_json_VideoInputInterface(&r)),
+        (std::vector<std::string>{"Name", "Type", "Alias", "HardwareRelated", "Removeable", "SupportTimingManualConfig",
+                                  "SupportEmbeddedAudio", "MaxInputTiming", "SupportedManualTimingList"}));
 }
 
 TEST(MediaKeys, VideoInputParameterKeysInOrderWithHueBeforeContrast) {
     VideoInputParameter r{};
     EXPECT_EQ(keys_of(struct_to_json_VideoInputParameter(&r)),
-              (std::vector<std::string>{"Channel", "InterfaceName", "ManualConfigTiming", "TimingType", "Width", "Height",
-                                        "ScanningFrequencyInteger", "ScanningFrequencyDecimal", "ScanningMode",
-                                        "Brightness", "Hue", "Contrast", "Saturation", "VideoLostContinueFrames",
-                                        "VideoResumeContinueFrames", "VideoLostAction"}));
+              (std::vector<std::string>{"Channel", "InterfaceName", "ManualConfigTiming", "TimingType", "Width",
+                                        "Height", "ScanningFrequencyInteger", "ScanningFrequencyDecimal",
+                                        "ScanningMode", "Brightness", "Hue", "Contrast", "Saturation",
+                                        "VideoLostContinueFrames", "VideoResumeContinueFrames", "VideoLostAction"}));
 }
 
 TEST(MediaKeys, VideoInputStatusKeysInOrder) {
@@ -256,10 +259,11 @@ TEST(MediaKeys, VideoEncodeOSDCapabilitySetKeysInOrder) {
 
 TEST(MediaKeys, VideoEncodeOSDParameterKeysInOrder) {
     VideoEncodeOSDParameter r{};
-    EXPECT_EQ(keys_of(struct_to_json_VideoEncodeOSDParameter(&r)),
-              (std::vector<std::string>{"Channel", "Index", "Type", "Visible", "AutoFontSize", "FixedFontSize", "Bold",
-                                        "Stroke", "ForeColor", "ForeAlpha", "BackColor", "BackAlpha",
-                                        "CoordinateOrigin", "XCoordinate", "YCoordinate", "CoordinateBase", "Content"}));
+    EXPECT_EQ(
+        keys_of(struct_to_json_VideoEncodeOSDParameter(&r)),
+        (std::vector<std::string>{"Channel", "Index", "Type", "Visible", "AutoFontSize", "FixedFontSize", "Bold",
+                                  "Stroke", "ForeColor", "ForeAlpha", "BackColor", "BackAlpha", "CoordinateOrigin",
+                                  "XCoordinate", "YCoordinate", "CoordinateBase", "Content"}));
 }
 
 TEST(MediaKeys, AudioInputCapabilitySetKeysInOrder) {
@@ -350,7 +354,9 @@ TEST(VideoInputParameter, ScanningFrequencyIntegerOf65596IsReadBackAs60) {
 TEST(VideoInputParameter, ScanningFrequencyFieldsStoreTheLow16BitsWithoutFailing) {
     VideoInputParameter r[1] = {};
     uint32_t n = 1;
-    ASSERT_EQ(j2s_array_VideoInputParameter("[{\"ScanningFrequencyInteger\":65536,\"ScanningFrequencyDecimal\":-1}]", r, &n), 0);
+    ASSERT_EQ(
+        j2s_array_VideoInputParameter("[{\"ScanningFrequencyInteger\":65536,\"ScanningFrequencyDecimal\":-1}]", r, &n),
+        0);
     EXPECT_EQ(r[0].ScanningFrequencyInteger, 0);
     EXPECT_EQ(r[0].ScanningFrequencyDecimal, 65535);
 }
@@ -518,7 +524,9 @@ TEST(VideoInputParameter, KeyedUpdateByChannelChangesOnlyThatChannel) {
         a[i].Brightness = 50;
     }
     uint32_t n = 3;
-    ASSERT_EQ(j2s_array_update_VideoInputParameter("[{\"Channel\":2,\"Brightness\":70,\"ScanningFrequencyInteger\":30}]", a, &n), 0);
+    ASSERT_EQ(j2s_array_update_VideoInputParameter(
+                  "[{\"Channel\":2,\"Brightness\":70,\"ScanningFrequencyInteger\":30}]", a, &n),
+              0);
     EXPECT_EQ(n, 1u);
     EXPECT_EQ(a[0].Brightness, 50u);
     EXPECT_EQ(a[1].Brightness, 50u);
@@ -582,7 +590,8 @@ TEST(VideoEncodeParameter, FrameRateStoresLow16BitsOf30And65536And70000AndMinusO
 }
 
 TEST(VideoEncodeParameter, FrameRateOfAnotherJsonTypeFailsTheReader) {
-    for (const char *json : {"[{\"FramerateInteger\":\"25\"}]", "[{\"FramerateInteger\":25.5}]", "[{\"FramerateDecimal\":true}]"}) {
+    for (const char *json :
+         {"[{\"FramerateInteger\":\"25\"}]", "[{\"FramerateInteger\":25.5}]", "[{\"FramerateDecimal\":true}]"}) {
         VideoEncodeParameter r[1] = {};
         uint32_t n = 1;
         StderrCapture err;
@@ -673,10 +682,11 @@ TEST(VideoEncodeParameter, SameChannelWithDifferentStreamIndexAreDistinctForKeye
         a[i].Bitrate = 100;
     }
     uint32_t n = 4;
-    ASSERT_EQ(j2s_array_update_VideoEncodeParameter(
-                  "[{\"Channel\":0,\"StreamIndex\":1,\"Bitrate\":512},{\"Channel\":1,\"StreamIndex\":0,\"Bitrate\":6000}]",
-                  a, &n),
-              0);
+    ASSERT_EQ(
+        j2s_array_update_VideoEncodeParameter(
+            "[{\"Channel\":0,\"StreamIndex\":1,\"Bitrate\":512},{\"Channel\":1,\"StreamIndex\":0,\"Bitrate\":6000}]", a,
+            &n),
+        0);
     EXPECT_EQ(n, 2u);
     EXPECT_EQ(a[0].Bitrate, 100u);
     EXPECT_EQ(a[1].Bitrate, 512u);
@@ -737,8 +747,8 @@ TEST(RequestIDRParameter, TextRoundTripAndNoFileOrArrayFamily) {
     EXPECT_EQ(back.StreamIndex, 1u);
     StderrCapture err;
     EXPECT_EQ(j2s_RequestIDRParameter_with_len("{", 1, &back), -2);
-    EXPECT_EQ(err.text(), diag(text_list_file(), lines_of("RequestIDRParameter").j2s, "j2s_RequestIDRParameter_with_len",
-                               "cJSON_ParseWithLength({, 1) failed! reason: {"));
+    EXPECT_EQ(err.text(), diag(text_list_file(), lines_of("RequestIDRParameter").j2s,
+                               "j2s_RequestIDRParameter_with_len", "cJSON_ParseWithLength({, 1) failed! reason: {"));
 }
 
 // =============================================================================
@@ -759,7 +769,9 @@ TEST(VideoEncodeOSDParameter, KeyedUpdateWithChannelAndIndexUpdatesOnlyTheItemWi
     VideoEncodeOSDParameter a[4];
     osd_items(a);
     uint32_t n = 4;
-    ASSERT_EQ(j2s_array_update_VideoEncodeOSDParameter("[{\"Channel\":1,\"Index\":0,\"Visible\":0,\"Content\":\"LIVE\"}]", a, &n), 0);
+    ASSERT_EQ(j2s_array_update_VideoEncodeOSDParameter(
+                  "[{\"Channel\":1,\"Index\":0,\"Visible\":0,\"Content\":\"LIVE\"}]", a, &n),
+              0);
     EXPECT_EQ(n, 1u);
     for (uint32_t i = 0; i < 4; ++i) EXPECT_EQ(a[i].Visible, i == 2 ? 0 : 1) << i;
     EXPECT_STREQ(a[2].Content, "LIVE");
@@ -780,9 +792,10 @@ TEST(VideoEncodeOSDParameter, IndexZeroAndOneOfOneChannelAndSameIndexOnTwoChanne
     VideoEncodeOSDParameter a[4];
     osd_items(a);
     uint32_t n = 4;
-    ASSERT_EQ(j2s_array_update_VideoEncodeOSDParameter(
-                  "[{\"Channel\":0,\"Index\":1,\"XCoordinate\":11},{\"Channel\":1,\"Index\":1,\"XCoordinate\":22}]", a, &n),
-              0);
+    ASSERT_EQ(
+        j2s_array_update_VideoEncodeOSDParameter(
+            "[{\"Channel\":0,\"Index\":1,\"XCoordinate\":11},{\"Channel\":1,\"Index\":1,\"XCoordinate\":22}]", a, &n),
+        0);
     EXPECT_EQ(n, 2u);
     EXPECT_EQ(a[0].XCoordinate, 0u);
     EXPECT_EQ(a[1].XCoordinate, 11u);
@@ -862,7 +875,8 @@ TEST(AudioVolume, VolumeOfMinusOneIsStoredAsItsBitsAndEmittedAs4294967295) {
     ASSERT_EQ(j2s_array_AudioInputInterfaceParameter(json, a, &n), 0);
     EXPECT_EQ(a[0].Volume, 0xFFFFFFFFu);
     EXPECT_EQ(a[0].Gain, -12);
-    EXPECT_TRUE(contains(compact(struct_to_json_AudioInputInterfaceParameter(&a[0])), "\"Volume\":4294967295,\"Gain\":-12"));
+    EXPECT_TRUE(
+        contains(compact(struct_to_json_AudioInputInterfaceParameter(&a[0])), "\"Volume\":4294967295,\"Gain\":-12"));
     n = 1;
     AudioInputParameter b[1] = {};
     ASSERT_EQ(j2s_array_AudioInputParameter(json, b, &n), 0);
@@ -906,17 +920,21 @@ TEST(AudioInputStatus, InputTimingDetailsOf2048OrMoreIsStoredAsFirst2047) {
 }
 
 TEST(AudioEncodeCapabilitySet, EachOfTheNineListsKeepsAtMost255) {
-    const char *lists[] = {"SupportedAudioCodecList",     "AacLcSupportedSamplerateList", "HeAacSupportedSamplerateList",
-                           "HeAacV2SupportedSamplerateList", "G711SupportedSamplerateList", "AacLcSupportedBitrateList",
-                           "HeAacSupportedBitrateList",   "HeAacV2SupportedBitrateList",  "G711SupportedBitrateList"};
+    const char *lists[] = {
+        "SupportedAudioCodecList",        "AacLcSupportedSamplerateList", "HeAacSupportedSamplerateList",
+        "HeAacV2SupportedSamplerateList", "G711SupportedSamplerateList",  "AacLcSupportedBitrateList",
+        "HeAacSupportedBitrateList",      "HeAacV2SupportedBitrateList",  "G711SupportedBitrateList"};
     Tree obj(cJSON_CreateObject());
-    for (int i = 0; i < 9; ++i) cJSON_AddStringToObject(obj.p, lists[i], std::string(256 + i, static_cast<char>('a' + i)).c_str());
+    for (int i = 0; i < 9; ++i)
+        cJSON_AddStringToObject(obj.p, lists[i], std::string(256 + i, static_cast<char>('a' + i)).c_str());
     AudioEncodeCapabilitySet r{};
     ASSERT_EQ(c2s_AudioEncodeCapabilitySet(obj.p, &r), 0);
-    const char *fields[] = {r.SupportedAudioCodecList,     r.AacLcSupportedSamplerateList, r.HeAacSupportedSamplerateList,
-                            r.HeAacV2SupportedSamplerateList, r.G711SupportedSamplerateList, r.AacLcSupportedBitrateList,
-                            r.HeAacSupportedBitrateList,   r.HeAacV2SupportedBitrateList,  r.G711SupportedBitrateList};
-    for (int i = 0; i < 9; ++i) EXPECT_EQ(std::string(fields[i]), std::string(255, static_cast<char>('a' + i))) << lists[i];
+    const char *fields[] = {
+        r.SupportedAudioCodecList,        r.AacLcSupportedSamplerateList, r.HeAacSupportedSamplerateList,
+        r.HeAacV2SupportedSamplerateList, r.G711SupportedSamplerateList,  r.AacLcSupportedBitrateList,
+        r.HeAacSupportedBitrateList,      r.HeAacV2SupportedBitrateList,  r.G711SupportedBitrateList};
+    for (int i = 0; i < 9; ++i)
+        EXPECT_EQ(std::string(fields[i]), std::string(255, static_cast<char>('a' + i))) << lists[i];
 }
 
 TEST(AudioInputInterfaceParameter, KeyedUpdateWithNumericInterfaceNameFailsWithKeywordMessage) {
@@ -942,8 +960,8 @@ TEST(AudioEncodeCapabilitySet, BooleanSupportResampleFailsTheReaderAfterTheNineL
         "\"G711SupportedBitrateList\":\"64000\",\"SupportResample\":true}";
     StderrCapture err;
     EXPECT_EQ(j2s_AudioEncodeCapabilitySet(json, &r), -1);
-    EXPECT_EQ(err.text(), diag(text_list_file(), lines_of("AudioEncodeCapabilitySet").c2s, "c2s_AudioEncodeCapabilitySet",
-                               "json_to_struct_AudioEncodeCapabilitySet failed!\n"));
+    EXPECT_EQ(err.text(), diag(text_list_file(), lines_of("AudioEncodeCapabilitySet").c2s,
+                               "c2s_AudioEncodeCapabilitySet", "json_to_struct_AudioEncodeCapabilitySet failed!\n"));
     EXPECT_STREQ(r.SupportedAudioCodecList, "AAC-LC,G.711A");
     EXPECT_STREQ(r.AacLcSupportedSamplerateList, "48000");
     EXPECT_STREQ(r.HeAacSupportedSamplerateList, "44100");
@@ -1008,7 +1026,8 @@ TEST(AudioEncodeParameter, KeyedUpdateByChannelChangesCodecOfThatChannelOnly) {
     std::strcpy(a[0].Codec, "AAC-LC");
     std::strcpy(a[1].Codec, "AAC-LC");
     uint32_t n = 2;
-    ASSERT_EQ(j2s_array_update_AudioEncodeParameter("[{\"Channel\":1,\"Codec\":\"G.711A\",\"Samplerate\":8000}]", a, &n), 0);
+    ASSERT_EQ(
+        j2s_array_update_AudioEncodeParameter("[{\"Channel\":1,\"Codec\":\"G.711A\",\"Samplerate\":8000}]", a, &n), 0);
     EXPECT_EQ(n, 1u);
     EXPECT_STREQ(a[0].Codec, "AAC-LC");
     EXPECT_STREQ(a[1].Codec, "G.711A");
@@ -1020,7 +1039,8 @@ TEST(AudioInputParameter, KeyedUpdateByChannelLeavesOtherChannels) {
     a[0].Channel = 5;
     a[1].Channel = 6;
     uint32_t n = 2;
-    ASSERT_EQ(j2s_array_update_AudioInputParameter("[{\"Channel\":5,\"InterfaceName\":\"MIC1\",\"Gain\":-6}]", a, &n), 0);
+    ASSERT_EQ(j2s_array_update_AudioInputParameter("[{\"Channel\":5,\"InterfaceName\":\"MIC1\",\"Gain\":-6}]", a, &n),
+              0);
     EXPECT_EQ(n, 1u);
     EXPECT_STREQ(a[0].InterfaceName, "MIC1");
     EXPECT_EQ(a[0].Gain, -6);
@@ -1068,7 +1088,8 @@ TEST(MediaExamples, EveryArrayExampleLoadsWithItsTypesReader) {
     expect_array_example<VideoInputVGAParameter>("VideoInputVGAParameter", nullptr, j2s_array_VideoInputVGAParameter,
                                                  s2j_array_VideoInputVGAParameter);
     expect_array_example<VideoEncodeCapabilitySet>("VideoEncodeCapabilitySet", f2s_array_VideoEncodeCapabilitySet,
-                                                   j2s_array_VideoEncodeCapabilitySet, s2j_array_VideoEncodeCapabilitySet);
+                                                   j2s_array_VideoEncodeCapabilitySet,
+                                                   s2j_array_VideoEncodeCapabilitySet);
     expect_array_example<VideoEncodeParameter>("VideoEncodeParameter", f2s_array_VideoEncodeParameter,
                                                j2s_array_VideoEncodeParameter, s2j_array_VideoEncodeParameter);
     expect_array_example<VideoEncodeOSDParameter>("VideoEncodeOSDParameter", f2s_array_VideoEncodeOSDParameter,

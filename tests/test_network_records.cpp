@@ -29,7 +29,9 @@ static_assert(CAPACITY(NetworkInterface, Name) == 64 && CAPACITY(NetworkInterfac
 static_assert(offsetof(NetworkInterface, SupportStandardList) == 256, "");
 static_assert(offsetof(NetworkInterface, Removeable) == 516, "");
 static_assert(offsetof(NetworkInterface, MaxTransmissionRate) == 532, "");
-static_assert(MEMBER_IS(NetworkInterface, Removeable, int32_t) && MEMBER_IS(NetworkInterface, MaxReceptionRate, uint32_t), "");
+static_assert(MEMBER_IS(NetworkInterface, Removeable, int32_t) &&
+                  MEMBER_IS(NetworkInterface, MaxReceptionRate, uint32_t),
+              "");
 
 static_assert(sizeof(NetworkInterfaceStatus) == 84, "");
 static_assert(offsetof(NetworkInterfaceStatus, IsPlugged) == 64, "");
@@ -45,7 +47,8 @@ static_assert(offsetof(NetworkLANParameter, MTUSize) == 370, "MTUSize directly a
 static_assert(CAPACITY(NetworkLANParameter, IPv4Address) == 16 && CAPACITY(NetworkLANParameter, IPv6Address) == 48, "");
 static_assert(CAPACITY(NetworkLANParameter, MACAddress) == 18, "");
 static_assert(MEMBER_IS(NetworkLANParameter, MTUSize, uint16_t), "the LAN MTU is 16 bits wide");
-static_assert(sizeof(NetworkLANParameterKeyword) == 64 && CAPACITY(NetworkLANParameterKeyword, InterfaceName) == 64, "");
+static_assert(sizeof(NetworkLANParameterKeyword) == 64 && CAPACITY(NetworkLANParameterKeyword, InterfaceName) == 64,
+              "");
 
 static_assert(sizeof(NetworkRouteParameter) == 64, "");
 static_assert(CAPACITY(NetworkRouteParameter, PrimaryNetworkInterface) == 64, "");
@@ -74,7 +77,8 @@ static_assert(MEMBER_IS(WIFIHotspot, SignalStrength, int32_t), "signal levels ar
 static_assert(sizeof(SerialPortInterface) == 1604, "");
 static_assert(offsetof(SerialPortInterface, Removable) == 320, "");
 static_assert(offsetof(SerialPortInterface, SupportedFlowControlList) == 1348, "");
-static_assert(CAPACITY(SerialPortInterface, Level) == 64 && CAPACITY(SerialPortInterface, SupportedBaudrateList) == 256, "");
+static_assert(CAPACITY(SerialPortInterface, Level) == 64 && CAPACITY(SerialPortInterface, SupportedBaudrateList) == 256,
+              "");
 
 static_assert(sizeof(SerialPortParameter) == 208, "");
 static_assert(offsetof(SerialPortParameter, Baudrate) == 68, "");
@@ -120,7 +124,8 @@ TEST(NetworkExamples, EveryExampleFileLoadsWithItsReaderAndIsTheEmittersOwnText)
     EXPECT_EQ(std::memcmp(&cap, &caps[0], sizeof cap), 0);
 
     std::vector<NetworkInterface> ifs;
-    expect_example_reads("NetworkInterface", true, struct_to_json_NetworkInterface, json_to_struct_NetworkInterface, &ifs);
+    expect_example_reads("NetworkInterface", true, struct_to_json_NetworkInterface, json_to_struct_NetworkInterface,
+                         &ifs);
     expect_f2s_array("NetworkInterface", f2s_array_NetworkInterface, ifs);
 
     std::vector<NetworkInterfaceStatus> st;
@@ -128,7 +133,8 @@ TEST(NetworkExamples, EveryExampleFileLoadsWithItsReaderAndIsTheEmittersOwnText)
                          json_to_struct_NetworkInterfaceStatus, &st);
     uint32_t n = 4;
     NetworkInterfaceStatus st_arr[4] = {};
-    EXPECT_EQ(j2s_array_NetworkInterfaceStatus(read_file(example_path("NetworkInterfaceStatus")).c_str(), st_arr, &n), 0);
+    EXPECT_EQ(j2s_array_NetworkInterfaceStatus(read_file(example_path("NetworkInterfaceStatus")).c_str(), st_arr, &n),
+              0);
     EXPECT_EQ(n, st.size());
 
     std::vector<NetworkLANParameter> lans;
@@ -245,7 +251,8 @@ TEST(NetworkLANParameter, MTUSizeKeepsOnlyTheLow16BitsWithoutRangeCheck) {
 TEST(NetworkLANParameter, MTUSizeOf65535IsEmittedUnsigned) {
     NetworkLANParameter r = lan("eth0", 65535);
     Text text(s2j_array_NetworkLANParameter(&r, 1, 0));
-    EXPECT_NE(text.str().find("\"MACAddress\":\"00:1A:2B:3C:4D:5E\",\"MTUSize\":65535}"), std::string::npos) << text.str();
+    EXPECT_NE(text.str().find("\"MACAddress\":\"00:1A:2B:3C:4D:5E\",\"MTUSize\":65535}"), std::string::npos)
+        << text.str();
 }
 
 TEST(NetworkLANParameter, MTUSizeGivenAsTextFailsAfterEveryEarlierFieldIsWritten) {
@@ -490,8 +497,9 @@ TEST(NetworkWIFIParameter, KeyedUpdateOfAnElementWithoutInterfaceNameIsRefused) 
     EXPECT_EQ(j2s_array_update_NetworkWIFIParameter(
                   "[{\"InterfaceName\":\"wlan1\",\"SSID\":\"Studio\"},{\"SSID\":\"Lobby\"}]", arr, &n),
               -2);
-    EXPECT_EQ(err.text(), text_diag(lines_of("NetworkWIFIParameter").c2s_array_update, "c2s_array_update_NetworkWIFIParameter",
-                            "The keyword is not contained in an object of the json array!\n"));
+    EXPECT_EQ(err.text(),
+              text_diag(lines_of("NetworkWIFIParameter").c2s_array_update, "c2s_array_update_NetworkWIFIParameter",
+                        "The keyword is not contained in an object of the json array!\n"));
     EXPECT_EQ(n, 2u);
     EXPECT_STREQ(arr[1].SSID, "Studio");  // the element before the refused one stays applied
     EXPECT_STREQ(arr[0].SSID, "");
@@ -503,8 +511,9 @@ TEST(NetworkWIFIParameter, KeyedUpdateOfAnElementWithNumericInterfaceNameIsRefus
     uint32_t n = 1;
     StderrCapture err;
     EXPECT_EQ(j2s_array_update_NetworkWIFIParameter("[{\"InterfaceName\":0,\"SSID\":\"x\"}]", arr, &n), -2);
-    EXPECT_EQ(err.text(), text_diag(lines_of("NetworkWIFIParameter").c2s_array_update, "c2s_array_update_NetworkWIFIParameter",
-                            "The keyword is not contained in an object of the json array!\n"));
+    EXPECT_EQ(err.text(),
+              text_diag(lines_of("NetworkWIFIParameter").c2s_array_update, "c2s_array_update_NetworkWIFIParameter",
+                        "The keyword is not contained in an object of the json array!\n"));
     EXPECT_STREQ(arr[0].SSID, "");
     Tree tree(cJSON_Parse("{\"InterfaceName\":0}"));
     NetworkWIFIParameterKeyword kw = {};
@@ -655,9 +664,10 @@ TEST(SerialPortNetworkTransferParameter, KeyedUpdateMatchesTheSecondFieldNotTheF
     arr[1].Enable = 1;
     std::strcpy(arr[1].InterfaceName, "COM2");
     uint32_t n = 2;
-    ASSERT_EQ(j2s_array_update_SerialPortNetworkTransferParameter(
-                  "[{\"InterfaceName\":\"COM2\",\"Enable\":0,\"PeerAddress\":\"10.1.2.3\",\"PeerPort\":5002}]", arr, &n),
-              0);
+    ASSERT_EQ(
+        j2s_array_update_SerialPortNetworkTransferParameter(
+            "[{\"InterfaceName\":\"COM2\",\"Enable\":0,\"PeerAddress\":\"10.1.2.3\",\"PeerPort\":5002}]", arr, &n),
+        0);
     EXPECT_EQ(n, 1u);
     EXPECT_EQ(arr[1].Enable, 0);
     EXPECT_STREQ(arr[1].PeerAddress, "10.1.2.3");

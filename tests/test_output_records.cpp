@@ -146,7 +146,8 @@ static_assert(offsetof(WatermarkOSDParameter, PrefixContent) == 496);
 static_assert(offsetof(WatermarkOSDParameter, PostfixContent) == 756);
 static_assert(offsetof(WatermarkOSDParameter, RotationAngle) == 1012);
 static_assert(offsetof(WatermarkOSDParameter, MovingDirection) == 1032);
-static_assert(CAPACITY(WatermarkOSDParameter, PrefixContent) == 256 && CAPACITY(WatermarkOSDParameter, PostfixContent) == 256);
+static_assert(CAPACITY(WatermarkOSDParameter, PrefixContent) == 256 &&
+              CAPACITY(WatermarkOSDParameter, PostfixContent) == 256);
 static_assert(sizeof(WatermarkOSDParameterKeyword) == 64);
 
 static_assert(sizeof(WatermarkPictureParameter) == 380);
@@ -167,7 +168,8 @@ static_assert(offsetof(UploadWatermarkPictureParameter, ImageFilePath) == 64);
 static_assert(offsetof(UploadWatermarkPictureParameter, ImageFileSize) == 320);
 
 // Integer keys of the keyword records have the record field's C type.
-static_assert(std::is_same_v<decltype(VideoOutputScreenSplitParameterKeyword::UserDefinedScreenSplitModeIndex), uint32_t>);
+static_assert(
+    std::is_same_v<decltype(VideoOutputScreenSplitParameterKeyword::UserDefinedScreenSplitModeIndex), uint32_t>);
 static_assert(std::is_same_v<decltype(VideoOutputInterfaceParameter::UserDefinedScreenSplitModeIndex), int32_t>);
 static_assert(std::is_same_v<decltype(ScreenshotParameter::UserDefinedScreenSplitModeIndex), int32_t>);
 static_assert(std::is_same_v<decltype(VideoOutputOSDParameterKeyword::Channel), uint32_t>);
@@ -344,8 +346,8 @@ TEST(VideoOutputScreenSplitParameter, UpdateComparesTheNameCaseSensitively) {
     VideoOutputScreenSplitParameter a[1] = {layout("HDMI-OUT-0", 0, 1)};
     uint32_t n = 1;
     EXPECT_EQ(j2s_array_update_VideoOutputScreenSplitParameter(
-                  "[{\"InterfaceName\":\"hdmi-out-0\",\"UserDefinedScreenSplitModeIndex\":0,\"SplitWindowNumber\":4}]", a,
-                  &n),
+                  "[{\"InterfaceName\":\"hdmi-out-0\",\"UserDefinedScreenSplitModeIndex\":0,\"SplitWindowNumber\":4}]",
+                  a, &n),
               0);
     EXPECT_EQ(n, 0u);
     EXPECT_EQ(a[0].SplitWindowNumber, 1u);
@@ -487,7 +489,9 @@ TEST(VideoOutputPlaylistParameter, UpdateFindsThePlaylistByIndex) {
 TEST(VideoOutputSourceParameter, UpdateFindsTheChannelAndKeywordNeedsAnInteger) {
     VideoOutputSourceParameter a[2] = {{0, 0, 0, 100}, {1, 0, 0, 100}};
     uint32_t n = 2;
-    EXPECT_EQ(j2s_array_update_VideoOutputSourceParameter("[{\"Channel\":1,\"SourceIndex\":-1,\"CacheTime\":250}]", a, &n), 0);
+    EXPECT_EQ(
+        j2s_array_update_VideoOutputSourceParameter("[{\"Channel\":1,\"SourceIndex\":-1,\"CacheTime\":250}]", a, &n),
+        0);
     EXPECT_EQ(n, 1u);
     EXPECT_EQ(a[1].SourceIndex, -1);
     EXPECT_EQ(a[1].CacheTime, 250);
@@ -527,10 +531,11 @@ TEST(AudioOutputCapabilitySet, InterfaceListSpeltWithTrailingListIsIgnored) {
     AudioOutputCapabilitySet c[1] = {};
     set(c[0].SupportedAudioOutputInterfaces, "LINE-OUT-0");
     uint32_t n = 1;
-    ASSERT_EQ(j2s_array_AudioOutputCapabilitySet(
-                  "[{\"SupportedAudioOutputInterfacesList\":\"HDMI-OUT-0\",\"SupportedAudioInputChannelList\":\"0,1\"}]", c,
-                  &n),
-              0);
+    ASSERT_EQ(
+        j2s_array_AudioOutputCapabilitySet(
+            "[{\"SupportedAudioOutputInterfacesList\":\"HDMI-OUT-0\",\"SupportedAudioInputChannelList\":\"0,1\"}]", c,
+            &n),
+        0);
     EXPECT_STREQ(c[0].SupportedAudioOutputInterfaces, "LINE-OUT-0");
     EXPECT_STREQ(c[0].SupportedAudioInputChannelList, "0,1");
     Text t(s2j_array_AudioOutputCapabilitySet(c, 1, 0));
@@ -543,8 +548,8 @@ TEST(AudioOutputCapabilitySet, EachListKeepsAtMost255Characters) {
     uint32_t n = 1;
     std::string v = long_text('L', 400);
     std::string json = "[{\"SupportedAudioInputChannelList\":\"" + v + "\",\"SupportedAudioOutputInterfaces\":\"" + v +
-                       "\",\"SupportedInputStreamingIndexList\":\"" + v + "\",\"SupportedVideoOutputChannelList\":\"" + v +
-                       "\"}]";
+                       "\",\"SupportedInputStreamingIndexList\":\"" + v + "\",\"SupportedVideoOutputChannelList\":\"" +
+                       v + "\"}]";
     ASSERT_EQ(j2s_array_AudioOutputCapabilitySet(json.c_str(), c, &n), 0);
     EXPECT_EQ(std::strlen(c[0].SupportedAudioInputChannelList), 255u);
     EXPECT_EQ(std::strlen(c[0].SupportedAudioOutputInterfaces), 255u);
@@ -578,7 +583,8 @@ TEST(AudioOutputParameter, UpdateElementWithoutChannelFailsWithTheKeywordMessage
     a[1].Channel = 1;
     uint32_t n = 2;
     StderrCapture err;
-    EXPECT_EQ(j2s_array_update_AudioOutputParameter("[{\"Channel\":1,\"SourceIndex\":4},{\"SourceIndex\":5}]", a, &n), -2);
+    EXPECT_EQ(j2s_array_update_AudioOutputParameter("[{\"Channel\":1,\"SourceIndex\":4},{\"SourceIndex\":5}]", a, &n),
+              -2);
     EXPECT_EQ(err.text(), diag(text_list_file(), lines_of("AudioOutputParameter").c2s_array_update,
                                "c2s_array_update_AudioOutputParameter",
                                "The keyword is not contained in an object of the json array!\n"));
@@ -636,7 +642,8 @@ TEST(AudioOutputInterfaceParameter, UpdateFindsTheInterfaceByName) {
     set(a[0].InterfaceName, "LINE-OUT-0");
     set(a[1].InterfaceName, "HDMI-OUT-0");
     uint32_t n = 2;
-    EXPECT_EQ(j2s_array_update_AudioOutputInterfaceParameter("[{\"InterfaceName\":\"HDMI-OUT-0\",\"Gain\":-3}]", a, &n), 0);
+    EXPECT_EQ(j2s_array_update_AudioOutputInterfaceParameter("[{\"InterfaceName\":\"HDMI-OUT-0\",\"Gain\":-3}]", a, &n),
+              0);
     EXPECT_EQ(n, 1u);
     EXPECT_EQ(a[1].Gain, -3);
     EXPECT_EQ(a[0].Gain, 0);
@@ -664,9 +671,10 @@ TEST(ScreenshotListParameter, ListsUnderAnyKeyButScreenshotIndexsAreIgnored) {
     ScreenshotListParameter s[1] = {};
     set(s[0].ScreenshotIndexs, "0,1");
     uint32_t n = 1;
-    ASSERT_EQ(j2s_array_ScreenshotListParameter(
-                  "[{\"ScreenshotIndexes\":\"3\",\"ScreenshotIndices\":\"4\",\"ScreenshotDwellTimes\":\"30,60\"}]", s, &n),
-              0);
+    ASSERT_EQ(
+        j2s_array_ScreenshotListParameter(
+            "[{\"ScreenshotIndexes\":\"3\",\"ScreenshotIndices\":\"4\",\"ScreenshotDwellTimes\":\"30,60\"}]", s, &n),
+        0);
     EXPECT_STREQ(s[0].ScreenshotIndexs, "0,1");
     EXPECT_STREQ(s[0].ScreenshotDwellTimes, "30,60");
     Text t(s2j_array_ScreenshotListParameter(s, 1, 0));
@@ -855,9 +863,10 @@ TEST(Watermarks, UpdatesFindTheInterfaceByName) {
     set(p[0].InterfaceName, "HDMI-OUT-0");
     set(p[1].InterfaceName, "SDI-OUT-0");
     uint32_t n = 2;
-    EXPECT_EQ(j2s_array_update_WatermarkPictureParameter(
-                  "[{\"InterfaceName\":\"SDI-OUT-0\",\"ImageFilePath\":\"/data/wm/logo.png\",\"RotationAngle\":-90}]", p, &n),
-              0);
+    EXPECT_EQ(
+        j2s_array_update_WatermarkPictureParameter(
+            "[{\"InterfaceName\":\"SDI-OUT-0\",\"ImageFilePath\":\"/data/wm/logo.png\",\"RotationAngle\":-90}]", p, &n),
+        0);
     EXPECT_EQ(n, 1u);
     EXPECT_STREQ(p[1].ImageFilePath, "/data/wm/logo.png");
     EXPECT_EQ(p[1].RotationAngle, -90);
@@ -866,27 +875,31 @@ TEST(Watermarks, UpdatesFindTheInterfaceByName) {
     WatermarkDotmatrixParameter d[1] = {};
     set(d[0].InterfaceName, "HDMI-OUT-0");
     n = 1;
-    EXPECT_EQ(j2s_array_update_WatermarkDotmatrixParameter("[{\"InterfaceName\":\"HDMI-OUT-0\",\"Color\":\"#808080\"}]", d, &n), 0);
+    EXPECT_EQ(j2s_array_update_WatermarkDotmatrixParameter("[{\"InterfaceName\":\"HDMI-OUT-0\",\"Color\":\"#808080\"}]",
+                                                           d, &n),
+              0);
     EXPECT_STREQ(d[0].Color, "#808080");
 
     WatermarkOSDParameter o[1] = {};
     set(o[0].InterfaceName, "HDMI-OUT-0");
     n = 1;
-    EXPECT_EQ(j2s_array_update_WatermarkOSDParameter("[{\"InterfaceName\":\"HDMI-OUT-1\",\"Content\":\"x\"}]", o, &n), 0);
+    EXPECT_EQ(j2s_array_update_WatermarkOSDParameter("[{\"InterfaceName\":\"HDMI-OUT-1\",\"Content\":\"x\"}]", o, &n),
+              0);
     EXPECT_EQ(n, 0u);
     EXPECT_STREQ(o[0].Content, "");
 }
 
 TEST(UploadWatermarkPictureParameter, RequestReadsAndWritesTheLargestFileSize) {
     UploadWatermarkPictureParameter u = {};
-    ASSERT_EQ(j2s_UploadWatermarkPictureParameter(
-                  "{\"InterfaceName\":\"HDMI-OUT-0\",\"ImageFilePath\":\"/tmp/upload/logo.png\",\"ImageFileSize\":4294967295}",
-                  &u),
+    ASSERT_EQ(j2s_UploadWatermarkPictureParameter("{\"InterfaceName\":\"HDMI-OUT-0\",\"ImageFilePath\":\"/tmp/upload/"
+                                                  "logo.png\",\"ImageFileSize\":4294967295}",
+                                                  &u),
               0);
     EXPECT_EQ(u.ImageFileSize, 4294967295u);
     Text t(s2j_UploadWatermarkPictureParameter(&u, 0));
-    EXPECT_EQ(t.str(),
-              "{\"InterfaceName\":\"HDMI-OUT-0\",\"ImageFilePath\":\"/tmp/upload/logo.png\",\"ImageFileSize\":4294967295}");
+    EXPECT_EQ(
+        t.str(),
+        "{\"InterfaceName\":\"HDMI-OUT-0\",\"ImageFilePath\":\"/tmp/upload/logo.png\",\"ImageFileSize\":4294967295}");
 }
 
 // ---- Example files -----------------------------------------------------------
@@ -948,7 +961,8 @@ TEST(OutputExamples, SingleRecordExamplesLoadWithTheirReaders) {
     EXPECT_EQ(j2s_AudioOutSourceChange(read_file(example_path("AudioOutSourceChange")).c_str(), &a), 0);
     EXPECT_STREQ(a.InterfaceName, "LINE-OUT-0");
     UploadWatermarkPictureParameter u = {};
-    EXPECT_EQ(j2s_UploadWatermarkPictureParameter(read_file(example_path("UploadWatermarkPictureParameter")).c_str(), &u), 0);
+    EXPECT_EQ(
+        j2s_UploadWatermarkPictureParameter(read_file(example_path("UploadWatermarkPictureParameter")).c_str(), &u), 0);
     EXPECT_GT(u.ImageFileSize, 0u);
 }
 

@@ -48,13 +48,15 @@ TEST(RecordArrays, S2jArrayWithCountZeroReturnsNullWithDiagnostic) {
     CrontabParameter tasks[1] = {task(1, "x")};
     StderrCapture err;
     EXPECT_EQ(s2j_array_CrontabParameter(tasks, 0, 1), nullptr);
-    EXPECT_EQ(err.text(), d(kS2jArrayLine, "s2j_array_CrontabParameter", "struct_array or struct_array_size is empty!\n"));
+    EXPECT_EQ(err.text(),
+              d(kS2jArrayLine, "s2j_array_CrontabParameter", "struct_array or struct_array_size is empty!\n"));
 }
 
 TEST(RecordArrays, S2jArrayWithNullArrayReturnsNullWithDiagnostic) {
     StderrCapture err;
     EXPECT_EQ(s2j_array_CrontabParameter(nullptr, 3, 0), nullptr);
-    EXPECT_EQ(err.text(), d(kS2jArrayLine, "s2j_array_CrontabParameter", "struct_array or struct_array_size is empty!\n"));
+    EXPECT_EQ(err.text(),
+              d(kS2jArrayLine, "s2j_array_CrontabParameter", "struct_array or struct_array_size is empty!\n"));
 }
 
 TEST(RecordArrays, S2jArrayReportsFailureToCreateTheArray) {
@@ -146,7 +148,8 @@ TEST(RecordArrays, ElementsThatAreNumbersAreReadAsEmptyObjects) {
 }
 
 TEST(RecordArrays, WrongTypeInSecondElementFailsWithCountUnchangedAndFirstElementRead) {
-    Tree tree(cJSON_Parse("[{\"Index\": 1, \"Command\": \"one\"}, {\"Index\": 2, \"Enable\": \"yes\", \"Command\": \"two\"}]"));
+    Tree tree(cJSON_Parse(
+        "[{\"Index\": 1, \"Command\": \"one\"}, {\"Index\": 2, \"Enable\": \"yes\", \"Command\": \"two\"}]"));
     CrontabParameter tasks[2] = {task(7, "a"), task(8, "b")};
     uint32_t n = 2;
     StderrCapture err;
@@ -187,9 +190,11 @@ TEST(RecordArrays, J2sArrayRefusesNullTextOrCount) {
     uint32_t n = 1;
     for (int which = 0; which < 2; ++which) {
         StderrCapture err;
-        EXPECT_EQ(which ? j2s_array_CrontabParameter("[]", nullptr, nullptr) : j2s_array_CrontabParameter(nullptr, nullptr, &n),
+        EXPECT_EQ(which ? j2s_array_CrontabParameter("[]", nullptr, nullptr)
+                        : j2s_array_CrontabParameter(nullptr, nullptr, &n),
                   -2);
-        EXPECT_EQ(err.text(), d(kJ2sArrayLine, "j2s_array_CrontabParameter", "json_str or struct_array_size is empty!\n"));
+        EXPECT_EQ(err.text(),
+                  d(kJ2sArrayLine, "j2s_array_CrontabParameter", "json_str or struct_array_size is empty!\n"));
     }
     for (int which = 0; which < 3; ++which) {
         StderrCapture err;
@@ -206,7 +211,8 @@ TEST(RecordArrays, J2sArrayParseFailureMessageHasNoNewline) {
     uint32_t n = 1;
     StderrCapture err;
     EXPECT_EQ(j2s_array_CrontabParameter("[{", nullptr, &n), -2);
-    EXPECT_EQ(err.text(), d(kJ2sArrayLine, "j2s_array_CrontabParameter", "cJSON_Parse([{) failed! reason: " + parse_reason("[{")));
+    EXPECT_EQ(err.text(),
+              d(kJ2sArrayLine, "j2s_array_CrontabParameter", "cJSON_Parse([{) failed! reason: " + parse_reason("[{")));
     EXPECT_EQ(n, 1u);
 }
 

@@ -218,7 +218,8 @@ TEST(SingleRecord, J2sWithNullArgumentsIsRefused) {
         StderrCapture err;
         EXPECT_EQ(which == 0 ? j2s_DeviceInfo_with_len(nullptr, 2, &info) : j2s_DeviceInfo_with_len("{}", 2, nullptr),
                   -2);
-        EXPECT_EQ(err.text(), d(kJ2sLine, "j2s_DeviceInfo_with_len", "json_str or json_str_len or struct_ptr is empty!\n"));
+        EXPECT_EQ(err.text(),
+                  d(kJ2sLine, "j2s_DeviceInfo_with_len", "json_str or json_str_len or struct_ptr is empty!\n"));
     }
 }
 

@@ -25,7 +25,8 @@ static_assert(sizeof(StorageInterface) == 340, "");
 static_assert(offsetof(StorageInterface, Removable) == 192 && offsetof(StorageInterface, Expansible) == 196, "");
 static_assert(offsetof(StorageInterface, ProtocolType) == 264, "");
 static_assert(offsetof(StorageInterface, BusID) == 336, "");
-static_assert(MEMBER_IS(StorageInterface, BusBandwidth, uint32_t) && MEMBER_IS(StorageInterface, Removable, int32_t), "");
+static_assert(MEMBER_IS(StorageInterface, BusBandwidth, uint32_t) && MEMBER_IS(StorageInterface, Removable, int32_t),
+              "");
 
 static_assert(sizeof(StorageDevice) == 456, "");
 static_assert(offsetof(StorageDevice, SupportedFileSystemTypeList) == 196, "");
@@ -37,7 +38,9 @@ static_assert(offsetof(StorageDeviceStatus, FileSystemType) == 72, "");
 static_assert(offsetof(StorageDeviceStatus, MountPoint) == 140 && CAPACITY(StorageDeviceStatus, MountPoint) == 256, "");
 static_assert(offsetof(StorageDeviceStatus, TotalCapacity) == 396, "");
 static_assert(offsetof(StorageDeviceStatus, UUID) == 536 && CAPACITY(StorageDeviceStatus, UUID) == 64, "");
-static_assert(MEMBER_IS(StorageDeviceStatus, TotalCapacity, uint32_t) && MEMBER_IS(StorageDeviceStatus, FreeCapacity, uint32_t), "");
+static_assert(MEMBER_IS(StorageDeviceStatus, TotalCapacity, uint32_t) &&
+                  MEMBER_IS(StorageDeviceStatus, FreeCapacity, uint32_t),
+              "");
 
 static_assert(sizeof(DiskGroupCapabilitySet) == 4, "");
 static_assert(MEMBER_IS(DiskGroupCapabilitySet, MaxDiskGroupNumber, uint32_t), "");
@@ -45,7 +48,8 @@ static_assert(MEMBER_IS(DiskGroupCapabilitySet, MaxDiskGroupNumber, uint32_t), "
 static_assert(sizeof(DiskGroupParameter) == 68, "");
 static_assert(offsetof(DiskGroupParameter, GroupID) == 64, "");
 static_assert(MEMBER_IS(DiskGroupParameter, GroupID, int32_t), "GroupID is signed");
-static_assert(sizeof(DiskGroupParameterKeyword) == 64 && CAPACITY(DiskGroupParameterKeyword, StorageDeviceName) == 64, "");
+static_assert(sizeof(DiskGroupParameterKeyword) == 64 && CAPACITY(DiskGroupParameterKeyword, StorageDeviceName) == 64,
+              "");
 
 static_assert(sizeof(FormatDiskParameter) == 200, "");
 static_assert(offsetof(FormatDiskParameter, PartitionName) == 128, "");
@@ -130,7 +134,8 @@ TEST(StorageExamples, EveryExampleFileLoadsWithItsReaderAndIsTheEmittersOwnText)
     EXPECT_EQ(j2s_FormatDiskParameter(read_file(example_path("FormatDiskParameter")).c_str(), &fmt), 0);
     EXPECT_STREQ(fmt.StorageDeviceName, "mmcblk1");
 
-    expect_example_reads("FormatDiskProgress", false, struct_to_json_FormatDiskProgress, json_to_struct_FormatDiskProgress);
+    expect_example_reads("FormatDiskProgress", false, struct_to_json_FormatDiskProgress,
+                         json_to_struct_FormatDiskProgress);
     expect_example_reads("RemoveStorageDeviceParameter", false, struct_to_json_RemoveStorageDeviceParameter,
                          json_to_struct_RemoveStorageDeviceParameter);
 
@@ -142,7 +147,8 @@ TEST(StorageExamples, EveryExampleFileLoadsWithItsReaderAndIsTheEmittersOwnText)
     EXPECT_EQ(std::memcmp(&rcap, &rcaps[0], sizeof rcap), 0);
 
     std::vector<RecordParameter> recs;
-    expect_example_reads("RecordParameter", true, struct_to_json_RecordParameter, json_to_struct_RecordParameter, &recs);
+    expect_example_reads("RecordParameter", true, struct_to_json_RecordParameter, json_to_struct_RecordParameter,
+                         &recs);
     expect_f2s_array("RecordParameter", f2s_array_RecordParameter, recs);
 
     expect_example_reads("RecordStatus", true, struct_to_json_RecordStatus, json_to_struct_RecordStatus);
@@ -261,8 +267,9 @@ TEST(DiskGroupParameter, KeyedUpdateOfAnElementWithoutStorageDeviceNameIsRefused
     uint32_t n = 1;
     StderrCapture err;
     EXPECT_EQ(j2s_array_update_DiskGroupParameter("[{\"GroupID\":2}]", arr, &n), -2);
-    EXPECT_EQ(err.text(), text_diag(lines_of("DiskGroupParameter").c2s_array_update, "c2s_array_update_DiskGroupParameter",
-                            "The keyword is not contained in an object of the json array!\n"));
+    EXPECT_EQ(err.text(),
+              text_diag(lines_of("DiskGroupParameter").c2s_array_update, "c2s_array_update_DiskGroupParameter",
+                        "The keyword is not contained in an object of the json array!\n"));
     EXPECT_EQ(arr[0].GroupID, 0);
     EXPECT_EQ(n, 1u);
 }
@@ -288,7 +295,8 @@ TEST(FormatDiskProgress, NegativePercentKeepsItsSign) {
     p.FormatDiskProgressPercent = -1;
     std::strcpy(p.PartitionName, "sdb1");
     Text text(s2j_FormatDiskProgress(&p, 0));
-    EXPECT_EQ(text.str(), "{\"StorageDeviceName\":\"sdb\",\"FormatDiskProgressPercent\":-1,\"PartitionName\":\"sdb1\"}");
+    EXPECT_EQ(text.str(),
+              "{\"StorageDeviceName\":\"sdb\",\"FormatDiskProgressPercent\":-1,\"PartitionName\":\"sdb1\"}");
     FormatDiskProgress back = {};
     ASSERT_EQ(j2s_FormatDiskProgress(text.p, &back), 0);
     EXPECT_EQ(back.FormatDiskProgressPercent, -1);
@@ -507,7 +515,8 @@ TEST(RecordStatus, TextIsIdenticalToThatOfASnapshotStatusWithEqualValues) {
         Text rt(s2j_array_RecordStatus(r, 3, formatted)), st(s2j_array_SnapshotStatus(s, 3, formatted));
         EXPECT_EQ(rt.str(), st.str());
     }
-    for (int i = 0; i < 3; ++i) EXPECT_EQ(emitted(struct_to_json_RecordStatus, r[i]), emitted(struct_to_json_SnapshotStatus, s[i]));
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(emitted(struct_to_json_RecordStatus, r[i]), emitted(struct_to_json_SnapshotStatus, s[i]));
     Text compact(s2j_array_RecordStatus(r + 1, 1, 0));
     EXPECT_EQ(compact.str(), "[{\"Channel\":4294967295,\"State\":2147483648,\"FreeCapacity\":4294967295}]");
 }
@@ -523,15 +532,8 @@ TEST(RecordStatus, SurvivesARoundTripUnchanged) {
 }
 
 TEST(RecordStatus, SingleKeyReaderReadsTheChannel) {
-    Tree tree(cJSON_Parse("{\"State\":1,\"Channel\":4294967295}"));
-    uint32_t channel = 0;
-    ASSERT_EQ(json_to_struct_GetRecordStatusKeyword(&channel, tree.p), 1);
-    EXPECT_EQ(channel, 4294967295u);
-    Tree none(cJSON_Parse("{\"State\":1}"));
-    EXPECT_EQ(json_to_struct_GetRecordStatusKeyword(&channel, none.p), 0);
-    Tree text(cJSON_Parse("{\"Channel\":\"0\"}"));
-    EXPECT_EQ(json_to_struct_GetRecordStatusKeyword(&channel, text.p), 0);
-    EXPECT_EQ(channel, 4294967295u);
+    expect_integer_key_reader(json_to_struct_GetRecordStatusKeyword, "{\"State\":1,\"Channel\":4294967295}",
+                              4294967295u, {"{\"State\":1}", "{\"Channel\":\"0\"}"});
 }
 
 TEST(RecordCapabilitySet, TextRoundTripAndLoadingFromAFile) {
@@ -554,9 +556,10 @@ TEST(SnapshotCapabilitySet, ListUnderAnyOtherKeyThanSupportPictrueFormatListIsIg
     SnapshotCapabilitySet c = {};
     std::strcpy(c.SupportPictrueFormatList, "JPEG");
     uint32_t n = 1;
-    ASSERT_EQ(j2s_array_SnapshotCapabilitySet(
-                  "[{\"SupportPictureFormatList\":\"PNG\",\"SupportPictrueFormat\":\"BMP\",\"MaxWidth\":1920}]", &c, &n),
-              0);
+    ASSERT_EQ(
+        j2s_array_SnapshotCapabilitySet(
+            "[{\"SupportPictureFormatList\":\"PNG\",\"SupportPictrueFormat\":\"BMP\",\"MaxWidth\":1920}]", &c, &n),
+        0);
     EXPECT_STREQ(c.SupportPictrueFormatList, "JPEG");
     EXPECT_EQ(c.MaxWidth, 1920u);
     ASSERT_EQ(j2s_array_SnapshotCapabilitySet("[{\"SupportPictrueFormatList\":\"PNG\"}]", &c, &n), 0);
@@ -641,7 +644,8 @@ TEST(SnapshotInputParameter, C2sReportsANullRecordAfterCheckingTheTree) {
     Tree tree(cJSON_Parse("{\"Channel\":1}"));
     StderrCapture err;
     EXPECT_EQ(c2s_SnapshotInputParameter(tree.p, nullptr), -2);
-    EXPECT_EQ(err.text(), text_diag(lines_of("SnapshotInputParameter").c2s, "c2s_SnapshotInputParameter", "struct_ptr is empty!\n"));
+    EXPECT_EQ(err.text(), text_diag(lines_of("SnapshotInputParameter").c2s, "c2s_SnapshotInputParameter",
+                                    "struct_ptr is empty!\n"));
 }
 
 TEST(SnapshotParameter, KeyedUpdateMatchesTheChannelAndArrayFilesKeepTheSettings) {
@@ -651,8 +655,8 @@ TEST(SnapshotParameter, KeyedUpdateMatchesTheChannelAndArrayFilesKeepTheSettings
     arr[1].Channel = 1;
     arr[1].ImageQuality = 80;
     uint32_t n = 2;
-    ASSERT_EQ(j2s_array_update_SnapshotParameter("[{\"Channel\":1,\"ImageQuality\":95,\"FilePath\":\"/mnt/disk0/snap\"}]",
-                                                 arr, &n),
+    ASSERT_EQ(j2s_array_update_SnapshotParameter(
+                  "[{\"Channel\":1,\"ImageQuality\":95,\"FilePath\":\"/mnt/disk0/snap\"}]", arr, &n),
               0);
     EXPECT_EQ(n, 1u);
     EXPECT_EQ(arr[1].ImageQuality, 95u);
@@ -666,12 +670,8 @@ TEST(SnapshotParameter, KeyedUpdateMatchesTheChannelAndArrayFilesKeepTheSettings
 }
 
 TEST(SnapshotStatus, SingleKeyReaderReadsTheChannel) {
-    Tree tree(cJSON_Parse("{\"Channel\":2,\"State\":0}"));
-    uint32_t channel = 0;
-    ASSERT_EQ(json_to_struct_GetSnapshotStatusKeyword(&channel, tree.p), 1);
-    EXPECT_EQ(channel, 2u);
-    Tree none(cJSON_Parse("{\"State\":0}"));
-    EXPECT_EQ(json_to_struct_GetSnapshotStatusKeyword(&channel, none.p), 0);
+    expect_integer_key_reader(json_to_struct_GetSnapshotStatusKeyword, "{\"Channel\":2,\"State\":0}", 2u,
+                              {"{\"State\":0}"});
 }
 
 TEST(SnapshotParameter, KeywordReadersReadTheChannelAndRefuseAnElementWithoutIt) {

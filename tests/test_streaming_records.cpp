@@ -19,14 +19,6 @@ using namespace testing_support;
 namespace {
 
 
-// A record whose every byte is `fill`, so that untouched bytes show.
-template <class T>
-T pattern(unsigned char fill = 0xA5) {
-    T r;
-    std::memset(static_cast<void *>(&r), fill, sizeof r);
-    return r;
-}
-
 template <class T>
 bool same_bytes(const T &a, const T &b) {
     return std::memcmp(&a, &b, sizeof(T)) == 0;
@@ -51,11 +43,6 @@ int64_t int_member(const Tree &t, const char *key) {
     const cJSON *m = member(t, key);
     EXPECT_TRUE(cJSON_IsInt(m)) << key;
     return m != nullptr ? static_cast<int64_t>(m->valuedouble) : 0;
-}
-std::string str_member(const Tree &t, const char *key) {
-    const cJSON *m = member(t, key);
-    EXPECT_TRUE(cJSON_IsString(m)) << key;
-    return m != nullptr && m->valuestring != nullptr ? m->valuestring : "<absent>";
 }
 
 std::string json_string_doc(const char *key, const std::string &value) {
@@ -130,10 +117,13 @@ TEST(StreamingLayout, ProtocolStreamRecordsAndTheirKeywordRecordsHaveTheirNatura
     static_assert(sizeof(((SrtStreamingParameter *)0)->StreamKeyName) == 256, "");
     static_assert(sizeof(((SrtStreamingParameter *)0)->Passphrase) == 64, "");
     static_assert(sizeof(((SrtStreamingParameter *)0)->TargetURL) == 2048, "");
-    static_assert(sizeof(RtspStreamingParameterKeyword) == 8 && offsetof(RtspStreamingParameterKeyword, Index) == 4, "");
-    static_assert(sizeof(RtmpStreamingParameterKeyword) == 8 && offsetof(RtmpStreamingParameterKeyword, Index) == 4, "");
+    static_assert(sizeof(RtspStreamingParameterKeyword) == 8 && offsetof(RtspStreamingParameterKeyword, Index) == 4,
+                  "");
+    static_assert(sizeof(RtmpStreamingParameterKeyword) == 8 && offsetof(RtmpStreamingParameterKeyword, Index) == 4,
+                  "");
     static_assert(sizeof(UdpStreamingParameterKeyword) == 8 && offsetof(UdpStreamingParameterKeyword, Index) == 4, "");
-    static_assert(sizeof(HttpStreamingParameterKeyword) == 8 && offsetof(HttpStreamingParameterKeyword, Index) == 4, "");
+    static_assert(sizeof(HttpStreamingParameterKeyword) == 8 && offsetof(HttpStreamingParameterKeyword, Index) == 4,
+                  "");
     static_assert(sizeof(SrtStreamingParameterKeyword) == 8 && offsetof(SrtStreamingParameterKeyword, Index) == 4, "");
     static_assert(std::is_same<decltype(RtspStreamingParameterKeyword::Channel), uint32_t>::value, "");
     static_assert(std::is_same<decltype(SrtStreamingParameterKeyword::Index), uint32_t>::value, "");
@@ -207,40 +197,28 @@ TEST(StreamingLayout, StreamingInputRecordsHaveTheirNaturalLayoutAndListCapaciti
 // ======================================================================
 
 TEST(RtspCapabilitySet, StreamTypeListOf256CharactersIsStoredAsItsFirst255) {
-    RtspCapabilitySet r = pattern<RtspCapabilitySet>();
-    std::string doc = json_string_doc("SupportedStreamTypeList", std::string(256, 'h'));
-    ASSERT_EQ(j2s_RtspCapabilitySet(doc.c_str(), &r), 0);
-    EXPECT_EQ(std::string(r.SupportedStreamTypeList), std::string(255, 'h'));
-    doc = json_string_doc("SupportedStreamTypeList", std::string(400, 'k'));
-    ASSERT_EQ(j2s_RtspCapabilitySet(doc.c_str(), &r), 0);
-    EXPECT_EQ(std::string(r.SupportedStreamTypeList), std::string(255, 'k'));
+    for (const auto &[len, c] : {std::pair<size_t, char>{256, 'h'}, {400, 'k'}})
+        expect_read_as_prefix(j2s_RtspCapabilitySet, &RtspCapabilitySet::SupportedStreamTypeList,
+                              "SupportedStreamTypeList", len, c);
 }
 
 TEST(RtspCapabilitySet, StreamTypeListOf256BytesWithoutNulIsEmittedAs256Characters) {
-    RtspCapabilitySet r = {};
-    std::memset(r.SupportedStreamTypeList, 'H', sizeof r.SupportedStreamTypeList);
-    Tree t(struct_to_json_RtspCapabilitySet(&r));
-    EXPECT_EQ(str_member(t, "SupportedStreamTypeList"), std::string(256, 'H'));
+    expect_emitted_whole(struct_to_json_RtspCapabilitySet, &RtspCapabilitySet::SupportedStreamTypeList,
+                         "SupportedStreamTypeList", 'H');
 }
 
 TEST(UdpCapabilitySet, StreamTypeListOf256CharactersIsStoredAsItsFirst255AndUnterminatedEmittedWhole) {
-    UdpCapabilitySet r = pattern<UdpCapabilitySet>();
-    std::string doc = json_string_doc("SupportedStreamTypeList", std::string(300, 'u'));
-    ASSERT_EQ(j2s_UdpCapabilitySet(doc.c_str(), &r), 0);
-    EXPECT_EQ(std::string(r.SupportedStreamTypeList), std::string(255, 'u'));
-    std::memset(r.SupportedStreamTypeList, 'U', sizeof r.SupportedStreamTypeList);
-    Tree t(struct_to_json_UdpCapabilitySet(&r));
-    EXPECT_EQ(str_member(t, "SupportedStreamTypeList"), std::string(256, 'U'));
+    expect_read_as_prefix(j2s_UdpCapabilitySet, &UdpCapabilitySet::SupportedStreamTypeList, "SupportedStreamTypeList",
+                          300, 'u');
+    expect_emitted_whole(struct_to_json_UdpCapabilitySet, &UdpCapabilitySet::SupportedStreamTypeList,
+                         "SupportedStreamTypeList", 'U');
 }
 
 TEST(SrtStreamingCapabilitySet, ModeListOf256CharactersIsStoredAsItsFirst255AndUnterminatedEmittedWhole) {
-    SrtStreamingCapabilitySet r = pattern<SrtStreamingCapabilitySet>();
-    std::string doc = json_string_doc("SupportedModeList", std::string(256, 'm'));
-    ASSERT_EQ(j2s_SrtStreamingCapabilitySet(doc.c_str(), &r), 0);
-    EXPECT_EQ(std::string(r.SupportedModeList), std::string(255, 'm'));
-    std::memset(r.SupportedModeList, 'M', sizeof r.SupportedModeList);
-    Tree t(struct_to_json_SrtStreamingCapabilitySet(&r));
-    EXPECT_EQ(str_member(t, "SupportedModeList"), std::string(256, 'M'));
+    expect_read_as_prefix(j2s_SrtStreamingCapabilitySet, &SrtStreamingCapabilitySet::SupportedModeList,
+                          "SupportedModeList", 256, 'm');
+    expect_emitted_whole(struct_to_json_SrtStreamingCapabilitySet, &SrtStreamingCapabilitySet::SupportedModeList,
+                         "SupportedModeList", 'M');
 }
 
 TEST(UdpCapabilitySet, NumericStreamTypeListFailsBeforeAnyFieldIsWritten) {
@@ -271,8 +249,9 @@ TEST(HttpStreamingCapabilitySet, TextTotalCacheDurationFailsAfterTheSixFieldsBef
         "\"MaxHLSCacheFileNumber\": 10, \"MaxHLSCacheFileDuration\": 6, \"MaxHLSTotalCacheDuration\": \"60\"}";
     StderrCapture err;
     EXPECT_EQ(j2s_HttpStreamingCapabilitySet_with_len(doc, std::strlen(doc), &r), -1);
-    EXPECT_EQ(err.text(), diag(text_list_file(), line_of("HttpStreamingCapabilitySet", &s2j::Families::Lines::c2s),
-                               "c2s_HttpStreamingCapabilitySet", "json_to_struct_HttpStreamingCapabilitySet failed!\n"));
+    EXPECT_EQ(err.text(),
+              diag(text_list_file(), line_of("HttpStreamingCapabilitySet", &s2j::Families::Lines::c2s),
+                   "c2s_HttpStreamingCapabilitySet", "json_to_struct_HttpStreamingCapabilitySet failed!\n"));
     EXPECT_EQ(r.StreamingNumberPerChannel, 2u);
     EXPECT_EQ(r.SupportTSOverHttp, 1);
     EXPECT_EQ(r.SupportFLVOverHttp, 0);
@@ -394,7 +373,8 @@ TYPED_TEST(ProtocolStream, UpdateSkipsAnElementWhoseChannelMatchesButWhoseIndexD
     std::memcpy(static_cast<void *>(before), a, sizeof a);
     uint32_t n = 3;
     StderrCapture err;
-    const char *doc = "[{\"Channel\": 1, \"Index\": 1, \"StreamIndex\": 7}, {\"Channel\": 2, \"Index\": 0, \"StreamIndex\": 8}]";
+    const char *doc =
+        "[{\"Channel\": 1, \"Index\": 1, \"StreamIndex\": 7}, {\"Channel\": 2, \"Index\": 0, \"StreamIndex\": 8}]";
     ASSERT_EQ(Stream<T>::j2s_update_len(doc, std::strlen(doc), a, &n), 0);
     EXPECT_EQ(err.text(), "");
     EXPECT_EQ(n, 0u);
@@ -524,40 +504,27 @@ TEST(UdpStreamingParameter, TextDestinationPortFailsAfterDestinationIpIsWritten)
 }
 
 TEST(UdpStreamingParameter, DestinationIpOf48CharactersIsStoredAsItsFirst47) {
-    UdpStreamingParameter r = pattern<UdpStreamingParameter>();
-    Tree t(cJSON_Parse(json_string_doc("DestinationIP", std::string(48, '1')).c_str()));
-    ASSERT_EQ(json_to_struct_UdpStreamingParameter(&r, t.p), 1);
-    EXPECT_EQ(std::string(r.DestinationIP), std::string(47, '1'));
+    expect_read_as_prefix(json_to_struct_UdpStreamingParameter, &UdpStreamingParameter::DestinationIP, "DestinationIP",
+                          48, '1');
 }
 
 TEST(RtspStreamingParameter, StreamPathOf256CharactersIsStoredAsItsFirst255AndUnterminatedEmittedWhole) {
-    RtspStreamingParameter r = pattern<RtspStreamingParameter>();
-    Tree t(cJSON_Parse(json_string_doc("StreamPath", std::string(256, 'p')).c_str()));
-    ASSERT_EQ(json_to_struct_RtspStreamingParameter(&r, t.p), 1);
-    EXPECT_EQ(std::string(r.StreamPath), std::string(255, 'p'));
-    std::memset(r.StreamPath, 'P', sizeof r.StreamPath);
-    Tree e(struct_to_json_RtspStreamingParameter(&r));
-    EXPECT_EQ(str_member(e, "StreamPath"), std::string(256, 'P'));
+    expect_read_as_prefix(json_to_struct_RtspStreamingParameter, &RtspStreamingParameter::StreamPath, "StreamPath", 256,
+                          'p');
+    expect_emitted_whole(struct_to_json_RtspStreamingParameter, &RtspStreamingParameter::StreamPath, "StreamPath", 'P');
 }
 
 TEST(RtmpStreamingParameter, StreamPathOf300CharactersIsStoredAsItsFirst255AndUnterminatedEmittedWhole) {
-    RtmpStreamingParameter r = pattern<RtmpStreamingParameter>();
-    Tree t(cJSON_Parse(json_string_doc("StreamPath", std::string(300, 'r')).c_str()));
-    ASSERT_EQ(json_to_struct_RtmpStreamingParameter(&r, t.p), 1);
-    EXPECT_EQ(std::string(r.StreamPath), std::string(255, 'r'));
-    std::memset(r.StreamPath, 'R', sizeof r.StreamPath);
-    Tree e(struct_to_json_RtmpStreamingParameter(&r));
-    EXPECT_EQ(str_member(e, "StreamPath"), std::string(256, 'R'));
+    expect_read_as_prefix(json_to_struct_RtmpStreamingParameter, &RtmpStreamingParameter::StreamPath, "StreamPath", 300,
+                          'r');
+    expect_emitted_whole(struct_to_json_RtmpStreamingParameter, &RtmpStreamingParameter::StreamPath, "StreamPath", 'R');
 }
 
 TEST(HttpStreamingParameter, SessionNameOf256CharactersIsStoredAsItsFirst255AndUnterminatedEmittedWhole) {
-    HttpStreamingParameter r = pattern<HttpStreamingParameter>();
-    Tree t(cJSON_Parse(json_string_doc("SessionName", std::string(256, 's')).c_str()));
-    ASSERT_EQ(json_to_struct_HttpStreamingParameter(&r, t.p), 1);
-    EXPECT_EQ(std::string(r.SessionName), std::string(255, 's'));
-    std::memset(r.SessionName, 'S', sizeof r.SessionName);
-    Tree e(struct_to_json_HttpStreamingParameter(&r));
-    EXPECT_EQ(str_member(e, "SessionName"), std::string(256, 'S'));
+    expect_read_as_prefix(json_to_struct_HttpStreamingParameter, &HttpStreamingParameter::SessionName, "SessionName",
+                          256, 's');
+    expect_emitted_whole(struct_to_json_HttpStreamingParameter, &HttpStreamingParameter::SessionName, "SessionName",
+                         'S');
 }
 
 TEST(HttpStreamingParameter, HasNoEnableNorStreamTypeAndIgnoresThemOnInput) {
@@ -581,33 +548,22 @@ TEST(HttpStreamingParameter, HasNoEnableNorStreamTypeAndIgnoresThemOnInput) {
 }
 
 TEST(SrtStreamingParameter, StreamKeyNameOf256CharactersIsStoredAsItsFirst255AndUnterminatedEmittedWhole) {
-    SrtStreamingParameter r = pattern<SrtStreamingParameter>();
-    Tree t(cJSON_Parse(json_string_doc("StreamKeyName", std::string(256, 'k')).c_str()));
-    ASSERT_EQ(json_to_struct_SrtStreamingParameter(&r, t.p), 1);
-    EXPECT_EQ(std::string(r.StreamKeyName), std::string(255, 'k'));
-    std::memset(r.StreamKeyName, 'K', sizeof r.StreamKeyName);
-    Tree e(struct_to_json_SrtStreamingParameter(&r));
-    EXPECT_EQ(str_member(e, "StreamKeyName"), std::string(256, 'K'));
+    expect_read_as_prefix(json_to_struct_SrtStreamingParameter, &SrtStreamingParameter::StreamKeyName, "StreamKeyName",
+                          256, 'k');
+    expect_emitted_whole(struct_to_json_SrtStreamingParameter, &SrtStreamingParameter::StreamKeyName, "StreamKeyName",
+                         'K');
 }
 
 TEST(SrtStreamingParameter, TargetUrlOf2048CharactersOrMoreIsStoredAsItsFirst2047) {
-    for (size_t len : {2048u, 3000u}) {
-        SrtStreamingParameter r = pattern<SrtStreamingParameter>();
-        Tree t(cJSON_Parse(json_string_doc("TargetURL", std::string(len, 'u')).c_str()));
-        ASSERT_EQ(json_to_struct_SrtStreamingParameter(&r, t.p), 1);
-        EXPECT_EQ(std::string(r.TargetURL), std::string(2047, 'u')) << len;
-    }
-    SrtStreamingParameter r = {};
-    std::memset(r.TargetURL, 'U', sizeof r.TargetURL);
-    Tree e(struct_to_json_SrtStreamingParameter(&r));
-    EXPECT_EQ(str_member(e, "TargetURL"), std::string(2048, 'U'));
+    for (size_t len : {2048u, 3000u})
+        expect_read_as_prefix(json_to_struct_SrtStreamingParameter, &SrtStreamingParameter::TargetURL, "TargetURL", len,
+                              'u');
+    expect_emitted_whole(struct_to_json_SrtStreamingParameter, &SrtStreamingParameter::TargetURL, "TargetURL", 'U');
 }
 
 TEST(SrtStreamingParameter, PassphraseOf64CharactersIsStoredAs63) {
-    SrtStreamingParameter r = pattern<SrtStreamingParameter>();
-    Tree t(cJSON_Parse(json_string_doc("Passphrase", std::string(64, 'w')).c_str()));
-    ASSERT_EQ(json_to_struct_SrtStreamingParameter(&r, t.p), 1);
-    EXPECT_EQ(std::string(r.Passphrase), std::string(63, 'w'));
+    expect_read_as_prefix(json_to_struct_SrtStreamingParameter, &SrtStreamingParameter::Passphrase, "Passphrase", 64,
+                          'w');
 }
 
 TEST(SrtStreamingParameter, PortIsUnsignedLikeModeAndAesKeySize) {
@@ -869,7 +825,8 @@ TEST(StreamingInputParameter, UpdateAppliesAnElementToTheInputWithItsIndex) {
                                     {1, "rtsp://192.0.2.102/b", "B", "", ""},
                                     {2, "rtsp://192.0.2.103/c", "C", "", ""}};
     uint32_t n = 3;
-    Tree doc(cJSON_Parse("[{\"Index\": 2, \"URL\": \"srt://198.51.100.17:9002\"}, {\"Index\": 9, \"Alias\": \"none\"}]"));
+    Tree doc(
+        cJSON_Parse("[{\"Index\": 2, \"URL\": \"srt://198.51.100.17:9002\"}, {\"Index\": 9, \"Alias\": \"none\"}]"));
     ASSERT_EQ(c2s_array_update_StreamingInputParameter(doc.p, a, &n), 0);
     EXPECT_EQ(n, 1u);
     EXPECT_STREQ(a[2].URL, "srt://198.51.100.17:9002");
@@ -879,14 +836,9 @@ TEST(StreamingInputParameter, UpdateAppliesAnElementToTheInputWithItsIndex) {
 }
 
 TEST(StreamingInputStatus, SingleKeyReaderReadsIndex) {
-    uint32_t index = 0;
-    Tree t(cJSON_Parse("{\"IsConnected\": 1, \"Index\": 4294967295}"));
-    EXPECT_EQ(json_to_struct_GetStreamingInputStatusKeyword(&index, t.p), 1);
-    EXPECT_EQ(index, 4294967295u);
-    Tree bad(cJSON_Parse("{\"Index\": \"3\"}"));
-    EXPECT_EQ(json_to_struct_GetStreamingInputStatusKeyword(&index, bad.p), 0);
-    Tree none(cJSON_Parse("{\"IsConnected\": 1}"));
-    EXPECT_EQ(json_to_struct_GetStreamingInputStatusKeyword(&index, none.p), 0);
+    expect_integer_key_reader(json_to_struct_GetStreamingInputStatusKeyword,
+                              "{\"IsConnected\": 1, \"Index\": 4294967295}", 4294967295u,
+                              {"{\"Index\": \"3\"}", "{\"IsConnected\": 1}"});
 }
 
 TEST(StreamingInputStatus, FlagsAreSignedAndBandwidthsUnsigned) {
@@ -1192,20 +1144,28 @@ TEST(StreamingInputUseCount, StrictReaderAcceptsAWholeRecordWithSkippedItems) {
     } while (0)
 
 TEST(StreamingExamples, CapabilitySetsLoadFromTheirExampleFiles) {
-    EXPECT_SINGLE_EXAMPLE(StreamingOutputCapabilitySet, f2s_StreamingOutputCapabilitySet(example_path("StreamingOutputCapabilitySet").c_str(), &r));
+    EXPECT_SINGLE_EXAMPLE(StreamingOutputCapabilitySet,
+                          f2s_StreamingOutputCapabilitySet(example_path("StreamingOutputCapabilitySet").c_str(), &r));
     EXPECT_SINGLE_EXAMPLE(RtspCapabilitySet, f2s_RtspCapabilitySet(example_path("RtspCapabilitySet").c_str(), &r));
     EXPECT_SINGLE_EXAMPLE(RtmpCapabilitySet, f2s_RtmpCapabilitySet(example_path("RtmpCapabilitySet").c_str(), &r));
     EXPECT_SINGLE_EXAMPLE(UdpCapabilitySet, f2s_UdpCapabilitySet(example_path("UdpCapabilitySet").c_str(), &r));
-    EXPECT_SINGLE_EXAMPLE(HttpStreamingCapabilitySet, f2s_HttpStreamingCapabilitySet(example_path("HttpStreamingCapabilitySet").c_str(), &r));
-    EXPECT_SINGLE_EXAMPLE(SrtStreamingCapabilitySet, f2s_SrtStreamingCapabilitySet(example_path("SrtStreamingCapabilitySet").c_str(), &r));
-    EXPECT_SINGLE_EXAMPLE(StreamingInputCapabilitySet, f2s_StreamingInputCapabilitySet(example_path("StreamingInputCapabilitySet").c_str(), &r));
+    EXPECT_SINGLE_EXAMPLE(HttpStreamingCapabilitySet,
+                          f2s_HttpStreamingCapabilitySet(example_path("HttpStreamingCapabilitySet").c_str(), &r));
+    EXPECT_SINGLE_EXAMPLE(SrtStreamingCapabilitySet,
+                          f2s_SrtStreamingCapabilitySet(example_path("SrtStreamingCapabilitySet").c_str(), &r));
+    EXPECT_SINGLE_EXAMPLE(StreamingInputCapabilitySet,
+                          f2s_StreamingInputCapabilitySet(example_path("StreamingInputCapabilitySet").c_str(), &r));
 }
 
 TEST(StreamingExamples, SettingsLoadFromTheirExampleFiles) {
-    EXPECT_SINGLE_EXAMPLE(StreamingOutputParameter, f2s_StreamingOutputParameter(example_path("StreamingOutputParameter").c_str(), &r));
-    EXPECT_SINGLE_EXAMPLE(RtspServerParameter, f2s_RtspServerParameter(example_path("RtspServerParameter").c_str(), &r));
-    EXPECT_SINGLE_EXAMPLE(HttpStreamingServerParameter, f2s_HttpStreamingServerParameter(example_path("HttpStreamingServerParameter").c_str(), &r));
-    EXPECT_SINGLE_EXAMPLE(OnvifServerParameter, f2s_OnvifServerParameter(example_path("OnvifServerParameter").c_str(), &r));
+    EXPECT_SINGLE_EXAMPLE(StreamingOutputParameter,
+                          f2s_StreamingOutputParameter(example_path("StreamingOutputParameter").c_str(), &r));
+    EXPECT_SINGLE_EXAMPLE(RtspServerParameter,
+                          f2s_RtspServerParameter(example_path("RtspServerParameter").c_str(), &r));
+    EXPECT_SINGLE_EXAMPLE(HttpStreamingServerParameter,
+                          f2s_HttpStreamingServerParameter(example_path("HttpStreamingServerParameter").c_str(), &r));
+    EXPECT_SINGLE_EXAMPLE(OnvifServerParameter,
+                          f2s_OnvifServerParameter(example_path("OnvifServerParameter").c_str(), &r));
     EXPECT_SINGLE_EXAMPLE(WebServerParameter, f2s_WebServerParameter(example_path("WebServerParameter").c_str(), &r));
 }
 

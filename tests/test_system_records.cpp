@@ -106,7 +106,8 @@ TEST(CrontabParameter, UpdateWhoseElementsLackIndexIsRefusedBeforeAnyTaskChanges
     std::memcpy(before, tasks, sizeof tasks);
     uint32_t n = 2;
     StderrCapture err;
-    EXPECT_EQ(j2s_array_update_CrontabParameter("[{\"Enable\": 1}, {\"Enable\": 1, \"Command\": \"x\"}]", tasks, &n), -2);
+    EXPECT_EQ(j2s_array_update_CrontabParameter("[{\"Enable\": 1}, {\"Enable\": 1, \"Command\": \"x\"}]", tasks, &n),
+              -2);
     EXPECT_EQ(err.text(), diag(text_list_file(), 12, "c2s_array_update_CrontabParameter",
                                "The keyword is not contained in an object of the json array!\n"));
     EXPECT_EQ(std::memcmp(tasks, before, sizeof tasks), 0);
@@ -148,7 +149,8 @@ TEST(NTPParameter, PollIntervalsAreSignedAndPortUnsigned) {
     p.MaxPollInterval = 17;
     p.ServerPort = 123;
     Text text(s2j_NTPParameter(&p, 0));
-    EXPECT_EQ(text.str(), "{\"Enable\":0,\"ServerDomain\":\"\",\"ServerPort\":123,\"MinPollInterval\":-6,\"MaxPollInterval\":17}");
+    EXPECT_EQ(text.str(),
+              "{\"Enable\":0,\"ServerDomain\":\"\",\"ServerPort\":123,\"MinPollInterval\":-6,\"MaxPollInterval\":17}");
 }
 
 }  // namespace

@@ -266,7 +266,8 @@ TEST(TextWriterAllocation, one_allocation_through_cjsons_allocator_per_text) {
     Rng rng{5};
     fill_generated(one, rec.data(), rng, UINT32_MAX, Strings::Random, 0);
     for (uint32_t r = 0; r < 64; ++r)
-        fill_generated(many, recs.data() + static_cast<size_t>(r) * many->desc->size, rng, UINT32_MAX, Strings::Random, r);
+        fill_generated(many, recs.data() + static_cast<size_t>(r) * many->desc->size, rng, UINT32_MAX, Strings::Random,
+                       r);
     for (int formatted = 0; formatted < 2; ++formatted) {
         char *a, *b;
         long after_one, after_many;

@@ -85,7 +85,8 @@ int run_all_families(int id, const std::string &dir, std::atomic<long> *calls) {
             }
             if (f.c2s_array) {
                 Tree tree(cJSON_CreateArray());
-                for (uint32_t i = 0; i < kElements; ++i) cJSON_AddItemToArray(tree.p, t->hooks->emit(src.data() + i * sz));
+                for (uint32_t i = 0; i < kElements; ++i)
+                    cJSON_AddItemToArray(tree.p, t->hooks->emit(src.data() + i * sz));
                 uint32_t count = kElements;
                 std::fill(dst.begin(), dst.end(), 0);
                 check(f.c2s_array(tree.p, dst.data(), &count) == 0 && dst == src);

@@ -4,9 +4,8 @@
 set -u
 tool=$1
 examples=$2
-tmp=$(mktemp -d)
-trap 'rm -rf "$tmp"' EXIT
 . "$(dirname "$0")/shell_checks.sh"
+scratch_dir
 
 # Every type has an example; each loads, and prints back exactly as written.
 types=$("$tool" types | awk '{print $1}')
@@ -49,8 +48,11 @@ expect_contains "$out" "print TYPE FILE [--compact]" "--help text"
 
 # Every command answers --help with its synopsis and exit status 0, and
 # every command that takes arguments rejects an unknown option with 2.
-commands=$("$tool" --help | sed -n 's/^ *\(usage:\)\{0,1\} *app_s2j \([a-z]*\) .*/\2/p; s/^ *\(usage:\)\{0,1\} *app_s2j \([a-z]*\)$/\2/p' | grep -v '^$' | sort -u)
-expect_eq "$(echo $commands)" "check diff print reference schema template types update validate" "the usage lists every command"
+commands=$("$tool" --help |
+  sed -n 's/^ *\(usage:\)\{0,1\} *app_s2j \([a-z]*\) .*/\2/p; s/^ *\(usage:\)\{0,1\} *app_s2j \([a-z]*\)$/\2/p' |
+  grep -v '^$' | sort -u)
+expect_eq "$(echo $commands)" "check diff print reference schema template types update validate" \
+  "the usage lists every command"
 for c in $commands; do
   out=$("$tool" "$c" --help); rc=$?
   expect_eq "$rc" "0" "$c --help"

@@ -5,9 +5,8 @@
 set -u
 tool=$1
 examples=$2
-tmp=$(mktemp -d)
-trap 'rm -rf "$tmp"' EXIT
 . "$(dirname "$0")/shell_checks.sh"
+scratch_dir
 
 inode() { stat -c %i "$1"; }
 # Files in the scratch directory other than the ones named.

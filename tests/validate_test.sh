@@ -10,9 +10,8 @@ set -u
 tool=$1
 corpus=$2
 regenerate=${3:-}
-tmp=$(mktemp -d)
-trap 'rm -rf "$tmp"' EXIT
 . "$(dirname "$0")/shell_checks.sh"
+scratch_dir
 
 cd "$corpus" || exit 1
 count=0
@@ -70,7 +69,8 @@ expect_eq "$rc" "1" "validate a missing file"
 expect_eq "$out" "app_s2j: cannot read '$tmp/missing.json': No such file or directory" "missing file message"
 out=$("$tool" validate StreamingInputUseCount "$corpus/StreamingInputUseCount.short-lists.json" --quiet); rc=$?
 expect_eq "$rc" "0" "--quiet keeps the exit status"
-expect_eq "$out" "$corpus/StreamingInputUseCount.short-lists.json: valid StreamingInputUseCount" "--quiet leaves out notes"
+expect_eq "$out" "$corpus/StreamingInputUseCount.short-lists.json: valid StreamingInputUseCount" \
+  "--quiet leaves out notes"
 # Standard input, and the findings as JSON.
 out=$("$tool" validate VideoEncodeParameter - < "$corpus/VideoEncodeParameter.width-as-text.json"); rc=$?
 expect_eq "$rc" "1" "validate from standard input"
