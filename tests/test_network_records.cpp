@@ -202,13 +202,9 @@ TEST(NetworkLANParameter, MACAddressOf18OrMoreCharactersIsStoredAsItsFirst17) {
 }
 
 TEST(NetworkLANParameter, IPv4AddressOf16OrMoreCharactersIsStoredAsItsFirst15) {
-    for (size_t len : {16u, 40u}) {
-        NetworkLANParameter r = {};
-        Tree tree(cJSON_CreateObject());
-        cJSON_AddStringToObject(tree.p, "IPv4Address", chars(len, '1').c_str());
-        ASSERT_EQ(json_to_struct_NetworkLANParameter(&r, tree.p), 1);
-        EXPECT_EQ(std::string(r.IPv4Address), chars(15, '1'));
-    }
+    for (size_t len : {16u, 40u})
+        expect_read_as_prefix(json_to_struct_NetworkLANParameter, &NetworkLANParameter::IPv4Address, "IPv4Address", len,
+                              '1');
     NetworkLANParameter r = {};
     Tree tree(cJSON_Parse("{\"IPv4Address\":\"255.255.255.255\"}"));  // 15 characters fit
     ASSERT_EQ(json_to_struct_NetworkLANParameter(&r, tree.p), 1);
@@ -216,13 +212,9 @@ TEST(NetworkLANParameter, IPv4AddressOf16OrMoreCharactersIsStoredAsItsFirst15) {
 }
 
 TEST(NetworkLANParameter, IPv6AddressOf48OrMoreCharactersIsStoredAsItsFirst47) {
-    for (size_t len : {48u, 100u}) {
-        NetworkLANParameter r = {};
-        Tree tree(cJSON_CreateObject());
-        cJSON_AddStringToObject(tree.p, "IPv6Address", chars(len, 'f').c_str());
-        ASSERT_EQ(json_to_struct_NetworkLANParameter(&r, tree.p), 1);
-        EXPECT_EQ(std::string(r.IPv6Address), chars(47, 'f'));
-    }
+    for (size_t len : {48u, 100u})
+        expect_read_as_prefix(json_to_struct_NetworkLANParameter, &NetworkLANParameter::IPv6Address, "IPv6Address", len,
+                              'f');
 }
 
 TEST(NetworkLANParameter, MTUSizeOf70000IsReadBackAs4464) {
@@ -460,11 +452,7 @@ TEST(NetworkWIFIParameter, TheSameMTUSizeDocumentIsCutTo16BitsOnlyByTheLANRecord
 }
 
 TEST(NetworkWIFIParameter, SSIDOf64OrMoreCharactersIsStoredAsItsFirst63) {
-    NetworkWIFIParameter r = {};
-    Tree tree(cJSON_CreateObject());
-    cJSON_AddStringToObject(tree.p, "SSID", chars(64, 's').c_str());
-    ASSERT_EQ(json_to_struct_NetworkWIFIParameter(&r, tree.p), 1);
-    EXPECT_EQ(std::string(r.SSID), chars(63, 's'));
+    expect_read_as_prefix(json_to_struct_NetworkWIFIParameter, &NetworkWIFIParameter::SSID, "SSID", 64, 's');
 }
 
 TEST(NetworkWIFIParameter, SecurityKeysOf64OrMoreCharactersAreStoredAsTheirFirst63) {
@@ -574,13 +562,9 @@ TEST(ScanWIFIHotspotParameter, EmitterExistsThoughNoTextFamilyDoes) {
 // ---- Serial ports --------------------------------------------------------------
 
 TEST(SerialPortNetworkTransferParameter, PeerAddressOf256OrMoreCharactersIsStoredAsItsFirst255) {
-    for (size_t len : {256u, 300u}) {
-        SerialPortNetworkTransferParameter r = {};
-        Tree tree(cJSON_CreateObject());
-        cJSON_AddStringToObject(tree.p, "PeerAddress", chars(len, 'h').c_str());
-        ASSERT_EQ(json_to_struct_SerialPortNetworkTransferParameter(&r, tree.p), 1);
-        EXPECT_EQ(std::string(r.PeerAddress), chars(255, 'h'));
-    }
+    for (size_t len : {256u, 300u})
+        expect_read_as_prefix(json_to_struct_SerialPortNetworkTransferParameter,
+                              &SerialPortNetworkTransferParameter::PeerAddress, "PeerAddress", len, 'h');
 }
 
 TEST(SerialPortParameter, BaudrateGivenAsTextFailsAfterInterfaceNameAndEnableAreWritten) {

@@ -404,13 +404,9 @@ TEST(RemoveStorageDeviceParameter, RequestIsReadAndAWrongTypeIsReportedOnTheC2sL
 // ---- Recording ---------------------------------------------------------------
 
 TEST(RecordParameter, ScheduleTableOf2048OrMoreCharactersIsReadAsItsFirst2047) {
-    for (size_t len : {2048u, 5000u}) {
-        RecordParameter r = {};
-        Tree tree(cJSON_CreateObject());
-        cJSON_AddStringToObject(tree.p, "ScheduleTable", chars(len, 's').c_str());
-        ASSERT_EQ(json_to_struct_RecordParameter(&r, tree.p), 1);
-        EXPECT_EQ(std::string(r.ScheduleTable), chars(2047, 's'));
-    }
+    for (size_t len : {2048u, 5000u})
+        expect_read_as_prefix(json_to_struct_RecordParameter, &RecordParameter::ScheduleTable, "ScheduleTable", len,
+                              's');
 }
 
 TEST(RecordParameter, ScheduleTableFillingAll2048BytesIsEmittedAsExactly2048Characters) {
