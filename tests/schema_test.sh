@@ -21,9 +21,7 @@ expect_contains "$out" '"$id":	"urn:app-s2j:DeviceTime"' "id of a type"
 expect_contains "$out" '"minimum":	-2147483648' "int32 minimum written exactly"
 expect_contains "$out" '"maximum":	4294967295' "uint32 maximum written exactly"
 
-out=$("$tool" schema CrontabParameter --update 2>&1); rc=$?
-expect_eq "$rc" "0" "schema --update"
-expect_contains "$out" '"$id":	"urn:app-s2j:CrontabParameter:update"' "id of an update request"
+expect_run "schema --update" 0 '"$id":	"urn:app-s2j:CrontabParameter:update"' "$tool" schema CrontabParameter --update
 expect_contains "$out" '"required":	["Index"]' "update requires the key"
 
 "$tool" schema --all > "$tmp/all" 2> "$tmp/err"; rc=$?

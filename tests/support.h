@@ -222,6 +222,32 @@ void expect_emitted_whole(cJSON *(*emit)(const T *), char (T::*member)[N], const
 void expect_integer_key_reader(int (*get)(uint32_t *, const cJSON *), const char *doc, uint32_t want,
                                std::initializer_list<const char *> refused);
 
+// A flag whose key has one spelling: the reader of a tree reads `key` and
+// leaves the member as it was (`kept`) for `other`, the other spelling.
+template <class T>
+void expect_reads_only_spelling(int (*read)(T *, const cJSON *), int32_t T::*member, const char *key,
+                                const char *other, int32_t kept) {
+    T r = {};
+    r.*member = kept;
+    Tree wrong(cJSON_CreateObject());
+    cJSON_AddNumberToObject(wrong.p, other, 1);
+    ASSERT_EQ(read(&r, wrong.p), 1) << other;
+    EXPECT_EQ(r.*member, kept) << other;
+    Tree right(cJSON_CreateObject());
+    cJSON_AddNumberToObject(right.p, key, 1);
+    ASSERT_EQ(read(&r, right.p), 1) << key;
+    EXPECT_EQ(r.*member, 1) << key;
+}
+// The emitter writes `key` (exactly so) and no `other` in any letter case.
+template <class T>
+void expect_emits_only_spelling(cJSON *(*emit)(const T *), int32_t T::*member, const char *key, const char *other) {
+    T r = {};
+    r.*member = 1;
+    Tree tree(emit(&r));
+    EXPECT_NE(cJSON_GetObjectItemCaseSensitive(tree.p, key), nullptr) << key;
+    EXPECT_EQ(cJSON_GetObjectItem(tree.p, other), nullptr) << other;
+}
+
 }  // namespace testing_support
 
 #endif
