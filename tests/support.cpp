@@ -168,6 +168,20 @@ std::string compact(cJSON *tree) {
     return print_compact(tree);
 }
 
+CrontabParameter crontab_task(uint32_t index, const char *minute, const char *hour, const char *weekday,
+                              const std::string &command) {
+    CrontabParameter c = {};
+    c.Index = index;
+    c.Enable = 1;
+    std::snprintf(c.Minute, sizeof c.Minute, "%s", minute);
+    std::snprintf(c.Hour, sizeof c.Hour, "%s", hour);
+    std::snprintf(c.Day, sizeof c.Day, "*");
+    std::snprintf(c.Month, sizeof c.Month, "*");
+    std::snprintf(c.Weekday, sizeof c.Weekday, "%s", weekday);
+    std::snprintf(c.Command, sizeof c.Command, "%s", command.c_str());
+    return c;
+}
+
 using s2j::Field;
 using s2j::Kind;
 using s2j::TypeInfo;

@@ -69,6 +69,11 @@ std::string print_compact(const cJSON *tree);
 // The same of a tree made for the call (an emitter's), which it deletes.
 std::string compact(cJSON *tree);
 
+// A scheduled task: enabled, run at `minute` and `hour` on `weekday`, on
+// every day and month.
+CrontabParameter crontab_task(uint32_t index, const char *minute, const char *hour, const char *weekday,
+                              const std::string &command);
+
 // Records of a registry type filled field by field (integers, strings and
 // lists alike), with keys distinct per seed so that the elements of an array
 // can be told apart.

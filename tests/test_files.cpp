@@ -17,16 +17,7 @@ constexpr int kF2sCapabilityLine = 115, kF2sArrayLine = 117, kS2fArrayLine = 118
 constexpr int kS2jArrayLine = 10;
 
 CrontabParameter task(uint32_t index) {
-    CrontabParameter c = {};
-    c.Index = index;
-    c.Enable = 1;
-    std::strcpy(c.Minute, "0");
-    std::strcpy(c.Hour, "3");
-    std::strcpy(c.Day, "*");
-    std::strcpy(c.Month, "*");
-    std::strcpy(c.Weekday, "*");
-    std::snprintf(c.Command, sizeof c.Command, "/usr/bin/cleanup --slot %u", index);
-    return c;
+    return crontab_task(index, "0", "3", "*", "/usr/bin/cleanup --slot " + std::to_string(index));
 }
 
 DeviceInfo info() {

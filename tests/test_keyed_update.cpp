@@ -15,10 +15,6 @@ namespace {
 // CrontabParameter's lines in the instantiation list.
 constexpr int kUpdateLine = 12, kJ2sUpdateLine = 14;
 
-std::string d(int line, const std::string &func, const std::string &msg) {
-    return diag(text_list_file(), line, func, msg);
-}
-
 struct Tasks {
     CrontabParameter t[3] = {};
     Tasks() {
@@ -59,7 +55,7 @@ TEST(KeyedUpdate, ElementWithoutItsKeyIsRefusedAfterEarlierElementsWereApplied) 
     EXPECT_EQ(j2s_array_update_CrontabParameter(
                   "[{\"Index\": 1, \"Enable\": 5}, {\"Enable\": 6}, {\"Index\": 2, \"Enable\": 7}]", a.t, &n),
               -2);
-    EXPECT_EQ(err.text(), d(kUpdateLine, "c2s_array_update_CrontabParameter",
+    EXPECT_EQ(err.text(), text_diag(kUpdateLine, "c2s_array_update_CrontabParameter",
                             "The keyword is not contained in an object of the json array!\n"));
     EXPECT_EQ(n, 3u);
     EXPECT_EQ(a.t[0].Enable, 5);
@@ -72,7 +68,7 @@ TEST(KeyedUpdate, KeyOfTheWrongJsonTypeCountsAsMissing) {
         uint32_t n = 3;
         StderrCapture err;
         EXPECT_EQ(j2s_array_update_CrontabParameter(text, a.t, &n), -2) << text;
-        EXPECT_EQ(err.text(), d(kUpdateLine, "c2s_array_update_CrontabParameter",
+        EXPECT_EQ(err.text(), text_diag(kUpdateLine, "c2s_array_update_CrontabParameter",
                                 "The keyword is not contained in an object of the json array!\n"));
     }
 }
@@ -124,7 +120,7 @@ TEST(KeyedUpdate, ReaderFailureOfAMatchedElementReturnsMinusOneWithCountUnchange
                                                 a.t, &n),
               -1);
     EXPECT_EQ(err.text(),
-              d(kUpdateLine, "c2s_array_update_CrontabParameter", "json_to_struct_CrontabParameter failed!\n"));
+              text_diag(kUpdateLine, "c2s_array_update_CrontabParameter", "json_to_struct_CrontabParameter failed!\n"));
     EXPECT_EQ(n, 3u);
     EXPECT_EQ(a.t[0].Enable, 3);
 }
@@ -154,7 +150,7 @@ TEST(KeyedUpdate, C2sArrayUpdateChecksArgumentsInOrder) {
     for (const Case &c : cases) {
         StderrCapture err;
         EXPECT_EQ(c2s_array_update_CrontabParameter(c.json, c.arr, c.count), -2);
-        EXPECT_EQ(err.text(), d(kUpdateLine, "c2s_array_update_CrontabParameter", c.msg));
+        EXPECT_EQ(err.text(), text_diag(kUpdateLine, "c2s_array_update_CrontabParameter", c.msg));
         EXPECT_EQ(n, 3u);
     }
 }
@@ -171,29 +167,30 @@ TEST(KeyedUpdate, J2sArrayUpdateRefusesNullArgumentsAndUnparsableText) {
     for (const Case &c : cases) {
         StderrCapture err;
         EXPECT_EQ(j2s_array_update_CrontabParameter(c.text, c.arr, c.count), -2);
-        EXPECT_EQ(err.text(), d(kJ2sUpdateLine, f, "json_str or struct_array or struct_array_size is empty!\n"));
+        EXPECT_EQ(err.text(),
+                  text_diag(kJ2sUpdateLine, f, "json_str or struct_array or struct_array_size is empty!\n"));
     }
     for (const Case &c : cases) {
         StderrCapture err;
         EXPECT_EQ(j2s_array_update_CrontabParameter_with_len(c.text, 2, c.arr, c.count), -2);
-        EXPECT_EQ(err.text(), d(kJ2sUpdateLine, f + "_with_len",
+        EXPECT_EQ(err.text(), text_diag(kJ2sUpdateLine, f + "_with_len",
                                 "json_str or json_str_len or struct_array or struct_array_size is empty!\n"));
     }
     {
         StderrCapture err;
         EXPECT_EQ(j2s_array_update_CrontabParameter_with_len("[]", 0, a.t, &n), -2);
-        EXPECT_EQ(err.text(), d(kJ2sUpdateLine, f + "_with_len",
+        EXPECT_EQ(err.text(), text_diag(kJ2sUpdateLine, f + "_with_len",
                                 "json_str or json_str_len or struct_array or struct_array_size is empty!\n"));
     }
     {
         StderrCapture err;
         EXPECT_EQ(j2s_array_update_CrontabParameter("[{]", a.t, &n), -2);
-        EXPECT_EQ(err.text(), d(kJ2sUpdateLine, f, "cJSON_Parse([{]) failed! reason: " + parse_reason("[{]")));
+        EXPECT_EQ(err.text(), text_diag(kJ2sUpdateLine, f, "cJSON_Parse([{]) failed! reason: " + parse_reason("[{]")));
     }
     {
         StderrCapture err;
         EXPECT_EQ(j2s_array_update_CrontabParameter_with_len("[{]", 3, a.t, &n), -2);
-        EXPECT_EQ(err.text(), d(kJ2sUpdateLine, f + "_with_len",
+        EXPECT_EQ(err.text(), text_diag(kJ2sUpdateLine, f + "_with_len",
                                 "cJSON_ParseWithLength([{], 3) failed! reason: " + parse_reason_with_len("[{]", 3)));
     }
     EXPECT_EQ(n, 3u);
