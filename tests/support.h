@@ -253,6 +253,22 @@ void expect_emits_only_spelling(cJSON *(*emit)(const T *), int32_t T::*member, c
     EXPECT_EQ(cJSON_GetObjectItem(tree.p, other), nullptr) << other;
 }
 
+// The N records saved with s2f_array and loaded with f2s_array into room for
+// `capacity` (at least N) come back as they were, N of them.
+template <class T, size_t N>
+void expect_array_file_round_trip(int (*s2f_array)(const char *, const T *, uint32_t),
+                                  int (*f2s_array)(const char *, T *, uint32_t *), const T (&arr)[N],
+                                  uint32_t capacity) {
+    const std::string path = temp_dir() + "/records.json";
+    ASSERT_EQ(s2f_array(path.c_str(), arr, N), 0);
+    std::vector<T> back(capacity);
+    std::memset(static_cast<void *>(back.data()), 0, capacity * sizeof(T));
+    uint32_t n = capacity;
+    ASSERT_EQ(f2s_array(path.c_str(), back.data(), &n), 0);
+    EXPECT_EQ(n, N);
+    EXPECT_EQ(std::memcmp(back.data(), arr, sizeof arr), 0);
+}
+
 }  // namespace testing_support
 
 #endif

@@ -252,13 +252,7 @@ TEST(DiskGroupParameter, KeyedUpdateMovesTheNamedDeviceToAnotherGroupAndArrayFil
     ASSERT_EQ(j2s_array_update_DiskGroupParameter("[{\"StorageDeviceName\":\"sdb\",\"GroupID\":-1}]", arr, &n), 0);
     EXPECT_EQ(n, 1u);
     EXPECT_EQ(arr[1].GroupID, -1);
-    std::string path = temp_dir() + "/groups.json";
-    ASSERT_EQ(s2f_array_DiskGroupParameter(path.c_str(), arr, 3), 0);
-    DiskGroupParameter back[3] = {};
-    uint32_t m = 3;
-    ASSERT_EQ(f2s_array_DiskGroupParameter(path.c_str(), back, &m), 0);
-    EXPECT_EQ(m, 3u);
-    EXPECT_EQ(std::memcmp(back, arr, sizeof arr), 0);
+    expect_array_file_round_trip(s2f_array_DiskGroupParameter, f2s_array_DiskGroupParameter, arr, 3);
 }
 
 TEST(DiskGroupParameter, KeyedUpdateOfAnElementWithoutStorageDeviceNameIsRefused) {
@@ -657,12 +651,7 @@ TEST(SnapshotParameter, KeyedUpdateMatchesTheChannelAndArrayFilesKeepTheSettings
     EXPECT_EQ(n, 1u);
     EXPECT_EQ(arr[1].ImageQuality, 95u);
     EXPECT_EQ(arr[0].ImageQuality, 80u);
-    std::string path = temp_dir() + "/snap.json";
-    ASSERT_EQ(s2f_array_SnapshotParameter(path.c_str(), arr, 2), 0);
-    SnapshotParameter back[2] = {};
-    uint32_t m = 2;
-    ASSERT_EQ(f2s_array_SnapshotParameter(path.c_str(), back, &m), 0);
-    EXPECT_EQ(std::memcmp(back, arr, sizeof arr), 0);
+    expect_array_file_round_trip(s2f_array_SnapshotParameter, f2s_array_SnapshotParameter, arr, 2);
 }
 
 TEST(SnapshotStatus, SingleKeyReaderReadsTheChannel) {
