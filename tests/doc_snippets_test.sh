@@ -11,9 +11,8 @@ cc=$1
 src=$2
 lib=$(cd "$(dirname "$3")" && pwd)/$(basename "$3")
 shift 3
-tmp=$(mktemp -d)
-trap 'rm -rf "$tmp"' EXIT
 . "$(dirname "$0")/shell_checks.sh"
+scratch_dir
 
 count=0
 for doc in "$src/README.md" "$src"/docs/*.md; do

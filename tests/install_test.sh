@@ -37,16 +37,21 @@ fi
 # Soname and dynamic dependencies: the C library and cJSON only.
 soname=$(readelf -d "$lib" | sed -n 's/.*(SONAME).*\[\(.*\)\]/\1/p')
 [ "$soname" = "libapp_s2j.so.1" ] && ok || fail "soname is '$soname'"
-needed=$(readelf -d "$lib" | sed -n 's/.*(NEEDED).*\[\(.*\)\]/\1/p' | grep -v -E '^lib(asan|ubsan)\.so' | sort | tr '\n' ' ')
+needed=$(readelf -d "$lib" | sed -n 's/.*(NEEDED).*\[\(.*\)\]/\1/p' | grep -v -E '^lib(asan|ubsan)\.so' |
+  sort | tr '\n' ' ')
 [ "$needed" = "libc.so.6 libcjson.so.1 " ] && ok || fail "NEEDED is '$needed'"
 
 # Exports: exactly the functions the public header declares.
 declared=$(cpp -P -I"$prefix/include/app_s2j" "$prefix/include/app_s2j/app_s2j.h" 2>/dev/null |
-  tr ';' '\n' | grep -o -E '\b((s2j_|c2s_|j2s_|f2s_|s2f_|struct_to_json_|json_to_struct_)[A-Za-z0-9_]*|cJSON_CreateInt|cJSON_AddIntToObject|cJSON_IsInt)\(' |
+  tr ';' '\n' |
+  grep -o -E '\b((s2j_|c2s_|j2s_|f2s_|s2f_|struct_to_json_|json_to_struct_)[A-Za-z0-9_]*|'\
+'cJSON_CreateInt|cJSON_AddIntToObject|cJSON_IsInt)\(' |
   tr -d '(' | sort -u)
 exported=$(nm -D --defined-only "$lib" | awk '$2 == "T" {print $3}' | sort -u)
 others=$(nm -D --defined-only "$lib" | awk '$2 != "T" && $3 !~ /^_/ {print $3}' | sort -u)
-if [ "$declared" = "$exported" ]; then ok; else fail "exports differ from declarations"; diff <(echo "$declared") <(echo "$exported") | head -20; fi
+if [ "$declared" = "$exported" ]; then ok; else
+  fail "exports differ from declarations"; diff <(echo "$declared") <(echo "$exported") | head -20
+fi
 [ -z "$others" ] && ok || fail "other exported symbols: $others"
 [ "$(echo "$exported" | wc -l)" -gt 10 ] && ok || fail "too few exports"
 
@@ -65,8 +70,8 @@ for form in plain dir; do
      grep -q "consumer ok" "$tmp/run"; then ok
   else fail "pkg-config consumer ($form include form) runs"; cat "$tmp/run"; fi
 done
-check "CMake consumer configures" cmake -S "$src/tests/consumer" -B "$tmp/cbuild" -DCMAKE_PREFIX_PATH="$prefix" "${cmake_cross[@]}" \
-  -DCMAKE_C_FLAGS="${extra[*]}" -DCMAKE_EXE_LINKER_FLAGS="${extra[*]}"
+check "CMake consumer configures" cmake -S "$src/tests/consumer" -B "$tmp/cbuild" -DCMAKE_PREFIX_PATH="$prefix" \
+  "${cmake_cross[@]}" -DCMAKE_C_FLAGS="${extra[*]}" -DCMAKE_EXE_LINKER_FLAGS="${extra[*]}"
 check "CMake consumer builds (both include forms)" cmake --build "$tmp/cbuild"
 for exe in consumer consumer_dir_form; do
   if LD_LIBRARY_PATH=$libdir "${run[@]}" "$tmp/cbuild/$exe" "$tmp/data" > "$tmp/run" 2>&1 &&

@@ -11,9 +11,8 @@ set -u
 src=$1
 compilers=()
 [ $# -ge 3 ] && compilers=(-DCMAKE_C_COMPILER="$2" -DCMAKE_CXX_COMPILER="$3")
-tmp=$(mktemp -d)
-trap 'rm -rf "$tmp"' EXIT
 . "$(dirname "$0")/shell_checks.sh"
+scratch_dir
 unfindable=(-DCMAKE_DISABLE_FIND_PACKAGE_GTest=ON -DCMAKE_DISABLE_FIND_PACKAGE_benchmark=ON "${compilers[@]}")
 
 check "configures with BUILD_TESTING=OFF and no GoogleTest or Google Benchmark" \

@@ -10,9 +10,8 @@ tool=$1
 man1=$2
 man3=$3
 header=$4
-tmp=$(mktemp -d)
-trap 'rm -rf "$tmp"' EXIT
 . "$(dirname "$0")/shell_checks.sh"
+scratch_dir
 
 # Rendered as plain text, wide enough that no synopsis line is broken.
 render() { LC_ALL=C.UTF-8 MANWIDTH=250 man -l "$1" 2>"$tmp/warnings" | col -b -x; }

@@ -18,10 +18,6 @@ public:
     ErrorStream() : buf_(static_cast<char *>(std::malloc(kSize))) {
         mem_ = fmemopen(buf_, kSize, "w");
         if (mem_ == nullptr) std::abort();
-        char file[] = "/tmp/app_s2j_diff_file_XXXXXX";
-        int f = mkstemp(file);
-        close(f);
-        file_ = file;
     }
     void begin() {
         std::fflush(stderr);
@@ -38,24 +34,54 @@ public:
     ~ErrorStream() {
         std::fclose(mem_);
         std::free(buf_);
-        unlink(file_.c_str());
     }
     ErrorStream(const ErrorStream &) = delete;
     ErrorStream &operator=(const ErrorStream &) = delete;
-    const std::string &file() const { return file_; }
 
 private:
     static constexpr size_t kSize = 8 << 20;  // more than any diagnostic of the inputs compared
     char *buf_;
     FILE *mem_ = nullptr;
     FILE *saved_ = nullptr;
-    std::string file_;
 };
 
 ErrorStream &errors() {
     static ErrorStream e;
     return e;
 }
+
+// The file that the file members of one comparison read: made with the
+// call's text before the two runs and removed after them, so that a process
+// that stops without running static destructors (as fuzzers do) leaves no
+// file behind.  Both runs read the same name, which their diagnostics print.
+class ScratchFile {
+public:
+    explicit ScratchFile(const std::string &text) {
+        char path[] = "/tmp/app_s2j_diff_file_XXXXXX";
+        int fd = mkstemp(path);
+        if (fd < 0) std::abort();
+        close(fd);
+        path_ = path;
+        FILE *out = std::fopen(path, "wb");
+        if (out == nullptr) std::abort();
+        std::fwrite(text.data(), 1, text.size(), out);
+        std::fclose(out);
+    }
+    ~ScratchFile() { unlink(path_.c_str()); }
+    ScratchFile(const ScratchFile &) = delete;
+    ScratchFile &operator=(const ScratchFile &) = delete;
+    const char *path() const { return path_.c_str(); }
+
+private:
+    std::string path_;
+};
+
+std::string &last_file_name() {
+    static std::string name;
+    return name;
+}
+
+bool reads_a_file(Member m) { return m == Member::F2s || m == Member::F2sArray; }
 
 struct Outcome {
     int rc = 0;
@@ -67,18 +93,13 @@ struct Outcome {
     long error_at = -1;
 };
 
-Outcome run(const s2j::TypeInfo *t, const Call &c) {
+Outcome run(const s2j::TypeInfo *t, const Call &c, const char *file) {
     Outcome o;
     o.records = c.records;
     o.count = c.capacity;
     void *arr = c.query ? nullptr : o.records.data();
     const char *s = c.text.c_str();
     const s2j::Families &f = t->fam;
-    if (c.member == Member::F2s || c.member == Member::F2sArray) {
-        FILE *out = std::fopen(errors().file().c_str(), "wb");
-        std::fwrite(c.text.data(), 1, c.text.size(), out);
-        std::fclose(out);
-    }
     cJSON_Delete(cJSON_Parse("!"));  // an error position left over from an earlier parse
     errors().begin();
     switch (c.member) {
@@ -88,8 +109,8 @@ Outcome run(const s2j::TypeInfo *t, const Call &c) {
         case Member::J2sArrayLen: o.rc = f.j2s_array_with_len(s, c.len, arr, &o.count); break;
         case Member::J2sArrayUpdate: o.rc = f.j2s_array_update(s, arr, &o.count); break;
         case Member::J2sArrayUpdateLen: o.rc = f.j2s_array_update_with_len(s, c.len, arr, &o.count); break;
-        case Member::F2s: o.rc = f.f2s(errors().file().c_str(), arr); break;
-        case Member::F2sArray: o.rc = f.f2s_array(errors().file().c_str(), arr, &o.count); break;
+        case Member::F2s: o.rc = f.f2s(file, arr); break;
+        case Member::F2sArray: o.rc = f.f2s_array(file, arr, &o.count); break;
     }
     o.err = errors().end();
     if (const char *e = cJSON_GetErrorPtr())
@@ -128,10 +149,21 @@ bool has(const s2j::TypeInfo *t, Member m) {
     return false;
 }
 
+const std::string &last_file() { return last_file_name(); }
+
 const s2j::TypeInfo *reference_of(const s2j::TypeInfo *t) { return s2j::find_tree_type(t->name); }
 
 std::string compare(const s2j::TypeInfo *lib, const s2j::TypeInfo *ref, const Call &call) {
-    const Outcome a = run(lib, call), b = run(ref, call);
+    Outcome a, b;
+    if (reads_a_file(call.member)) {
+        const ScratchFile file(call.text);
+        last_file_name() = file.path();
+        a = run(lib, call, file.path());
+        b = run(ref, call, file.path());
+    } else {
+        a = run(lib, call, nullptr);
+        b = run(ref, call, nullptr);
+    }
     std::string what;
     if (a.rc != b.rc) what += "status " + std::to_string(a.rc) + " against " + std::to_string(b.rc) + "; ";
     if (a.count != b.count)

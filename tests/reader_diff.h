@@ -37,6 +37,10 @@ struct Call {
 // the same, else what differs.
 std::string compare(const s2j::TypeInfo *lib, const s2j::TypeInfo *ref, const Call &call);
 
+// The name of the file that the last comparison of a file member read; the
+// comparison removes it before it returns.
+const std::string &last_file();
+
 // The reference library's entry of a library type.
 const s2j::TypeInfo *reference_of(const s2j::TypeInfo *t);
 

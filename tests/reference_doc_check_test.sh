@@ -6,9 +6,8 @@ set -u
 check=$1
 tool=$2
 doc=$3
-tmp=$(mktemp -d)
-trap 'rm -rf "$tmp"' EXIT
 . "$(dirname "$0")/shell_checks.sh"
+scratch_dir
 
 stale="$tmp/records.md is out of date: run 'cmake --build BUILD --target records-doc' and commit docs/records.md"
 

@@ -11,7 +11,8 @@ schedule_request_checks() {
 
   out=$("$@" "$cfg" '[{"Index": 3, "Enable": 1, "Hour": "5"}]' 2>&1); rc=$?
   if [ $rc -eq 0 ] && [[ $out == '{"Status":0,"Updated":1,"Tasks":[{"Index":1,'* ]] &&
-     [[ $out == *'{"Index":3,"Enable":1,"Minute":"30","Hour":"5","Day":"1","Month":"*","Weekday":"*","Command":"/sbin/reboot"}]}' ]]; then
+     [[ $out == *'{"Index":3,"Enable":1,"Minute":"30","Hour":"5","Day":"1","Month":"*","Weekday":"*",'\
+'"Command":"/sbin/reboot"}]}' ]]; then
     ok; else fail "$what answers a keyed update (exit $rc): $out"; fi
 
   out=$(echo "" | "$@" "$cfg" 2>&1); rc=$?

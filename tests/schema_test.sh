@@ -4,9 +4,8 @@
 # usage: schema_test.sh TOOL
 set -u
 tool=$1
-tmp=$(mktemp -d)
-trap 'rm -rf "$tmp"' EXIT
 . "$(dirname "$0")/shell_checks.sh"
+scratch_dir
 
 synopsis='usage: app_s2j schema TYPE [--update] | schema --all
 (app_s2j schema --help tells more)'
@@ -22,9 +21,7 @@ expect_contains "$out" '"$id":	"urn:app-s2j:DeviceTime"' "id of a type"
 expect_contains "$out" '"minimum":	-2147483648' "int32 minimum written exactly"
 expect_contains "$out" '"maximum":	4294967295' "uint32 maximum written exactly"
 
-out=$("$tool" schema CrontabParameter --update 2>&1); rc=$?
-expect_eq "$rc" "0" "schema --update"
-expect_contains "$out" '"$id":	"urn:app-s2j:CrontabParameter:update"' "id of an update request"
+expect_run "schema --update" 0 '"$id":	"urn:app-s2j:CrontabParameter:update"' "$tool" schema CrontabParameter --update
 expect_contains "$out" '"required":	["Index"]' "update requires the key"
 
 "$tool" schema --all > "$tmp/all" 2> "$tmp/err"; rc=$?
@@ -63,7 +60,9 @@ usage_case "app_s2j: --all takes no TYPE
 $synopsis" --all DeviceInfo
 usage_case "app_s2j: --all already holds every update schema; drop --update
 $synopsis" --all --update
-usage_case "app_s2j: DeviceInfo has no keyed update (c2s_array_update); --update applies only to the types whose families in 'app_s2j types' include it
+no_update="app_s2j: DeviceInfo has no keyed update (c2s_array_update); --update applies only to the types"
+no_update="$no_update whose families in 'app_s2j types' include it"
+usage_case "$no_update
 $synopsis" DeviceInfo --update
 usage_case "app_s2j: unknown record type 'NoSuchType' (app_s2j types lists them)" NoSuchType
 

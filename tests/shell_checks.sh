@@ -5,6 +5,10 @@
 #   check WHAT COMMAND...        the command succeeds (its output is shown when
 #                                not; needs $tmp, a scratch directory)
 #   finish [NAME]                print the counts; status 0 when nothing failed
+#   scratch_dir                  $tmp: a fresh directory, removed at exit
+#   expect_run WHAT RC PART COMMAND...
+#                                the command exits with RC and its output
+#                                (both streams) holds PART; leaves $out, $rc
 passed=0
 failed=0
 ok() { passed=$((passed + 1)); }
@@ -15,4 +19,16 @@ check() { local what=$1; shift; if "$@" >"${tmp:?}/out" 2>&1; then ok; else fail
 finish() {
   echo "${1:+$1: }$passed passed, $failed failed"
   [ "$failed" -eq 0 ]
+}
+scratch_dir() {
+  tmp=$(mktemp -d)
+  trap 'rm -rf "$tmp"' EXIT
+}
+expect_run() {
+  local what=$1 want=$2 part=$3
+  shift 3
+  out=$("$@" 2>&1)
+  rc=$?
+  expect_eq "$rc" "$want" "$what"
+  expect_contains "$out" "$part" "$what: the message"
 }

@@ -78,6 +78,10 @@ std::string diag(const std::string &file, int line, const std::string &func, con
     return "\033[1;31m<ERROR! " + file + ":" + std::to_string(line) + ", " + func + ">: " + msg + "\033[0m";
 }
 
+std::string text_diag(int line, const std::string &func, const std::string &msg) {
+    return diag(text_list_file(), line, func, msg);
+}
+
 std::string parse_reason(const char *text) {
     cJSON *tree = cJSON_Parse(text);
     cJSON_Delete(tree);
@@ -126,6 +130,175 @@ void write_file(const std::string &path, const std::string &text) {
 bool file_exists(const std::string &path) {
     struct stat st;
     return stat(path.c_str(), &st) == 0;
+}
+
+std::string example_path(const std::string &type) {
+    return std::string(APP_S2J_SOURCE_DIR) + "/examples/" + type + ".json";
+}
+
+std::string example_text(const std::string &type) {
+    std::string text = read_file(example_path(type));
+    if (!text.empty() && text.back() == '\n') text.pop_back();
+    return text;
+}
+
+std::string string_member(const cJSON *object, const char *key) {
+    const cJSON *m = cJSON_GetObjectItemCaseSensitive(object, key);
+    EXPECT_TRUE(cJSON_IsString(m)) << key;
+    return m != nullptr && m->valuestring != nullptr ? m->valuestring : "<absent>";
+}
+
+void expect_integer_key_reader(int (*get)(uint32_t *, const cJSON *), const char *doc, uint32_t want,
+                               std::initializer_list<const char *> refused) {
+    uint32_t key = 0;
+    Tree tree(cJSON_Parse(doc));
+    EXPECT_EQ(get(&key, tree.p), 1) << doc;
+    EXPECT_EQ(key, want) << doc;
+    for (const char *other : refused) {
+        Tree no(cJSON_Parse(other));
+        EXPECT_EQ(get(&key, no.p), 0) << other;
+        EXPECT_EQ(key, want) << other;
+    }
+}
+
+std::string print_compact(const cJSON *tree) { return Text(cJSON_PrintUnformatted(tree)).str(); }
+
+std::string compact(cJSON *tree) {
+    const Tree owned(tree);
+    return print_compact(tree);
+}
+
+CrontabParameter crontab_task(uint32_t index, const char *minute, const char *hour, const char *weekday,
+                              const std::string &command) {
+    CrontabParameter c = {};
+    c.Index = index;
+    c.Enable = 1;
+    std::snprintf(c.Minute, sizeof c.Minute, "%s", minute);
+    std::snprintf(c.Hour, sizeof c.Hour, "%s", hour);
+    std::snprintf(c.Day, sizeof c.Day, "*");
+    std::snprintf(c.Month, sizeof c.Month, "*");
+    std::snprintf(c.Weekday, sizeof c.Weekday, "%s", weekday);
+    std::snprintf(c.Command, sizeof c.Command, "%s", command.c_str());
+    return c;
+}
+
+using s2j::Field;
+using s2j::Kind;
+using s2j::TypeInfo;
+
+void fill_boundary(const TypeInfo *t, char *rec, uint32_t seed) {
+    for (uint32_t i = 0; i < t->desc->field_count; ++i) {
+        const Field &f = t->desc->fields[i];
+        char *at = rec + f.offset;
+        switch (f.kind) {
+            case Kind::I32: {
+                int32_t v = seed == 0 ? INT32_MIN : seed == 1 ? INT32_MAX : -static_cast<int32_t>(seed * 7 + i);
+                std::memcpy(at, &v, 4);
+                break;
+            }
+            case Kind::U32: {
+                uint32_t v = seed == 0 ? UINT32_MAX : seed * 1000003u + i;
+                std::memcpy(at, &v, 4);
+                break;
+            }
+            case Kind::U16: {
+                uint16_t v = seed == 0 ? UINT16_MAX : static_cast<uint16_t>(seed * 31 + i);
+                std::memcpy(at, &v, 2);
+                break;
+            }
+            case Kind::Str: {
+                uint32_t len = seed == 0 ? f.size - 1 : (seed * 5 + i) % f.size;
+                for (uint32_t k = 0; k < len; ++k) at[k] = static_cast<char>('A' + (k + seed + i) % 26);
+                std::memset(at + len, 0, f.size - len);
+                break;
+            }
+            case Kind::U32List:
+                for (uint32_t k = 0; k < f.size / 4; ++k) {
+                    uint32_t v = seed == 0 ? UINT32_MAX - k : seed * k;
+                    std::memcpy(at + 4 * k, &v, 4);
+                }
+                break;
+        }
+    }
+    for (uint32_t k = 0; k < t->desc->key_count; ++k) {
+        const Field &f = t->desc->keys[k].field;
+        if (f.kind == Kind::Str) {
+            std::memset(rec + f.offset, 0, f.size);
+            std::snprintf(rec + f.offset, f.size, "key%u", seed);
+        } else {
+            uint32_t v = seed + 100 * k;
+            std::memcpy(rec + f.offset, &v, 4);
+        }
+    }
+}
+
+void fill_unterminated(const TypeInfo *t, char *rec, uint32_t seed) {
+    const s2j::TypeDesc *d = t->desc;
+    for (uint32_t k = 0; k < d->field_count; ++k) {
+        const Field &f = d->fields[k];
+        char *at = rec + f.offset;
+        switch (f.kind) {
+            case Kind::I32: {
+                int32_t v = -static_cast<int32_t>(1000 * seed + k + 1);
+                std::memcpy(at, &v, 4);
+                break;
+            }
+            case Kind::U32: {
+                uint32_t v = 4000000000u + 1000 * seed + k;
+                std::memcpy(at, &v, 4);
+                break;
+            }
+            case Kind::U16: {
+                uint16_t v = static_cast<uint16_t>(60000 + 100 * seed + k);
+                std::memcpy(at, &v, 2);
+                break;
+            }
+            case Kind::Str:
+                for (uint32_t b = 0; b < f.size; ++b) at[b] = static_cast<char>('a' + (b + k + seed) % 26);
+                break;
+            case Kind::U32List:
+                for (uint32_t b = 0; b < f.size / 4; ++b) {
+                    uint32_t v = b * 7 + seed;
+                    std::memcpy(at + 4 * b, &v, 4);
+                }
+                break;
+        }
+    }
+    for (uint32_t k = 0; k < d->key_count; ++k) {
+        const Field &f = d->keys[k].field;
+        if (f.kind == Kind::Str) {
+            std::memset(rec + f.offset, 0, f.size);
+            std::snprintf(rec + f.offset, f.size, "k%u", seed);
+        } else {
+            std::memcpy(rec + f.offset, &seed, 4);
+        }
+    }
+}
+
+void fill_distinct(const TypeInfo *t, char *rec, uint32_t seed) {
+    const s2j::TypeDesc *d = t->desc;
+    std::memset(rec, 0, d->size);
+    for (uint32_t k = 0; k < d->field_count; ++k) {
+        const Field &f = d->fields[k];
+        char *at = rec + f.offset;
+        uint32_t v = seed * 7919u + k;
+        switch (f.kind) {
+            case Kind::I32:
+            case Kind::U32: std::memcpy(at, &v, 4); break;
+            case Kind::U16: {
+                uint16_t h = static_cast<uint16_t>(v);
+                std::memcpy(at, &h, 2);
+                break;
+            }
+            case Kind::Str: std::snprintf(at, f.size, "t%u-%u", seed, k); break;
+            case Kind::U32List:
+                for (uint32_t b = 0; b < f.size / 4; ++b) {
+                    uint32_t w = v + b;
+                    std::memcpy(at + 4 * b, &w, 4);
+                }
+                break;
+        }
+    }
 }
 
 Text::~Text() { std::free(p); }

@@ -3,11 +3,20 @@
 #ifndef APP_S2J_TEST_SUPPORT_H
 #define APP_S2J_TEST_SUPPORT_H
 
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <initializer_list>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "app_s2j.h"
 #include "registry.h"
+
+// Capacity of a member, and whether a member has a given C type.
+#define CAPACITY(T, m) sizeof(((T *)0)->m)
+#define MEMBER_IS(T, m, C) std::is_same<decltype(T::m), C>::value
 
 namespace testing_support {
 
@@ -42,11 +51,42 @@ const s2j::Families::Lines &lines_of(const char *type);
 
 // The three writes of one diagnostic.
 std::string diag(const std::string &file, int line, const std::string &func, const std::string &msg);
+// The same of a diagnostic at a line of the text list.
+std::string text_diag(int line, const std::string &func, const std::string &msg);
 
 // What cJSON itself reports, after failing to parse text, as the place
 // where parsing stopped (the rest of the text from there).
 std::string parse_reason(const char *text);
 std::string parse_reason_with_len(const char *text, size_t len);
+
+// The example file of a record type (examples/<type>.json), and its text as
+// the library writes it: the file without its final newline.
+std::string example_path(const std::string &type);
+std::string example_text(const std::string &type);
+
+// The compact text of a tree ("<null>" for none), the tree left as it is.
+std::string print_compact(const cJSON *tree);
+// The same of a tree made for the call (an emitter's), which it deletes.
+std::string compact(cJSON *tree);
+
+// A scheduled task: enabled, run at `minute` and `hour` on `weekday`, on
+// every day and month.
+CrontabParameter crontab_task(uint32_t index, const char *minute, const char *hour, const char *weekday,
+                              const std::string &command);
+
+// Records of a registry type filled field by field (integers, strings and
+// lists alike), with keys distinct per seed so that the elements of an array
+// can be told apart.
+// Boundary and varied values: seed 0 gives the extremes (INT32_MIN,
+// UINT32_MAX, UINT16_MAX, strings of N-1 characters), other seeds others;
+// keys "key<seed>", or seed + 100 * k for the k-th integer key.
+void fill_boundary(const s2j::TypeInfo *t, char *rec, uint32_t seed);
+// Strings that fill all N bytes (no NUL), so that an emitter copies each of
+// them; keys "k<seed>" or seed.
+void fill_unterminated(const s2j::TypeInfo *t, char *rec, uint32_t seed);
+// Values that differ from seed to seed and field to field, strings
+// "t<seed>-<field>"; the record is zeroed first.
+void fill_distinct(const s2j::TypeInfo *t, char *rec, uint32_t seed);
 
 // A fresh empty directory for the test, removed with its files at exit.
 std::string temp_dir();
@@ -87,6 +127,147 @@ private:
     CjsonFaults(const CjsonFaults &) = delete;
     CjsonFaults &operator=(const CjsonFaults &) = delete;
 };
+
+// A text of n characters c.
+inline std::string chars(size_t n, char c = 'a') { return std::string(n, c); }
+
+// Compact text of one emitted record.
+template <class T>
+std::string emitted(cJSON *(*emit)(const T *), const T &r) {
+    return compact(emit(&r));
+}
+
+// The example loads with the type's reader (each element of an array file),
+// and the type's emitter gives back the file's very text (an example file
+// ends in a newline after the library's text).
+template <class T>
+void expect_example_reads(const char *type, bool array, cJSON *(*emit)(const T *),
+                          int (*read)(T *, const cJSON *), std::vector<T> *out = nullptr) {
+    const std::string text = example_text(type);
+    Tree tree(cJSON_Parse(text.c_str()));
+    ASSERT_NE(tree.p, nullptr) << type;
+    std::vector<T> recs;
+    if (array) {
+        ASSERT_TRUE(cJSON_IsArray(tree.p)) << type;
+        int n = cJSON_GetArraySize(tree.p);
+        EXPECT_TRUE(n >= 2 && n <= 4) << type;
+        recs.resize(static_cast<size_t>(n));
+        for (int i = 0; i < n; ++i) EXPECT_EQ(read(&recs[i], cJSON_GetArrayItem(tree.p, i)), 1) << type << " " << i;
+    } else {
+        ASSERT_TRUE(cJSON_IsObject(tree.p)) << type;
+        recs.resize(1);
+        EXPECT_EQ(read(&recs[0], tree.p), 1) << type;
+    }
+    cJSON *again = array ? cJSON_CreateArray() : emit(&recs[0]);
+    if (array)
+        for (const T &r : recs) cJSON_AddItemToArray(again, emit(&r));
+    Tree back(again);
+    Text printed(cJSON_Print(again));
+    EXPECT_EQ(printed.str(), text) << type;
+    if (out) *out = recs;
+}
+
+// The same file through the type's file reader gives the same records.
+template <class T>
+void expect_f2s_array(const char *type, int (*f2s_array)(const char *, T *, uint32_t *), const std::vector<T> &want) {
+    const std::string path = example_path(type);
+    uint32_t n = 0;
+    ASSERT_EQ(f2s_array(path.c_str(), nullptr, &n), 0) << type;
+    ASSERT_EQ(n, want.size()) << type;
+    std::vector<T> got(n);
+    ASSERT_EQ(f2s_array(path.c_str(), got.data(), &n), 0) << type;
+    EXPECT_EQ(std::memcmp(got.data(), want.data(), n * sizeof(T)), 0) << type;
+}
+
+// A record whose every byte is `fill`, so that untouched bytes show.
+template <class T>
+T pattern(unsigned char fill = 0xA5) {
+    T r;
+    std::memset(static_cast<void *>(&r), fill, sizeof r);
+    return r;
+}
+
+// The string member `key` of an object, with a test failure where it is
+// absent or not a string.
+std::string string_member(const cJSON *object, const char *key);
+
+// A text of `len` characters c (len >= N) for the string member `key` is
+// stored as its first N - 1, through the type's reader of a tree, or its
+// text reader (`j2s`), from a record of 0xA5 bytes.
+template <class T, size_t N>
+void expect_read_as_prefix(int (*read)(T *, const cJSON *), char (T::*member)[N], const char *key, size_t len,
+                           char c) {
+    T r = pattern<T>();
+    const std::string doc = std::string("{\"") + key + "\": \"" + std::string(len, c) + "\"}";
+    Tree tree(cJSON_Parse(doc.c_str()));
+    ASSERT_EQ(read(&r, tree.p), 1) << key << " " << len;
+    EXPECT_EQ(std::string(r.*member), std::string(N - 1, c)) << key << " " << len;
+}
+template <class T, size_t N>
+void expect_read_as_prefix(int (*j2s)(const char *, T *), char (T::*member)[N], const char *key, size_t len, char c) {
+    T r = pattern<T>();
+    const std::string doc = std::string("{\"") + key + "\": \"" + std::string(len, c) + "\"}";
+    ASSERT_EQ(j2s(doc.c_str(), &r), 0) << key << " " << len;
+    EXPECT_EQ(std::string(r.*member), std::string(N - 1, c)) << key << " " << len;
+}
+
+// The string member `key` filled with c, without a NUL, is emitted as all
+// N characters.
+template <class T, size_t N>
+void expect_emitted_whole(cJSON *(*emit)(const T *), char (T::*member)[N], const char *key, char c) {
+    T r = pattern<T>(0);
+    std::memset(r.*member, c, N);
+    Tree tree(emit(&r));
+    EXPECT_EQ(string_member(tree.p, key), std::string(N, c)) << key;
+}
+
+// The single-key reader `get` of an integer first key reads `want` out of
+// the object `doc` (status 1), and refuses each of `refused` (status 0),
+// leaving the key as it was.
+void expect_integer_key_reader(int (*get)(uint32_t *, const cJSON *), const char *doc, uint32_t want,
+                               std::initializer_list<const char *> refused);
+
+// A flag whose key has one spelling: the reader of a tree reads `key` and
+// leaves the member as it was (`kept`) for `other`, the other spelling.
+template <class T>
+void expect_reads_only_spelling(int (*read)(T *, const cJSON *), int32_t T::*member, const char *key,
+                                const char *other, int32_t kept) {
+    T r = {};
+    r.*member = kept;
+    Tree wrong(cJSON_CreateObject());
+    cJSON_AddNumberToObject(wrong.p, other, 1);
+    ASSERT_EQ(read(&r, wrong.p), 1) << other;
+    EXPECT_EQ(r.*member, kept) << other;
+    Tree right(cJSON_CreateObject());
+    cJSON_AddNumberToObject(right.p, key, 1);
+    ASSERT_EQ(read(&r, right.p), 1) << key;
+    EXPECT_EQ(r.*member, 1) << key;
+}
+// The emitter writes `key` (exactly so) and no `other` in any letter case.
+template <class T>
+void expect_emits_only_spelling(cJSON *(*emit)(const T *), int32_t T::*member, const char *key, const char *other) {
+    T r = {};
+    r.*member = 1;
+    Tree tree(emit(&r));
+    EXPECT_NE(cJSON_GetObjectItemCaseSensitive(tree.p, key), nullptr) << key;
+    EXPECT_EQ(cJSON_GetObjectItem(tree.p, other), nullptr) << other;
+}
+
+// The N records saved with s2f_array and loaded with f2s_array into room for
+// `capacity` (at least N) come back as they were, N of them.
+template <class T, size_t N>
+void expect_array_file_round_trip(int (*s2f_array)(const char *, const T *, uint32_t),
+                                  int (*f2s_array)(const char *, T *, uint32_t *), const T (&arr)[N],
+                                  uint32_t capacity) {
+    const std::string path = temp_dir() + "/records.json";
+    ASSERT_EQ(s2f_array(path.c_str(), arr, N), 0);
+    std::vector<T> back(capacity);
+    std::memset(static_cast<void *>(back.data()), 0, capacity * sizeof(T));
+    uint32_t n = capacity;
+    ASSERT_EQ(f2s_array(path.c_str(), back.data(), &n), 0);
+    EXPECT_EQ(n, N);
+    EXPECT_EQ(std::memcmp(back.data(), arr, sizeof arr), 0);
+}
 
 }  // namespace testing_support
 

@@ -12,9 +12,8 @@ set -u
 cxx=$1
 src=$2
 shift 2
-tmp=$(mktemp -d)
-trap 'rm -rf "$tmp"' EXIT
 . "$(dirname "$0")/shell_checks.sh"
+scratch_dir
 
 compile() { "$cxx" -std=c++17 -fsyntax-only -Wall -Wextra -Werror "$@" -I"$src" "$tmp/tu.cpp" > "$tmp/err" 2>&1; }
 

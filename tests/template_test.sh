@@ -4,9 +4,8 @@
 # usage: template_test.sh TOOL
 set -u
 tool=$1
-tmp=$(mktemp -d)
-trap 'rm -rf "$tmp"' EXIT
 . "$(dirname "$0")/shell_checks.sh"
+scratch_dir
 
 # TYPE SHAPE-WORD FLAG...: the template loads as SHAPE-WORD ("record" or
 # "array") and print writes it back byte for byte.

@@ -1,6 +1,6 @@
-// Users and passwords: the layout of the six account records, their
-// deliberately irregular family sets, the emitters and readers that exist
-// although no family calls them, and the behaviour of the requests.
+// Users and passwords: the layout of the six account records, the emitters
+// and readers that exist although no family calls them, and the behaviour of
+// the requests.
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
@@ -47,75 +47,6 @@ static_assert(sizeof(UserList) == 64);
 static_assert(sizeof(((UserList *)0)->UserName) == 64);
 
 namespace {
-
-
-
-// The whole list of family member names a type could have.
-struct FamilySet {
-    bool s2j, c2s, j2s, s2j_array, c2s_array, j2s_array, update, f2s, s2f, f2s_array, s2f_array;
-};
-
-void expect_families(const std::string &T, const FamilySet &want) {
-    EXPECT_TRUE(exported("struct_to_json_" + T)) << T;
-    EXPECT_TRUE(exported("json_to_struct_" + T)) << T;
-    EXPECT_EQ(exported("s2j_" + T), want.s2j) << T;
-    EXPECT_EQ(exported("c2s_" + T), want.c2s) << T;
-    EXPECT_EQ(exported("j2s_" + T), want.j2s) << T;
-    EXPECT_EQ(exported("j2s_" + T + "_with_len"), want.j2s) << T;
-    EXPECT_EQ(exported("s2j_array_" + T), want.s2j_array) << T;
-    EXPECT_EQ(exported("c2s_array_" + T), want.c2s_array) << T;
-    EXPECT_EQ(exported("j2s_array_" + T), want.j2s_array) << T;
-    EXPECT_EQ(exported("j2s_array_" + T + "_with_len"), want.j2s_array) << T;
-    EXPECT_EQ(exported("c2s_array_update_" + T), want.update) << T;
-    EXPECT_EQ(exported("j2s_array_update_" + T), want.update) << T;
-    EXPECT_EQ(exported("j2s_array_update_" + T + "_with_len"), want.update) << T;
-    EXPECT_EQ(exported("f2s_" + T), want.f2s) << T;
-    EXPECT_EQ(exported("s2f_" + T), want.s2f) << T;
-    EXPECT_EQ(exported("f2s_array_" + T), want.f2s_array) << T;
-    EXPECT_EQ(exported("s2f_array_" + T), want.s2f_array) << T;
-    // No account record has keyword readers.
-    EXPECT_FALSE(exported("json_to_struct_" + T + "Keyword")) << T;
-    EXPECT_FALSE(exported("json_to_struct_Get" + T + "Keyword")) << T;
-}
-
-std::string compact(cJSON *tree) {
-    Text t(cJSON_PrintUnformatted(tree));
-    cJSON_Delete(tree);
-    return t.str();
-}
-
-// An example file holds the text as the library writes it, and a final newline.
-std::string example(const std::string &type) {
-    std::string text = read_file(std::string(APP_S2J_SOURCE_DIR) + "/examples/" + type + ".json");
-    if (!text.empty() && text.back() == '\n') text.pop_back();
-    return text;
-}
-
-// ---- Family sets -------------------------------------------------------------
-
-TEST(AccountFamilies, VerifyPasswordParameterHasOnlyS2jAndC2s) {
-    expect_families("VerifyPasswordParameter", {true, true, false, false, false, false, false, false, false, false, false});
-}
-
-TEST(AccountFamilies, VerifyPasswordResultHasOnlyS2jAndC2s) {
-    expect_families("VerifyPasswordResult", {true, true, false, false, false, false, false, false, false, false, false});
-}
-
-TEST(AccountFamilies, CreateUserParameterHasC2sArraysAndArrayFilesButNoS2jOrJ2s) {
-    expect_families("CreateUserParameter", {false, true, false, true, true, true, false, false, false, true, true});
-}
-
-TEST(AccountFamilies, DeleteUserParameterHasOnlyC2s) {
-    expect_families("DeleteUserParameter", {false, true, false, false, false, false, false, false, false, false, false});
-}
-
-TEST(AccountFamilies, ModifyPasswordParameterHasOnlyC2s) {
-    expect_families("ModifyPasswordParameter", {false, true, false, false, false, false, false, false, false, false, false});
-}
-
-TEST(AccountFamilies, UserListHasOnlyS2jArray) {
-    expect_families("UserList", {false, false, false, true, false, false, false, false, false, false, false});
-}
 
 // ---- Emitters and readers, also where no family calls them -------------------
 
@@ -278,11 +209,7 @@ TEST(CreateUserParameter, UserTableIsSavedAndLoadedAsAnArrayFile) {
     ASSERT_EQ(s2f_array_CreateUserParameter(path.c_str(), users, 2), 0);
     Text want(s2j_array_CreateUserParameter(users, 2, 1));
     EXPECT_EQ(read_file(path), want.str());
-    CreateUserParameter back[3] = {};
-    uint32_t n = 3;
-    ASSERT_EQ(f2s_array_CreateUserParameter(path.c_str(), back, &n), 0);
-    EXPECT_EQ(n, 2u);
-    EXPECT_EQ(std::memcmp(back, users, sizeof users), 0);
+    expect_array_file_round_trip(s2f_array_CreateUserParameter, f2s_array_CreateUserParameter, users, 3);
 }
 
 // ---- Example files -------------------------------------------------------------
@@ -290,46 +217,46 @@ TEST(CreateUserParameter, UserTableIsSavedAndLoadedAsAnArrayFile) {
 TEST(AccountExamples, EveryExampleLoadsWithItsTypesReader) {
     {
         VerifyPasswordParameter r{};
-        Tree tree(cJSON_Parse(example("VerifyPasswordParameter").c_str()));
+        Tree tree(cJSON_Parse(example_text("VerifyPasswordParameter").c_str()));
         ASSERT_EQ(c2s_VerifyPasswordParameter(tree.p, &r), 0);
         EXPECT_STREQ(r.UserName, "admin");
         Text again(s2j_VerifyPasswordParameter(&r, 1));
-        EXPECT_EQ(again.str(), example("VerifyPasswordParameter"));
+        EXPECT_EQ(again.str(), example_text("VerifyPasswordParameter"));
     }
     {
         VerifyPasswordResult r{};
-        Tree tree(cJSON_Parse(example("VerifyPasswordResult").c_str()));
+        Tree tree(cJSON_Parse(example_text("VerifyPasswordResult").c_str()));
         ASSERT_EQ(c2s_VerifyPasswordResult(tree.p, &r), 0);
         Text again(s2j_VerifyPasswordResult(&r, 1));
-        EXPECT_EQ(again.str(), example("VerifyPasswordResult"));
+        EXPECT_EQ(again.str(), example_text("VerifyPasswordResult"));
     }
     {
         CreateUserParameter r[4] = {};
         uint32_t n = 4;
-        const std::string path = std::string(APP_S2J_SOURCE_DIR) + "/examples/CreateUserParameter.json";
+        const std::string path = example_path("CreateUserParameter");
         ASSERT_EQ(f2s_array_CreateUserParameter(path.c_str(), r, &n), 0);
         EXPECT_GE(n, 2u);
         Text again(s2j_array_CreateUserParameter(r, n, 1));
-        EXPECT_EQ(again.str(), example("CreateUserParameter"));
+        EXPECT_EQ(again.str(), example_text("CreateUserParameter"));
     }
     {
         DeleteUserParameter r{};
-        Tree tree(cJSON_Parse(example("DeleteUserParameter").c_str()));
+        Tree tree(cJSON_Parse(example_text("DeleteUserParameter").c_str()));
         ASSERT_EQ(c2s_DeleteUserParameter(tree.p, &r), 0);
         Tree again(struct_to_json_DeleteUserParameter(&r));
         Text text(cJSON_Print(again.p));
-        EXPECT_EQ(text.str(), example("DeleteUserParameter"));
+        EXPECT_EQ(text.str(), example_text("DeleteUserParameter"));
     }
     {
         ModifyPasswordParameter r{};
-        Tree tree(cJSON_Parse(example("ModifyPasswordParameter").c_str()));
+        Tree tree(cJSON_Parse(example_text("ModifyPasswordParameter").c_str()));
         ASSERT_EQ(c2s_ModifyPasswordParameter(tree.p, &r), 0);
         Tree again(struct_to_json_ModifyPasswordParameter(&r));
         Text text(cJSON_Print(again.p));
-        EXPECT_EQ(text.str(), example("ModifyPasswordParameter"));
+        EXPECT_EQ(text.str(), example_text("ModifyPasswordParameter"));
     }
     {
-        Tree tree(cJSON_Parse(example("UserList").c_str()));
+        Tree tree(cJSON_Parse(example_text("UserList").c_str()));
         ASSERT_TRUE(cJSON_IsArray(tree.p));
         const int n = cJSON_GetArraySize(tree.p);
         ASSERT_GE(n, 2);
@@ -337,7 +264,7 @@ TEST(AccountExamples, EveryExampleLoadsWithItsTypesReader) {
         UserList r[4] = {};
         for (int i = 0; i < n; ++i) EXPECT_EQ(json_to_struct_UserList(&r[i], cJSON_GetArrayItem(tree.p, i)), 1);
         Text again(s2j_array_UserList(r, static_cast<uint32_t>(n), 1));
-        EXPECT_EQ(again.str(), example("UserList"));
+        EXPECT_EQ(again.str(), example_text("UserList"));
     }
 }
 

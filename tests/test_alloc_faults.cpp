@@ -19,8 +19,9 @@
 //   - the file reader's fopen or its text buffer: -15; the writer's fopen:
 //     -7; a text that cannot be made: -15 and the file left alone.
 // c2s, c2s_array and c2s_array_update allocate nothing, which is checked.
-// The replacement cannot coexist with a sanitizer's allocator, and valgrind
-// replaces the allocator itself: it runs in the plain build only.
+// The replacement cannot coexist with a sanitizer's allocator: it runs in
+// the plain build only (and under valgrind, which is told to leave it in
+// place and to watch the C library's allocator beneath it).
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -187,36 +188,6 @@ FaultRun under_fault(long fail_at, F f, bool refuse_first = false) {
 
 // ---- Records and texts ---------------------------------------------------
 
-// Values of every kind; strings fill all N bytes (no NUL), so that the
-// emitter copies each of them; keys are i (integer) or "k<i>" (string).
-void fill(const TypeInfo *t, char *rec, uint32_t i) {
-    const s2j::TypeDesc *d = t->desc;
-    for (uint32_t k = 0; k < d->field_count; ++k) {
-        const Field &f = d->fields[k];
-        char *at = rec + f.offset;
-        switch (f.kind) {
-            case Kind::I32: { int32_t v = -static_cast<int32_t>(1000 * i + k + 1); std::memcpy(at, &v, 4); break; }
-            case Kind::U32: { uint32_t v = 4000000000u + 1000 * i + k; std::memcpy(at, &v, 4); break; }
-            case Kind::U16: { uint16_t v = static_cast<uint16_t>(60000 + 100 * i + k); std::memcpy(at, &v, 2); break; }
-            case Kind::Str:
-                for (uint32_t b = 0; b < f.size; ++b) at[b] = static_cast<char>('a' + (b + k + i) % 26);
-                break;
-            case Kind::U32List:
-                for (uint32_t b = 0; b < f.size / 4; ++b) { uint32_t v = b * 7 + i; std::memcpy(at + 4 * b, &v, 4); }
-                break;
-        }
-    }
-    for (uint32_t k = 0; k < d->key_count; ++k) {
-        const Field &f = d->keys[k].field;
-        if (f.kind == Kind::Str) {
-            std::memset(rec + f.offset, 0, f.size);
-            std::snprintf(rec + f.offset, f.size, "k%u", i);
-        } else {
-            std::memcpy(rec + f.offset, &i, 4);
-        }
-    }
-}
-
 std::string print_plain(cJSON *tree) {
     char *p = cJSON_PrintUnformatted(tree);
     std::string s = p != nullptr ? p : "";
@@ -366,44 +337,42 @@ void expect_one_allocation_or_the_whole_text(Call call, const std::string &ref, 
     EXPECT_EQ(std::string(text), ref);
 }
 
+// A text writer (`call`) whose first allocation is refused and then its
+// n-th fails, for n = 2, 3, ... until it makes fewer than n: no leak, and a
+// partial text or null, until the whole text `ref`.  Returns the number of
+// faults that fired.
+template <class Call>
+int text_writer_faults(const TypeInfo *t, Call call, const std::string &ref, const char *what) {
+    expect_one_allocation_or_the_whole_text(call, ref, what);
+    int checked = 0;
+    for (long n = 2;; ++n) {
+        const char *text = nullptr;
+        FaultRun r = under_fault(n, [&] { text = keep(call()); }, true);
+        EXPECT_EQ(r.live, 0) << what << " leaked at allocation " << n;
+        if (r.live != 0) return checked;
+        if (!r.fired) {
+            EXPECT_NE(text, nullptr) << what;
+            if (text != nullptr) {
+                EXPECT_EQ(std::string(text), ref) << what;
+            }
+            return checked;
+        }
+        expect_partial_text(r, t, text, ref, what);
+        ++checked;
+    }
+}
+
 TEST_P(TextWriters, s2j_and_s2j_array_lose_members_or_return_null_and_leak_nothing) {
     const TypeInfo *t = GetParam();
     std::vector<char> recs(t->desc->size * kElements);
-    for (uint32_t i = 0; i < kElements; ++i) fill(t, recs.data() + i * t->desc->size, i);
+    for (uint32_t i = 0; i < kElements; ++i) fill_unterminated(t, recs.data() + i * t->desc->size, i);
     int checked = 0;
-    if (t->fam.s2j != nullptr) {
-        const std::string ref = emit(t, recs.data(), 1, false);
-        expect_one_allocation_or_the_whole_text([&] { return t->fam.s2j(recs.data(), 0); }, ref, "s2j");
-        for (long n = 2;; ++n) {
-            const char *text = nullptr;
-            FaultRun r = under_fault(n, [&] { text = keep(t->fam.s2j(recs.data(), 0)); }, true);
-            ASSERT_EQ(r.live, 0) << "s2j leaked at allocation " << n;
-            if (!r.fired) {
-                ASSERT_NE(text, nullptr);
-                EXPECT_EQ(std::string(text), ref);
-                break;
-            }
-            expect_partial_text(r, t, text, ref, "s2j");
-            ++checked;
-        }
-    }
-    if (t->fam.s2j_array != nullptr) {
-        const std::string ref = emit(t, recs.data(), kElements, true);
-        expect_one_allocation_or_the_whole_text([&] { return t->fam.s2j_array(recs.data(), kElements, 0); }, ref,
-                                                "s2j_array");
-        for (long n = 2;; ++n) {
-            const char *text = nullptr;
-            FaultRun r = under_fault(n, [&] { text = keep(t->fam.s2j_array(recs.data(), kElements, 0)); }, true);
-            ASSERT_EQ(r.live, 0) << "s2j_array leaked at allocation " << n;
-            if (!r.fired) {
-                ASSERT_NE(text, nullptr);
-                EXPECT_EQ(std::string(text), ref);
-                break;
-            }
-            expect_partial_text(r, t, text, ref, "s2j_array");
-            ++checked;
-        }
-    }
+    if (t->fam.s2j != nullptr)
+        checked += text_writer_faults(t, [&] { return t->fam.s2j(recs.data(), 0); },
+                                      emit(t, recs.data(), 1, false), "s2j");
+    if (t->fam.s2j_array != nullptr)
+        checked += text_writer_faults(t, [&] { return t->fam.s2j_array(recs.data(), kElements, 0); },
+                                      emit(t, recs.data(), kElements, true), "s2j_array");
     EXPECT_GT(checked, 0);
 }
 
@@ -451,7 +420,7 @@ void reader_allocates_nothing(const char *what, std::vector<char> &buf, uint32_t
 template <class Check>
 void text_readers(const TypeInfo *t, const s2j::Families &f, Check reader_faults) {
     std::vector<char> recs(t->desc->size * kElements);
-    for (uint32_t i = 0; i < kElements; ++i) fill(t, recs.data() + i * t->desc->size, i);
+    for (uint32_t i = 0; i < kElements; ++i) fill_unterminated(t, recs.data() + i * t->desc->size, i);
     const std::string one = with_large_numbers(emit(t, recs.data(), 1, false));
     const std::string many = with_large_numbers(emit(t, recs.data(), kElements, true));
     std::vector<char> buf;
@@ -459,7 +428,8 @@ void text_readers(const TypeInfo *t, const s2j::Families &f, Check reader_faults
     if (f.j2s != nullptr) {
         buf.assign(t->desc->size, 0);
         reader_faults("j2s", buf, count, [&] { return f.j2s(one.c_str(), buf.data()); }, 0);
-        reader_faults("j2s_with_len", buf, count, [&] { return f.j2s_with_len(one.c_str(), one.size(), buf.data()); }, 0);
+        reader_faults(
+            "j2s_with_len", buf, count, [&] { return f.j2s_with_len(one.c_str(), one.size(), buf.data()); }, 0);
     }
     if (f.j2s_array != nullptr) {
         buf.assign(t->desc->size * kElements, 0);
@@ -474,7 +444,7 @@ void text_readers(const TypeInfo *t, const s2j::Families &f, Check reader_faults
         std::vector<char> keyed(t->desc->size * kElements, 0);
         for (uint32_t i = 0; i < kElements; ++i) {
             std::vector<char> full(t->desc->size);
-            fill(t, full.data(), i);
+            fill_unterminated(t, full.data(), i);
             for (uint32_t k = 0; k < t->desc->key_count; ++k) {
                 const Field &kf = t->desc->keys[k].field;
                 std::memcpy(keyed.data() + i * t->desc->size + kf.offset, full.data() + kf.offset, kf.size);
@@ -482,7 +452,8 @@ void text_readers(const TypeInfo *t, const s2j::Families &f, Check reader_faults
         }
         buf = keyed;
         count = kElements;
-        reader_faults("j2s_array_update", buf, count, [&] { return f.j2s_array_update(many.c_str(), buf.data(), &count); }, 0);
+        reader_faults(
+            "j2s_array_update", buf, count, [&] { return f.j2s_array_update(many.c_str(), buf.data(), &count); }, 0);
         buf = keyed;
         count = kElements;
         reader_faults("j2s_array_update_with_len", buf, count,
@@ -513,7 +484,7 @@ TEST_P(TreeReaders, allocate_nothing) {
     const TypeInfo *t = GetParam();
     const s2j::Families &f = t->fam;
     std::vector<char> recs(t->desc->size * kElements);
-    for (uint32_t i = 0; i < kElements; ++i) fill(t, recs.data() + i * t->desc->size, i);
+    for (uint32_t i = 0; i < kElements; ++i) fill_unterminated(t, recs.data() + i * t->desc->size, i);
     Tree one(s2j::parse_marked(with_large_numbers(emit(t, recs.data(), 1, false)).c_str(), 0, false));
     Tree many(s2j::parse_marked(with_large_numbers(emit(t, recs.data(), kElements, true)).c_str(), 0, false));
     ASSERT_NE(one.p, nullptr);
@@ -562,7 +533,7 @@ TEST_P(FileReaders, give_minus_15_for_fopen_or_the_buffer_and_allocate_nothing_e
     const TypeInfo *t = GetParam();
     const s2j::Families &f = t->fam;
     std::vector<char> recs(t->desc->size * kElements);
-    for (uint32_t i = 0; i < kElements; ++i) fill(t, recs.data() + i * t->desc->size, i);
+    for (uint32_t i = 0; i < kElements; ++i) fill_unterminated(t, recs.data() + i * t->desc->size, i);
     const std::string dir = temp_dir();
     struct Case {
         const char *what;
@@ -571,7 +542,8 @@ TEST_P(FileReaders, give_minus_15_for_fopen_or_the_buffer_and_allocate_nothing_e
     };
     std::vector<Case> cases;
     if (f.f2s != nullptr) cases.push_back({"f2s", with_large_numbers(emit(t, recs.data(), 1, false)), false});
-    if (f.f2s_array != nullptr) cases.push_back({"f2s_array", with_large_numbers(emit(t, recs.data(), kElements, true)), true});
+    if (f.f2s_array != nullptr)
+        cases.push_back({"f2s_array", with_large_numbers(emit(t, recs.data(), kElements, true)), true});
     for (const Case &c : cases) {
         const std::string path = dir + "/" + c.what + ".json";
         write_file(path, c.text);
@@ -616,7 +588,7 @@ TEST_P(FileWriters, give_minus_15_without_text_and_minus_7_when_fopen_fails) {
     const TypeInfo *t = GetParam();
     const s2j::Families &f = t->fam;
     std::vector<char> recs(t->desc->size * kElements);
-    for (uint32_t i = 0; i < kElements; ++i) fill(t, recs.data() + i * t->desc->size, i);
+    for (uint32_t i = 0; i < kElements; ++i) fill_unterminated(t, recs.data() + i * t->desc->size, i);
     const std::string dir = temp_dir();
     for (int which = 0; which < 2; ++which) {
         const bool array = which == 1;
@@ -692,7 +664,8 @@ TEST(FileFamilies, cover_every_field_kind_that_a_file_type_has_and_every_file_fa
     bool kinds[5] = {}, in_files[5] = {}, fams[4] = {};
     for (const TypeInfo *t : all_types())
         if (t->fam.f2s || t->fam.s2f || t->fam.f2s_array || t->fam.s2f_array)
-            for (uint32_t k = 0; k < t->desc->field_count; ++k) in_files[static_cast<int>(t->desc->fields[k].kind)] = true;
+            for (uint32_t k = 0; k < t->desc->field_count; ++k)
+                in_files[static_cast<int>(t->desc->fields[k].kind)] = true;
     for (const TypeInfo *t : file_types()) {
         for (uint32_t k = 0; k < t->desc->field_count; ++k) kinds[static_cast<int>(t->desc->fields[k].kind)] = true;
         fams[0] |= t->fam.f2s != nullptr;
@@ -710,7 +683,7 @@ TEST(AllocationFaults, the_replacement_sees_the_library_cjson_and_the_c_library)
     const TypeInfo *t = s2j::find_type("DeviceInfo");
     ASSERT_NE(t, nullptr);
     std::vector<char> rec(t->desc->size);
-    fill(t, rec.data(), 0);
+    fill_unterminated(t, rec.data(), 0);
     bool library = false, cjson = false;
     for (long n = 2;; ++n) {
         FaultRun r = under_fault(n, [&] { keep(t->fam.s2j(rec.data(), 1)); }, true);

@@ -350,6 +350,24 @@ TEST_P(DirectReader, reads_every_generated_text_as_the_tree_path_does) {
     EXPECT_GT(calls_, 0);
 }
 
+// The file that a file member reads exists for the comparison only: a
+// process that stops without running static destructors leaves none behind.
+TEST(DirectReaderScratchFile, file_comparison_removes_its_file_before_it_returns) {
+    for (const TypeInfo *t : testing_support::all_types()) {
+        for (Member m : {Member::F2s, Member::F2sArray}) {
+            if (!reader_diff::has(t, m)) continue;
+            const bool array = m == Member::F2sArray;
+            const std::string text = array ? "[" + render(record(t, 0)) + "]" : render(record(t, 0));
+            const std::string before = reader_diff::last_file();
+            const Call call{m, text, 0, false, array ? 1u : 0u, std::vector<char>(t->desc->size, 0)};
+            EXPECT_EQ(reader_diff::compare(t, reader_diff::reference_of(t), call), "") << t->name;
+            EXPECT_NE(reader_diff::last_file(), before) << t->name << " " << reader_diff::member_name(m);
+            EXPECT_EQ(reader_diff::last_file().rfind("/tmp/app_s2j_diff_file_", 0), 0u) << reader_diff::last_file();
+            EXPECT_FALSE(testing_support::file_exists(reader_diff::last_file())) << reader_diff::last_file();
+        }
+    }
+}
+
 std::vector<const TypeInfo *> readable_types() {
     std::vector<const TypeInfo *> out;
     for (const TypeInfo *t : testing_support::all_types())

@@ -7,12 +7,11 @@
 #include "app_s2j.h"
 #include "support.h"
 
+using testing_support::print_compact;
 using testing_support::Text;
 using testing_support::Tree;
 
 namespace {
-
-std::string compact(const cJSON *tree) { return Text(cJSON_PrintUnformatted(tree)).str(); }
 
 TEST(FieldCodecs, StringFieldOf64BytesWithoutNulIsEmittedWholeAndReadBackAs63) {
     DeviceInfo info = {};
@@ -43,7 +42,7 @@ TEST(FieldCodecs, SignedFieldEmitsMinusFiveAndUnsignedFieldTheSameBitsAs42949672
     t.UTCTime = -5;
     t.Month = static_cast<uint32_t>(-5);
     Tree tree(struct_to_json_DeviceTime(&t));
-    EXPECT_EQ(compact(tree.p),
+    EXPECT_EQ(print_compact(tree.p),
               "{\"UTCTime\":-5,\"Year\":0,\"Month\":4294967291,\"Day\":0,\"Hour\":0,\"Minute\":0,\"Second\":0,"
               "\"Millisecond\":0}");
     DeviceTime back = {};

@@ -17,16 +17,7 @@ constexpr int kF2sCapabilityLine = 115, kF2sArrayLine = 117, kS2fArrayLine = 118
 constexpr int kS2jArrayLine = 10;
 
 CrontabParameter task(uint32_t index) {
-    CrontabParameter c = {};
-    c.Index = index;
-    c.Enable = 1;
-    std::strcpy(c.Minute, "0");
-    std::strcpy(c.Hour, "3");
-    std::strcpy(c.Day, "*");
-    std::strcpy(c.Month, "*");
-    std::strcpy(c.Weekday, "*");
-    std::snprintf(c.Command, sizeof c.Command, "/usr/bin/cleanup --slot %u", index);
-    return c;
+    return crontab_task(index, "0", "3", "*", "/usr/bin/cleanup --slot " + std::to_string(index));
 }
 
 DeviceInfo info() {
@@ -157,17 +148,20 @@ TEST(Files, NullFileNameIsRefusedUnderTheFileFamilysOwnLine) {
     {
         StderrCapture err;
         EXPECT_EQ(f2s_CrontabCapabilitySet(nullptr, &c), -2);
-        EXPECT_EQ(err.text(), diag(file_list_file(), kF2sCapabilityLine, "f2s_CrontabCapabilitySet", "fine_name is empty!\n"));
+        EXPECT_EQ(err.text(),
+                  diag(file_list_file(), kF2sCapabilityLine, "f2s_CrontabCapabilitySet", "fine_name is empty!\n"));
     }
     {
         StderrCapture err;
         EXPECT_EQ(f2s_array_CrontabParameter(nullptr, tasks, &n), -2);
-        EXPECT_EQ(err.text(), diag(file_list_file(), kF2sArrayLine, "f2s_array_CrontabParameter", "fine_name is empty!\n"));
+        EXPECT_EQ(err.text(),
+                  diag(file_list_file(), kF2sArrayLine, "f2s_array_CrontabParameter", "fine_name is empty!\n"));
     }
     {
         StderrCapture err;
         EXPECT_EQ(s2f_array_CrontabParameter(nullptr, tasks, 1), -2);
-        EXPECT_EQ(err.text(), diag(file_list_file(), kS2fArrayLine, "s2f_array_CrontabParameter", "fine_name is empty!\n"));
+        EXPECT_EQ(err.text(),
+                  diag(file_list_file(), kS2fArrayLine, "s2f_array_CrontabParameter", "fine_name is empty!\n"));
     }
 }
 
@@ -177,7 +171,8 @@ TEST(Files, ReaderFailureInAFileIsReportedByC2sAndReturnsMinusOne) {
     CrontabCapabilitySet c = {};
     StderrCapture err;
     EXPECT_EQ(f2s_CrontabCapabilitySet(path.c_str(), &c), -1);
-    EXPECT_EQ(err.text(), diag(text_list_file(), 7, "c2s_CrontabCapabilitySet", "json_to_struct_CrontabCapabilitySet failed!\n"));
+    EXPECT_EQ(err.text(),
+              diag(text_list_file(), 7, "c2s_CrontabCapabilitySet", "json_to_struct_CrontabCapabilitySet failed!\n"));
 }
 
 TEST(Files, ArrayFileReadWithSmallerCapacityFillsOnlyThat) {

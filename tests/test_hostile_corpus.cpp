@@ -120,7 +120,7 @@ std::vector<Case> corpus() {
     cases.push_back({"many_members", "{\"Index\":1" + repeat(",\"Zz\":1", 100000) + "}", 0, false});
     // Every truncation of the example files.
     for (const char *type : {"DeviceInfo", "CrontabParameter"}) {
-        const std::string whole = read_file(std::string(APP_S2J_SOURCE_DIR) + "/examples/" + type + ".json");
+        const std::string whole = read_file(example_path(type));
         for (size_t cut = 0; cut < whole.size(); cut += 3)
             cases.push_back({std::string("cut_") + type + "_" + std::to_string(cut), whole.substr(0, cut), 0,
                              whole[0] == '['});
@@ -133,7 +133,10 @@ enum class Shape { Rejected, Object, Array, Other };
 Shape shape(const std::string &bytes, bool with_len) {
     cJSON *t = with_len ? (bytes.empty() ? nullptr : cJSON_ParseWithLength(bytes.data(), bytes.size()))
                         : cJSON_Parse(bytes.c_str());
-    Shape s = t == nullptr ? Shape::Rejected : cJSON_IsObject(t) ? Shape::Object : cJSON_IsArray(t) ? Shape::Array : Shape::Other;
+    Shape s = t == nullptr        ? Shape::Rejected
+              : cJSON_IsObject(t) ? Shape::Object
+              : cJSON_IsArray(t)  ? Shape::Array
+                                  : Shape::Other;
     cJSON_Delete(t);
     return s;
 }

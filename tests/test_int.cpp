@@ -55,7 +55,8 @@ TEST(CreateInt, IndentedPrinterWritesPlainDigitsToo) {
     cJSON_AddIntToObject(obj.p, "a", INT64_MAX);
     cJSON_AddIntToObject(obj.p, "b", -1);
     cJSON_AddIntToObject(obj.p, "c", 4294967295LL);
-    EXPECT_EQ(Text(cJSON_Print(obj.p)).str(), "{\n\t\"a\":\t9223372036854775807,\n\t\"b\":\t-1,\n\t\"c\":\t4294967295\n}");
+    EXPECT_EQ(Text(cJSON_Print(obj.p)).str(),
+              "{\n\t\"a\":\t9223372036854775807,\n\t\"b\":\t-1,\n\t\"c\":\t4294967295\n}");
 }
 
 TEST(AddIntToObject, AddsTheItemUnderTheNameAndReturnsIt) {

@@ -15,10 +15,6 @@ namespace {
 // CrontabParameter's lines in the instantiation list.
 constexpr int kUpdateLine = 12, kJ2sUpdateLine = 14;
 
-std::string d(int line, const std::string &func, const std::string &msg) {
-    return diag(text_list_file(), line, func, msg);
-}
-
 struct Tasks {
     CrontabParameter t[3] = {};
     Tasks() {
@@ -33,7 +29,9 @@ TEST(KeyedUpdate, ElementWithKnownKeyUpdatesItsRecordAndUnknownKeyIsIgnored) {
     Tasks a;
     uint32_t n = 3;
     StderrCapture err;
-    EXPECT_EQ(j2s_array_update_CrontabParameter("[{\"Index\": 3, \"Enable\": 1}, {\"Index\": 7, \"Enable\": 1}]", a.t, &n), 0);
+    EXPECT_EQ(
+        j2s_array_update_CrontabParameter("[{\"Index\": 3, \"Enable\": 1}, {\"Index\": 7, \"Enable\": 1}]", a.t, &n),
+        0);
     EXPECT_EQ(err.text(), "");
     EXPECT_EQ(n, 1u);
     EXPECT_EQ(a.t[2].Enable, 1);
@@ -54,10 +52,10 @@ TEST(KeyedUpdate, ElementWithoutItsKeyIsRefusedAfterEarlierElementsWereApplied) 
     Tasks a;
     uint32_t n = 3;
     StderrCapture err;
-    EXPECT_EQ(j2s_array_update_CrontabParameter("[{\"Index\": 1, \"Enable\": 5}, {\"Enable\": 6}, {\"Index\": 2, \"Enable\": 7}]",
-                                                a.t, &n),
+    EXPECT_EQ(j2s_array_update_CrontabParameter(
+                  "[{\"Index\": 1, \"Enable\": 5}, {\"Enable\": 6}, {\"Index\": 2, \"Enable\": 7}]", a.t, &n),
               -2);
-    EXPECT_EQ(err.text(), d(kUpdateLine, "c2s_array_update_CrontabParameter",
+    EXPECT_EQ(err.text(), text_diag(kUpdateLine, "c2s_array_update_CrontabParameter",
                             "The keyword is not contained in an object of the json array!\n"));
     EXPECT_EQ(n, 3u);
     EXPECT_EQ(a.t[0].Enable, 5);
@@ -70,7 +68,7 @@ TEST(KeyedUpdate, KeyOfTheWrongJsonTypeCountsAsMissing) {
         uint32_t n = 3;
         StderrCapture err;
         EXPECT_EQ(j2s_array_update_CrontabParameter(text, a.t, &n), -2) << text;
-        EXPECT_EQ(err.text(), d(kUpdateLine, "c2s_array_update_CrontabParameter",
+        EXPECT_EQ(err.text(), text_diag(kUpdateLine, "c2s_array_update_CrontabParameter",
                                 "The keyword is not contained in an object of the json array!\n"));
     }
 }
@@ -78,7 +76,9 @@ TEST(KeyedUpdate, KeyOfTheWrongJsonTypeCountsAsMissing) {
 TEST(KeyedUpdate, CapacityZeroUpdatesNothingAndCountStaysZero) {
     Tasks a, before;
     uint32_t n = 0;
-    EXPECT_EQ(j2s_array_update_CrontabParameter("[{\"Index\": 1, \"Enable\": 1}, {\"Index\": 2, \"Enable\": 1}]", a.t, &n), 0);
+    EXPECT_EQ(
+        j2s_array_update_CrontabParameter("[{\"Index\": 1, \"Enable\": 1}, {\"Index\": 2, \"Enable\": 1}]", a.t, &n),
+        0);
     EXPECT_EQ(n, 0u);
     EXPECT_EQ(std::memcmp(a.t, before.t, sizeof a.t), 0);
 }
@@ -96,7 +96,9 @@ TEST(KeyedUpdate, OnlyTheLowestIndexOfTwoRecordsWithTheSameKeyIsUpdated) {
 TEST(KeyedUpdate, TwoElementsWithTheSameKeyUpdateOneRecordTwiceAndCountTwice) {
     Tasks a;
     uint32_t n = 3;
-    EXPECT_EQ(j2s_array_update_CrontabParameter("[{\"Index\": 1, \"Enable\": 4}, {\"Index\": 1, \"Command\": \"x\"}]", a.t, &n), 0);
+    EXPECT_EQ(j2s_array_update_CrontabParameter("[{\"Index\": 1, \"Enable\": 4}, {\"Index\": 1, \"Command\": \"x\"}]",
+                                                a.t, &n),
+              0);
     EXPECT_EQ(n, 2u);
     EXPECT_EQ(a.t[0].Enable, 4);
     EXPECT_STREQ(a.t[0].Command, "x");
@@ -114,9 +116,11 @@ TEST(KeyedUpdate, ReaderFailureOfAMatchedElementReturnsMinusOneWithCountUnchange
     Tasks a;
     uint32_t n = 3;
     StderrCapture err;
-    EXPECT_EQ(j2s_array_update_CrontabParameter("[{\"Index\": 1, \"Enable\": 3}, {\"Index\": 2, \"Enable\": \"on\"}]", a.t, &n),
+    EXPECT_EQ(j2s_array_update_CrontabParameter("[{\"Index\": 1, \"Enable\": 3}, {\"Index\": 2, \"Enable\": \"on\"}]",
+                                                a.t, &n),
               -1);
-    EXPECT_EQ(err.text(), d(kUpdateLine, "c2s_array_update_CrontabParameter", "json_to_struct_CrontabParameter failed!\n"));
+    EXPECT_EQ(err.text(),
+              text_diag(kUpdateLine, "c2s_array_update_CrontabParameter", "json_to_struct_CrontabParameter failed!\n"));
     EXPECT_EQ(n, 3u);
     EXPECT_EQ(a.t[0].Enable, 3);
 }
@@ -146,7 +150,7 @@ TEST(KeyedUpdate, C2sArrayUpdateChecksArgumentsInOrder) {
     for (const Case &c : cases) {
         StderrCapture err;
         EXPECT_EQ(c2s_array_update_CrontabParameter(c.json, c.arr, c.count), -2);
-        EXPECT_EQ(err.text(), d(kUpdateLine, "c2s_array_update_CrontabParameter", c.msg));
+        EXPECT_EQ(err.text(), text_diag(kUpdateLine, "c2s_array_update_CrontabParameter", c.msg));
         EXPECT_EQ(n, 3u);
     }
 }
@@ -163,29 +167,30 @@ TEST(KeyedUpdate, J2sArrayUpdateRefusesNullArgumentsAndUnparsableText) {
     for (const Case &c : cases) {
         StderrCapture err;
         EXPECT_EQ(j2s_array_update_CrontabParameter(c.text, c.arr, c.count), -2);
-        EXPECT_EQ(err.text(), d(kJ2sUpdateLine, f, "json_str or struct_array or struct_array_size is empty!\n"));
+        EXPECT_EQ(err.text(),
+                  text_diag(kJ2sUpdateLine, f, "json_str or struct_array or struct_array_size is empty!\n"));
     }
     for (const Case &c : cases) {
         StderrCapture err;
         EXPECT_EQ(j2s_array_update_CrontabParameter_with_len(c.text, 2, c.arr, c.count), -2);
-        EXPECT_EQ(err.text(), d(kJ2sUpdateLine, f + "_with_len",
+        EXPECT_EQ(err.text(), text_diag(kJ2sUpdateLine, f + "_with_len",
                                 "json_str or json_str_len or struct_array or struct_array_size is empty!\n"));
     }
     {
         StderrCapture err;
         EXPECT_EQ(j2s_array_update_CrontabParameter_with_len("[]", 0, a.t, &n), -2);
-        EXPECT_EQ(err.text(), d(kJ2sUpdateLine, f + "_with_len",
+        EXPECT_EQ(err.text(), text_diag(kJ2sUpdateLine, f + "_with_len",
                                 "json_str or json_str_len or struct_array or struct_array_size is empty!\n"));
     }
     {
         StderrCapture err;
         EXPECT_EQ(j2s_array_update_CrontabParameter("[{]", a.t, &n), -2);
-        EXPECT_EQ(err.text(), d(kJ2sUpdateLine, f, "cJSON_Parse([{]) failed! reason: " + parse_reason("[{]")));
+        EXPECT_EQ(err.text(), text_diag(kJ2sUpdateLine, f, "cJSON_Parse([{]) failed! reason: " + parse_reason("[{]")));
     }
     {
         StderrCapture err;
         EXPECT_EQ(j2s_array_update_CrontabParameter_with_len("[{]", 3, a.t, &n), -2);
-        EXPECT_EQ(err.text(), d(kJ2sUpdateLine, f + "_with_len",
+        EXPECT_EQ(err.text(), text_diag(kJ2sUpdateLine, f + "_with_len",
                                 "cJSON_ParseWithLength([{], 3) failed! reason: " + parse_reason_with_len("[{]", 3)));
     }
     EXPECT_EQ(n, 3u);
@@ -280,13 +285,7 @@ TEST(KeywordReaders, KeywordReaderReadsTheKeyAndFailsWithoutIt) {
 }
 
 TEST(KeywordReaders, GetKeywordReadsTheFirstKeyOnly) {
-    uint32_t index = 0;
-    Tree ok(cJSON_Parse("{\"INDEX\": 12}"));
-    EXPECT_EQ(json_to_struct_GetCrontabParameterKeyword(&index, ok.p), 1);
-    EXPECT_EQ(index, 12u);
-    Tree missing(cJSON_Parse("{}"));
-    EXPECT_EQ(json_to_struct_GetCrontabParameterKeyword(&index, missing.p), 0);
-    EXPECT_EQ(index, 12u);
+    expect_integer_key_reader(json_to_struct_GetCrontabParameterKeyword, "{\"INDEX\": 12}", 12u, {"{}"});
 }
 
 TEST(KeywordReaders, DeviceTimeKeywordRequiresAllEightKeysAndKeepsThoseReadBeforeAFailure) {

@@ -12,10 +12,9 @@
 #include <string>
 #include <vector>
 
-#include "record_checks.h"
+#include "support.h"
 
 using namespace testing_support;
-using namespace record_checks;
 
 namespace {
 
@@ -30,7 +29,9 @@ static_assert(CAPACITY(NetworkInterface, Name) == 64 && CAPACITY(NetworkInterfac
 static_assert(offsetof(NetworkInterface, SupportStandardList) == 256, "");
 static_assert(offsetof(NetworkInterface, Removeable) == 516, "");
 static_assert(offsetof(NetworkInterface, MaxTransmissionRate) == 532, "");
-static_assert(MEMBER_IS(NetworkInterface, Removeable, int32_t) && MEMBER_IS(NetworkInterface, MaxReceptionRate, uint32_t), "");
+static_assert(MEMBER_IS(NetworkInterface, Removeable, int32_t) &&
+                  MEMBER_IS(NetworkInterface, MaxReceptionRate, uint32_t),
+              "");
 
 static_assert(sizeof(NetworkInterfaceStatus) == 84, "");
 static_assert(offsetof(NetworkInterfaceStatus, IsPlugged) == 64, "");
@@ -46,7 +47,8 @@ static_assert(offsetof(NetworkLANParameter, MTUSize) == 370, "MTUSize directly a
 static_assert(CAPACITY(NetworkLANParameter, IPv4Address) == 16 && CAPACITY(NetworkLANParameter, IPv6Address) == 48, "");
 static_assert(CAPACITY(NetworkLANParameter, MACAddress) == 18, "");
 static_assert(MEMBER_IS(NetworkLANParameter, MTUSize, uint16_t), "the LAN MTU is 16 bits wide");
-static_assert(sizeof(NetworkLANParameterKeyword) == 64 && CAPACITY(NetworkLANParameterKeyword, InterfaceName) == 64, "");
+static_assert(sizeof(NetworkLANParameterKeyword) == 64 && CAPACITY(NetworkLANParameterKeyword, InterfaceName) == 64,
+              "");
 
 static_assert(sizeof(NetworkRouteParameter) == 64, "");
 static_assert(CAPACITY(NetworkRouteParameter, PrimaryNetworkInterface) == 64, "");
@@ -75,7 +77,8 @@ static_assert(MEMBER_IS(WIFIHotspot, SignalStrength, int32_t), "signal levels ar
 static_assert(sizeof(SerialPortInterface) == 1604, "");
 static_assert(offsetof(SerialPortInterface, Removable) == 320, "");
 static_assert(offsetof(SerialPortInterface, SupportedFlowControlList) == 1348, "");
-static_assert(CAPACITY(SerialPortInterface, Level) == 64 && CAPACITY(SerialPortInterface, SupportedBaudrateList) == 256, "");
+static_assert(CAPACITY(SerialPortInterface, Level) == 64 && CAPACITY(SerialPortInterface, SupportedBaudrateList) == 256,
+              "");
 
 static_assert(sizeof(SerialPortParameter) == 208, "");
 static_assert(offsetof(SerialPortParameter, Baudrate) == 68, "");
@@ -117,11 +120,12 @@ TEST(NetworkExamples, EveryExampleFileLoadsWithItsReaderAndIsTheEmittersOwnText)
     expect_example_reads("NetworkCapabilitySet", false, struct_to_json_NetworkCapabilitySet,
                          json_to_struct_NetworkCapabilitySet, &caps);
     NetworkCapabilitySet cap = {};
-    EXPECT_EQ(f2s_NetworkCapabilitySet(example("NetworkCapabilitySet").c_str(), &cap), 0);
+    EXPECT_EQ(f2s_NetworkCapabilitySet(example_path("NetworkCapabilitySet").c_str(), &cap), 0);
     EXPECT_EQ(std::memcmp(&cap, &caps[0], sizeof cap), 0);
 
     std::vector<NetworkInterface> ifs;
-    expect_example_reads("NetworkInterface", true, struct_to_json_NetworkInterface, json_to_struct_NetworkInterface, &ifs);
+    expect_example_reads("NetworkInterface", true, struct_to_json_NetworkInterface, json_to_struct_NetworkInterface,
+                         &ifs);
     expect_f2s_array("NetworkInterface", f2s_array_NetworkInterface, ifs);
 
     std::vector<NetworkInterfaceStatus> st;
@@ -129,7 +133,8 @@ TEST(NetworkExamples, EveryExampleFileLoadsWithItsReaderAndIsTheEmittersOwnText)
                          json_to_struct_NetworkInterfaceStatus, &st);
     uint32_t n = 4;
     NetworkInterfaceStatus st_arr[4] = {};
-    EXPECT_EQ(j2s_array_NetworkInterfaceStatus(read_file(example("NetworkInterfaceStatus")).c_str(), st_arr, &n), 0);
+    EXPECT_EQ(j2s_array_NetworkInterfaceStatus(read_file(example_path("NetworkInterfaceStatus")).c_str(), st_arr, &n),
+              0);
     EXPECT_EQ(n, st.size());
 
     std::vector<NetworkLANParameter> lans;
@@ -141,7 +146,7 @@ TEST(NetworkExamples, EveryExampleFileLoadsWithItsReaderAndIsTheEmittersOwnText)
     expect_example_reads("NetworkRouteParameter", false, struct_to_json_NetworkRouteParameter,
                          json_to_struct_NetworkRouteParameter, &routes);
     NetworkRouteParameter route = {};
-    EXPECT_EQ(f2s_NetworkRouteParameter(example("NetworkRouteParameter").c_str(), &route), 0);
+    EXPECT_EQ(f2s_NetworkRouteParameter(example_path("NetworkRouteParameter").c_str(), &route), 0);
     EXPECT_STREQ(route.PrimaryNetworkInterface, routes[0].PrimaryNetworkInterface);
 
     std::vector<NetworkWIFIParameter> wifis;
@@ -151,7 +156,7 @@ TEST(NetworkExamples, EveryExampleFileLoadsWithItsReaderAndIsTheEmittersOwnText)
 
     expect_example_reads("ScanWIFIHotspotParameter", false, struct_to_json_ScanWIFIHotspotParameter,
                          json_to_struct_ScanWIFIHotspotParameter);
-    Tree scan(cJSON_Parse(read_file(example("ScanWIFIHotspotParameter")).c_str()));
+    Tree scan(cJSON_Parse(read_file(example_path("ScanWIFIHotspotParameter")).c_str()));
     ScanWIFIHotspotParameter req = {};
     EXPECT_EQ(c2s_ScanWIFIHotspotParameter(scan.p, &req), 0);
     EXPECT_STREQ(req.InterfaceName, "wlan0");
@@ -176,49 +181,6 @@ TEST(NetworkExamples, EveryExampleFileLoadsWithItsReaderAndIsTheEmittersOwnText)
     expect_f2s_array("SerialPortNetworkTransferParameter", f2s_array_SerialPortNetworkTransferParameter, links);
 }
 
-// ---- Function sets ----------------------------------------------------------
-
-TEST(NetworkFunctions, CapabilitySetHasTextFamiliesAndALoaderButNoSaver) {
-    expect_exactly("NetworkCapabilitySet", {"s2j", "c2s", "j2s", "f2s"});
-}
-
-TEST(NetworkFunctions, InterfaceArraysLoadFromFilesButHaveNoSaverAndNoKeywordReaders) {
-    expect_exactly("NetworkInterface", {"s2j_array", "c2s_array", "j2s_array", "f2s_array"});
-}
-
-TEST(NetworkFunctions, InterfaceStatusHasArraysAndOnlyTheSingleKeyReader) {
-    expect_exactly("NetworkInterfaceStatus", {"s2j_array", "c2s_array", "j2s_array", "get"});
-}
-
-TEST(NetworkFunctions, LANParameterHasArraysKeyedUpdateBothKeywordReadersAndArrayFiles) {
-    expect_exactly("NetworkLANParameter",
-                   {"s2j_array", "c2s_array", "j2s_array", "update", "keyword", "get", "f2s_array", "s2f_array"});
-}
-
-TEST(NetworkFunctions, RouteParameterHasTextFamiliesAndBothFileFunctions) {
-    expect_exactly("NetworkRouteParameter", {"s2j", "c2s", "j2s", "f2s", "s2f"});
-}
-
-TEST(NetworkFunctions, WIFIParameterHasArraysKeyedUpdateBothKeywordReadersAndArrayFiles) {
-    expect_exactly("NetworkWIFIParameter",
-                   {"s2j_array", "c2s_array", "j2s_array", "update", "keyword", "get", "f2s_array", "s2f_array"});
-}
-
-TEST(NetworkFunctions, ScanRequestHasOnlyC2s) { expect_exactly("ScanWIFIHotspotParameter", {"c2s"}); }
-
-TEST(NetworkFunctions, HotspotArraysLoadFromFilesButAreNeverSaved) {
-    expect_exactly("WIFIHotspot", {"s2j_array", "c2s_array", "j2s_array", "f2s_array"});
-}
-
-TEST(NetworkFunctions, SerialPortInterfaceArraysLoadFromFilesButAreNeverSaved) {
-    expect_exactly("SerialPortInterface", {"s2j_array", "c2s_array", "j2s_array", "f2s_array"});
-}
-
-TEST(NetworkFunctions, SerialPortSettingsHaveArraysKeyedUpdateBothKeywordReadersAndArrayFiles) {
-    for (const char *T : {"SerialPortParameter", "SerialPortNetworkTransferParameter"})
-        expect_exactly(T, {"s2j_array", "c2s_array", "j2s_array", "update", "keyword", "get", "f2s_array", "s2f_array"});
-}
-
 // ---- Network interfaces and LAN ---------------------------------------------
 
 TEST(NetworkLANParameter, MACAddressOf17CharactersIsKeptWhole) {
@@ -240,13 +202,9 @@ TEST(NetworkLANParameter, MACAddressOf18OrMoreCharactersIsStoredAsItsFirst17) {
 }
 
 TEST(NetworkLANParameter, IPv4AddressOf16OrMoreCharactersIsStoredAsItsFirst15) {
-    for (size_t len : {16u, 40u}) {
-        NetworkLANParameter r = {};
-        Tree tree(cJSON_CreateObject());
-        cJSON_AddStringToObject(tree.p, "IPv4Address", chars(len, '1').c_str());
-        ASSERT_EQ(json_to_struct_NetworkLANParameter(&r, tree.p), 1);
-        EXPECT_EQ(std::string(r.IPv4Address), chars(15, '1'));
-    }
+    for (size_t len : {16u, 40u})
+        expect_read_as_prefix(json_to_struct_NetworkLANParameter, &NetworkLANParameter::IPv4Address, "IPv4Address", len,
+                              '1');
     NetworkLANParameter r = {};
     Tree tree(cJSON_Parse("{\"IPv4Address\":\"255.255.255.255\"}"));  // 15 characters fit
     ASSERT_EQ(json_to_struct_NetworkLANParameter(&r, tree.p), 1);
@@ -254,13 +212,9 @@ TEST(NetworkLANParameter, IPv4AddressOf16OrMoreCharactersIsStoredAsItsFirst15) {
 }
 
 TEST(NetworkLANParameter, IPv6AddressOf48OrMoreCharactersIsStoredAsItsFirst47) {
-    for (size_t len : {48u, 100u}) {
-        NetworkLANParameter r = {};
-        Tree tree(cJSON_CreateObject());
-        cJSON_AddStringToObject(tree.p, "IPv6Address", chars(len, 'f').c_str());
-        ASSERT_EQ(json_to_struct_NetworkLANParameter(&r, tree.p), 1);
-        EXPECT_EQ(std::string(r.IPv6Address), chars(47, 'f'));
-    }
+    for (size_t len : {48u, 100u})
+        expect_read_as_prefix(json_to_struct_NetworkLANParameter, &NetworkLANParameter::IPv6Address, "IPv6Address", len,
+                              'f');
 }
 
 TEST(NetworkLANParameter, MTUSizeOf70000IsReadBackAs4464) {
@@ -289,7 +243,8 @@ TEST(NetworkLANParameter, MTUSizeKeepsOnlyTheLow16BitsWithoutRangeCheck) {
 TEST(NetworkLANParameter, MTUSizeOf65535IsEmittedUnsigned) {
     NetworkLANParameter r = lan("eth0", 65535);
     Text text(s2j_array_NetworkLANParameter(&r, 1, 0));
-    EXPECT_NE(text.str().find("\"MACAddress\":\"00:1A:2B:3C:4D:5E\",\"MTUSize\":65535}"), std::string::npos) << text.str();
+    EXPECT_NE(text.str().find("\"MACAddress\":\"00:1A:2B:3C:4D:5E\",\"MTUSize\":65535}"), std::string::npos)
+        << text.str();
 }
 
 TEST(NetworkLANParameter, MTUSizeGivenAsTextFailsAfterEveryEarlierFieldIsWritten) {
@@ -308,7 +263,7 @@ TEST(NetworkLANParameter, MTUSizeGivenAsTextFailsTheArrayReaderWithItsDiagnostic
     uint32_t n = 2;
     StderrCapture err;
     EXPECT_EQ(j2s_array_NetworkLANParameter("[{\"InterfaceName\":\"wan\",\"MTUSize\":\"1500\"}]", arr, &n), -1);
-    EXPECT_EQ(err.text(), d(fam("NetworkLANParameter").line.c2s_array, "c2s_array_NetworkLANParameter",
+    EXPECT_EQ(err.text(), text_diag(lines_of("NetworkLANParameter").c2s_array, "c2s_array_NetworkLANParameter",
                             "json_to_struct_NetworkLANParameter failed!\n"));
     EXPECT_EQ(n, 2u);
     EXPECT_STREQ(arr[0].InterfaceName, "wan");
@@ -412,22 +367,13 @@ TEST(NetworkInterfaceStatus, RatesAreUnsignedAndFlagsSigned) {
 }
 
 TEST(NetworkInterface, RemoveableIsTheOnlySpellingAccepted) {
-    NetworkInterface r = {};
-    r.Removeable = 7;
-    Tree without_e(cJSON_Parse("{\"Removable\":1}"));
-    ASSERT_EQ(json_to_struct_NetworkInterface(&r, without_e.p), 1);
-    EXPECT_EQ(r.Removeable, 7);
-    Tree with_e(cJSON_Parse("{\"Removeable\":1}"));
-    ASSERT_EQ(json_to_struct_NetworkInterface(&r, with_e.p), 1);
-    EXPECT_EQ(r.Removeable, 1);
+    expect_reads_only_spelling(json_to_struct_NetworkInterface, &NetworkInterface::Removeable, "Removeable",
+                               "Removable", 7);
 }
 
 TEST(NetworkInterface, EmitterWritesRemoveable) {
-    NetworkInterface r = {};
-    r.Removeable = 1;
-    Tree tree(struct_to_json_NetworkInterface(&r));
-    EXPECT_NE(cJSON_GetObjectItemCaseSensitive(tree.p, "Removeable"), nullptr);
-    EXPECT_EQ(cJSON_GetObjectItem(tree.p, "Removable"), nullptr);
+    expect_emits_only_spelling(struct_to_json_NetworkInterface, &NetworkInterface::Removeable, "Removeable",
+                               "Removable");
 }
 
 TEST(NetworkRouteParameter, TextAndFileRoundTrip) {
@@ -497,11 +443,7 @@ TEST(NetworkWIFIParameter, TheSameMTUSizeDocumentIsCutTo16BitsOnlyByTheLANRecord
 }
 
 TEST(NetworkWIFIParameter, SSIDOf64OrMoreCharactersIsStoredAsItsFirst63) {
-    NetworkWIFIParameter r = {};
-    Tree tree(cJSON_CreateObject());
-    cJSON_AddStringToObject(tree.p, "SSID", chars(64, 's').c_str());
-    ASSERT_EQ(json_to_struct_NetworkWIFIParameter(&r, tree.p), 1);
-    EXPECT_EQ(std::string(r.SSID), chars(63, 's'));
+    expect_read_as_prefix(json_to_struct_NetworkWIFIParameter, &NetworkWIFIParameter::SSID, "SSID", 64, 's');
 }
 
 TEST(NetworkWIFIParameter, SecurityKeysOf64OrMoreCharactersAreStoredAsTheirFirst63) {
@@ -534,8 +476,9 @@ TEST(NetworkWIFIParameter, KeyedUpdateOfAnElementWithoutInterfaceNameIsRefused) 
     EXPECT_EQ(j2s_array_update_NetworkWIFIParameter(
                   "[{\"InterfaceName\":\"wlan1\",\"SSID\":\"Studio\"},{\"SSID\":\"Lobby\"}]", arr, &n),
               -2);
-    EXPECT_EQ(err.text(), d(fam("NetworkWIFIParameter").line.c2s_array_update, "c2s_array_update_NetworkWIFIParameter",
-                            "The keyword is not contained in an object of the json array!\n"));
+    EXPECT_EQ(err.text(),
+              text_diag(lines_of("NetworkWIFIParameter").c2s_array_update, "c2s_array_update_NetworkWIFIParameter",
+                        "The keyword is not contained in an object of the json array!\n"));
     EXPECT_EQ(n, 2u);
     EXPECT_STREQ(arr[1].SSID, "Studio");  // the element before the refused one stays applied
     EXPECT_STREQ(arr[0].SSID, "");
@@ -547,8 +490,9 @@ TEST(NetworkWIFIParameter, KeyedUpdateOfAnElementWithNumericInterfaceNameIsRefus
     uint32_t n = 1;
     StderrCapture err;
     EXPECT_EQ(j2s_array_update_NetworkWIFIParameter("[{\"InterfaceName\":0,\"SSID\":\"x\"}]", arr, &n), -2);
-    EXPECT_EQ(err.text(), d(fam("NetworkWIFIParameter").line.c2s_array_update, "c2s_array_update_NetworkWIFIParameter",
-                            "The keyword is not contained in an object of the json array!\n"));
+    EXPECT_EQ(err.text(),
+              text_diag(lines_of("NetworkWIFIParameter").c2s_array_update, "c2s_array_update_NetworkWIFIParameter",
+                        "The keyword is not contained in an object of the json array!\n"));
     EXPECT_STREQ(arr[0].SSID, "");
     Tree tree(cJSON_Parse("{\"InterfaceName\":0}"));
     NetworkWIFIParameterKeyword kw = {};
@@ -585,7 +529,7 @@ TEST(ScanWIFIHotspotParameter, C2sReportsATreeThatIsNotAnObjectOnItsLine) {
     ScanWIFIHotspotParameter r = {};
     StderrCapture err;
     EXPECT_EQ(c2s_ScanWIFIHotspotParameter(tree.p, &r), -2);
-    EXPECT_EQ(err.text(), d(fam("ScanWIFIHotspotParameter").line.c2s, "c2s_ScanWIFIHotspotParameter",
+    EXPECT_EQ(err.text(), text_diag(lines_of("ScanWIFIHotspotParameter").c2s, "c2s_ScanWIFIHotspotParameter",
                             "the cJSON pointer is not an object!\n"));
 }
 
@@ -594,7 +538,7 @@ TEST(ScanWIFIHotspotParameter, C2sReportsAMistypedFieldAsReaderFailure) {
     ScanWIFIHotspotParameter r = {};
     StderrCapture err;
     EXPECT_EQ(c2s_ScanWIFIHotspotParameter(tree.p, &r), -1);
-    EXPECT_EQ(err.text(), d(fam("ScanWIFIHotspotParameter").line.c2s, "c2s_ScanWIFIHotspotParameter",
+    EXPECT_EQ(err.text(), text_diag(lines_of("ScanWIFIHotspotParameter").c2s, "c2s_ScanWIFIHotspotParameter",
                             "json_to_struct_ScanWIFIHotspotParameter failed!\n"));
     EXPECT_STREQ(r.InterfaceName, "wlan0");
 }
@@ -609,13 +553,9 @@ TEST(ScanWIFIHotspotParameter, EmitterExistsThoughNoTextFamilyDoes) {
 // ---- Serial ports --------------------------------------------------------------
 
 TEST(SerialPortNetworkTransferParameter, PeerAddressOf256OrMoreCharactersIsStoredAsItsFirst255) {
-    for (size_t len : {256u, 300u}) {
-        SerialPortNetworkTransferParameter r = {};
-        Tree tree(cJSON_CreateObject());
-        cJSON_AddStringToObject(tree.p, "PeerAddress", chars(len, 'h').c_str());
-        ASSERT_EQ(json_to_struct_SerialPortNetworkTransferParameter(&r, tree.p), 1);
-        EXPECT_EQ(std::string(r.PeerAddress), chars(255, 'h'));
-    }
+    for (size_t len : {256u, 300u})
+        expect_read_as_prefix(json_to_struct_SerialPortNetworkTransferParameter,
+                              &SerialPortNetworkTransferParameter::PeerAddress, "PeerAddress", len, 'h');
 }
 
 TEST(SerialPortParameter, BaudrateGivenAsTextFailsAfterInterfaceNameAndEnableAreWritten) {
@@ -641,19 +581,13 @@ TEST(SerialPortParameter, BaudrateGivenAsTextFailsTheArrayReaderWithItsDiagnosti
     StderrCapture err;
     const char *json = "[{\"Baudrate\":\"9600\"}]";
     EXPECT_EQ(j2s_array_SerialPortParameter_with_len(json, std::strlen(json), arr, &n), -1);
-    EXPECT_EQ(err.text(), d(fam("SerialPortParameter").line.c2s_array, "c2s_array_SerialPortParameter",
+    EXPECT_EQ(err.text(), text_diag(lines_of("SerialPortParameter").c2s_array, "c2s_array_SerialPortParameter",
                             "json_to_struct_SerialPortParameter failed!\n"));
 }
 
 TEST(SerialPortInterface, DocumentWithRemoveableLeavesRemovableUnchanged) {
-    SerialPortInterface r = {};
-    r.Removable = 3;
-    Tree tree(cJSON_Parse("{\"Removeable\":1}"));
-    ASSERT_EQ(json_to_struct_SerialPortInterface(&r, tree.p), 1);
-    EXPECT_EQ(r.Removable, 3);
-    Tree right(cJSON_Parse("{\"Removable\":1}"));
-    ASSERT_EQ(json_to_struct_SerialPortInterface(&r, right.p), 1);
-    EXPECT_EQ(r.Removable, 1);
+    expect_reads_only_spelling(json_to_struct_SerialPortInterface, &SerialPortInterface::Removable, "Removable",
+                               "Removeable", 3);
 }
 
 TEST(NetworkInterface, DocumentWithRemovableLeavesRemoveableUnchanged) {
@@ -667,11 +601,8 @@ TEST(NetworkInterface, DocumentWithRemovableLeavesRemoveableUnchanged) {
 }
 
 TEST(SerialPortInterface, EmitterWritesRemovable) {
-    SerialPortInterface r = {};
-    r.Removable = 1;
-    Tree tree(struct_to_json_SerialPortInterface(&r));
-    EXPECT_NE(cJSON_GetObjectItemCaseSensitive(tree.p, "Removable"), nullptr);
-    EXPECT_EQ(cJSON_GetObjectItem(tree.p, "Removeable"), nullptr);
+    expect_emits_only_spelling(struct_to_json_SerialPortInterface, &SerialPortInterface::Removable, "Removable",
+                               "Removeable");
 }
 
 TEST(SerialPortNetworkTransferParameter, KeyedUpdateOfAnElementWithEnableButNoInterfaceNameIsRefused) {
@@ -681,7 +612,7 @@ TEST(SerialPortNetworkTransferParameter, KeyedUpdateOfAnElementWithEnableButNoIn
     uint32_t n = 1;
     StderrCapture err;
     EXPECT_EQ(j2s_array_update_SerialPortNetworkTransferParameter("[{\"Enable\":1,\"LocalPort\":4001}]", arr, &n), -2);
-    EXPECT_EQ(err.text(), d(fam("SerialPortNetworkTransferParameter").line.c2s_array_update,
+    EXPECT_EQ(err.text(), text_diag(lines_of("SerialPortNetworkTransferParameter").c2s_array_update,
                             "c2s_array_update_SerialPortNetworkTransferParameter",
                             "The keyword is not contained in an object of the json array!\n"));
     EXPECT_EQ(arr[0].Enable, 0);
@@ -699,9 +630,10 @@ TEST(SerialPortNetworkTransferParameter, KeyedUpdateMatchesTheSecondFieldNotTheF
     arr[1].Enable = 1;
     std::strcpy(arr[1].InterfaceName, "COM2");
     uint32_t n = 2;
-    ASSERT_EQ(j2s_array_update_SerialPortNetworkTransferParameter(
-                  "[{\"InterfaceName\":\"COM2\",\"Enable\":0,\"PeerAddress\":\"10.1.2.3\",\"PeerPort\":5002}]", arr, &n),
-              0);
+    ASSERT_EQ(
+        j2s_array_update_SerialPortNetworkTransferParameter(
+            "[{\"InterfaceName\":\"COM2\",\"Enable\":0,\"PeerAddress\":\"10.1.2.3\",\"PeerPort\":5002}]", arr, &n),
+        0);
     EXPECT_EQ(n, 1u);
     EXPECT_EQ(arr[1].Enable, 0);
     EXPECT_STREQ(arr[1].PeerAddress, "10.1.2.3");

@@ -47,7 +47,8 @@ int reference_read(const TypeInfo *t, char *rec, const cJSON *json) {
 std::string recase(const char *key, std::mt19937 &rng) {
     std::string s = key;
     for (char &c : s)
-        if (rng() % 2) c = static_cast<char>(std::isupper(static_cast<unsigned char>(c)) ? std::tolower(c) : std::toupper(c));
+        if (rng() % 2)
+            c = static_cast<char>(std::isupper(static_cast<unsigned char>(c)) ? std::tolower(c) : std::toupper(c));
     return s;
 }
 
@@ -110,6 +111,8 @@ std::vector<const TypeInfo *> types_without_lists() {
 }
 
 INSTANTIATE_TEST_SUITE_P(Registry, ReaderLookup, ::testing::ValuesIn(types_without_lists()),
-                         [](const ::testing::TestParamInfo<const TypeInfo *> &i) { return std::string(i.param->name); });
+                         [](const ::testing::TestParamInfo<const TypeInfo *> &i) {
+                             return std::string(i.param->name);
+                         });
 
 }  // namespace

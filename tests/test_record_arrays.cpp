@@ -14,22 +14,7 @@ namespace {
 // CrontabParameter's lines in the instantiation list.
 constexpr int kS2jArrayLine = 10, kC2sArrayLine = 11, kJ2sArrayLine = 13;
 
-std::string d(int line, const std::string &func, const std::string &msg) {
-    return diag(text_list_file(), line, func, msg);
-}
-
-CrontabParameter task(uint32_t index, const char *command) {
-    CrontabParameter c = {};
-    c.Index = index;
-    c.Enable = 1;
-    std::strcpy(c.Minute, "*/5");
-    std::strcpy(c.Hour, "*");
-    std::strcpy(c.Day, "*");
-    std::strcpy(c.Month, "*");
-    std::strcpy(c.Weekday, "1-5");
-    std::strcpy(c.Command, command);
-    return c;
-}
+CrontabParameter task(uint32_t index, const char *command) { return crontab_task(index, "*/5", "*", "1-5", command); }
 
 const char *kFive = "[{\"Index\":1},{\"Index\":2},{\"Index\":3},{\"Index\":4},{\"Index\":5}]";
 
@@ -48,13 +33,15 @@ TEST(RecordArrays, S2jArrayWithCountZeroReturnsNullWithDiagnostic) {
     CrontabParameter tasks[1] = {task(1, "x")};
     StderrCapture err;
     EXPECT_EQ(s2j_array_CrontabParameter(tasks, 0, 1), nullptr);
-    EXPECT_EQ(err.text(), d(kS2jArrayLine, "s2j_array_CrontabParameter", "struct_array or struct_array_size is empty!\n"));
+    EXPECT_EQ(err.text(),
+              text_diag(kS2jArrayLine, "s2j_array_CrontabParameter", "struct_array or struct_array_size is empty!\n"));
 }
 
 TEST(RecordArrays, S2jArrayWithNullArrayReturnsNullWithDiagnostic) {
     StderrCapture err;
     EXPECT_EQ(s2j_array_CrontabParameter(nullptr, 3, 0), nullptr);
-    EXPECT_EQ(err.text(), d(kS2jArrayLine, "s2j_array_CrontabParameter", "struct_array or struct_array_size is empty!\n"));
+    EXPECT_EQ(err.text(),
+              text_diag(kS2jArrayLine, "s2j_array_CrontabParameter", "struct_array or struct_array_size is empty!\n"));
 }
 
 TEST(RecordArrays, S2jArrayReportsFailureToCreateTheArray) {
@@ -64,7 +51,7 @@ TEST(RecordArrays, S2jArrayReportsFailureToCreateTheArray) {
         CjsonFaults faults(0);
         EXPECT_EQ(s2j_array_CrontabParameter(tasks, 1, 0), nullptr);
     }
-    EXPECT_EQ(err.text(), d(kS2jArrayLine, "s2j_array_CrontabParameter", "cJSON_CreateArray failed!\n"));
+    EXPECT_EQ(err.text(), text_diag(kS2jArrayLine, "s2j_array_CrontabParameter", "cJSON_CreateArray failed!\n"));
 }
 
 TEST(RecordArrays, S2jArrayReportsEmitterFailureWithoutNewlineAndFreesWhatItBuilt) {
@@ -74,7 +61,8 @@ TEST(RecordArrays, S2jArrayReportsEmitterFailureWithoutNewlineAndFreesWhatItBuil
         CjsonFaults faults(2, false, true);  // no room for the text; the array is made, the first object is not
         EXPECT_EQ(s2j_array_CrontabParameter(tasks, 2, 0), nullptr);
     }
-    EXPECT_EQ(err.text(), d(kS2jArrayLine, "s2j_array_CrontabParameter", "struct_to_json_CrontabParameter failed!"));
+    EXPECT_EQ(err.text(),
+              text_diag(kS2jArrayLine, "s2j_array_CrontabParameter", "struct_to_json_CrontabParameter failed!"));
 }
 
 TEST(RecordArrays, S2jArrayUnderEveryFailingAllocationNeverLeaksAndPrintsOnlyItsOwnDiagnostics) {
@@ -89,8 +77,9 @@ TEST(RecordArrays, S2jArrayUnderEveryFailingAllocationNeverLeaksAndPrintsOnlyIts
         }
         Text t(text);
         std::string e = err.text();
-        EXPECT_TRUE(e.empty() || e == d(kS2jArrayLine, "s2j_array_CrontabParameter", "cJSON_CreateArray failed!\n") ||
-                    e == d(kS2jArrayLine, "s2j_array_CrontabParameter", "struct_to_json_CrontabParameter failed!"))
+        EXPECT_TRUE(
+            e.empty() || e == text_diag(kS2jArrayLine, "s2j_array_CrontabParameter", "cJSON_CreateArray failed!\n") ||
+            e == text_diag(kS2jArrayLine, "s2j_array_CrontabParameter", "struct_to_json_CrontabParameter failed!"))
             << e;
         if (text != nullptr && t.str() == full.str()) break;
         ASSERT_LT(n, 200);
@@ -146,12 +135,14 @@ TEST(RecordArrays, ElementsThatAreNumbersAreReadAsEmptyObjects) {
 }
 
 TEST(RecordArrays, WrongTypeInSecondElementFailsWithCountUnchangedAndFirstElementRead) {
-    Tree tree(cJSON_Parse("[{\"Index\": 1, \"Command\": \"one\"}, {\"Index\": 2, \"Enable\": \"yes\", \"Command\": \"two\"}]"));
+    Tree tree(cJSON_Parse(
+        "[{\"Index\": 1, \"Command\": \"one\"}, {\"Index\": 2, \"Enable\": \"yes\", \"Command\": \"two\"}]"));
     CrontabParameter tasks[2] = {task(7, "a"), task(8, "b")};
     uint32_t n = 2;
     StderrCapture err;
     EXPECT_EQ(c2s_array_CrontabParameter(tree.p, tasks, &n), -1);
-    EXPECT_EQ(err.text(), d(kC2sArrayLine, "c2s_array_CrontabParameter", "json_to_struct_CrontabParameter failed!\n"));
+    EXPECT_EQ(err.text(),
+              text_diag(kC2sArrayLine, "c2s_array_CrontabParameter", "json_to_struct_CrontabParameter failed!\n"));
     EXPECT_EQ(n, 2u);
     EXPECT_EQ(tasks[0].Index, 1u);
     EXPECT_STREQ(tasks[0].Command, "one");
@@ -162,7 +153,7 @@ TEST(RecordArrays, WrongTypeInSecondElementFailsWithCountUnchangedAndFirstElemen
 TEST(RecordArrays, C2sArrayChecksTheCountBeforeTheTree) {
     StderrCapture err;
     EXPECT_EQ(c2s_array_CrontabParameter(nullptr, nullptr, nullptr), -2);
-    EXPECT_EQ(err.text(), d(kC2sArrayLine, "c2s_array_CrontabParameter", "struct_array_size is empty!\n"));
+    EXPECT_EQ(err.text(), text_diag(kC2sArrayLine, "c2s_array_CrontabParameter", "struct_array_size is empty!\n"));
 }
 
 TEST(RecordArrays, C2sArrayRefusesAnObjectTreeAndLeavesTheCount) {
@@ -171,7 +162,8 @@ TEST(RecordArrays, C2sArrayRefusesAnObjectTreeAndLeavesTheCount) {
     StderrCapture err;
     EXPECT_EQ(c2s_array_CrontabParameter(tree.p, nullptr, &n), -2);
     EXPECT_EQ(n, 4u);
-    EXPECT_EQ(err.text(), d(kC2sArrayLine, "c2s_array_CrontabParameter", "the cJSON pointer is not an array!\n"));
+    EXPECT_EQ(err.text(),
+              text_diag(kC2sArrayLine, "c2s_array_CrontabParameter", "the cJSON pointer is not an array!\n"));
 }
 
 TEST(RecordArrays, J2sArrayWithNullArrayIsAQuery) {
@@ -187,9 +179,11 @@ TEST(RecordArrays, J2sArrayRefusesNullTextOrCount) {
     uint32_t n = 1;
     for (int which = 0; which < 2; ++which) {
         StderrCapture err;
-        EXPECT_EQ(which ? j2s_array_CrontabParameter("[]", nullptr, nullptr) : j2s_array_CrontabParameter(nullptr, nullptr, &n),
+        EXPECT_EQ(which ? j2s_array_CrontabParameter("[]", nullptr, nullptr)
+                        : j2s_array_CrontabParameter(nullptr, nullptr, &n),
                   -2);
-        EXPECT_EQ(err.text(), d(kJ2sArrayLine, "j2s_array_CrontabParameter", "json_str or struct_array_size is empty!\n"));
+        EXPECT_EQ(err.text(),
+                  text_diag(kJ2sArrayLine, "j2s_array_CrontabParameter", "json_str or struct_array_size is empty!\n"));
     }
     for (int which = 0; which < 3; ++which) {
         StderrCapture err;
@@ -197,7 +191,7 @@ TEST(RecordArrays, J2sArrayRefusesNullTextOrCount) {
                  : which == 1 ? j2s_array_CrontabParameter_with_len("[]", 0, nullptr, &n)
                               : j2s_array_CrontabParameter_with_len("[]", 2, nullptr, nullptr);
         EXPECT_EQ(rc, -2);
-        EXPECT_EQ(err.text(), d(kJ2sArrayLine, "j2s_array_CrontabParameter_with_len",
+        EXPECT_EQ(err.text(), text_diag(kJ2sArrayLine, "j2s_array_CrontabParameter_with_len",
                                 "json_str or json_str_len or struct_array_size is empty!\n"));
     }
 }
@@ -206,7 +200,8 @@ TEST(RecordArrays, J2sArrayParseFailureMessageHasNoNewline) {
     uint32_t n = 1;
     StderrCapture err;
     EXPECT_EQ(j2s_array_CrontabParameter("[{", nullptr, &n), -2);
-    EXPECT_EQ(err.text(), d(kJ2sArrayLine, "j2s_array_CrontabParameter", "cJSON_Parse([{) failed! reason: " + parse_reason("[{")));
+    EXPECT_EQ(err.text(), text_diag(kJ2sArrayLine, "j2s_array_CrontabParameter",
+                                    "cJSON_Parse([{) failed! reason: " + parse_reason("[{")));
     EXPECT_EQ(n, 1u);
 }
 
@@ -214,7 +209,7 @@ TEST(RecordArrays, J2sArrayWithLenParseFailureMessageHasNoNewline) {
     uint32_t n = 1;
     StderrCapture err;
     EXPECT_EQ(j2s_array_CrontabParameter_with_len("[1,2]", 3, nullptr, &n), -2);
-    EXPECT_EQ(err.text(), d(kJ2sArrayLine, "j2s_array_CrontabParameter_with_len",
+    EXPECT_EQ(err.text(), text_diag(kJ2sArrayLine, "j2s_array_CrontabParameter_with_len",
                             "cJSON_ParseWithLength([1,2], 3) failed! reason: " + parse_reason_with_len("[1,2]", 3)));
 }
 
@@ -222,7 +217,8 @@ TEST(RecordArrays, J2sArrayOfAnObjectIsRefusedByC2sArray) {
     uint32_t n = 1;
     StderrCapture err;
     EXPECT_EQ(j2s_array_CrontabParameter("{}", nullptr, &n), -2);
-    EXPECT_EQ(err.text(), d(kC2sArrayLine, "c2s_array_CrontabParameter", "the cJSON pointer is not an array!\n"));
+    EXPECT_EQ(err.text(),
+              text_diag(kC2sArrayLine, "c2s_array_CrontabParameter", "the cJSON pointer is not an array!\n"));
 }
 
 TEST(RecordArrays, J2sArrayReadsTheWholeListAndReturnsTheCount) {

@@ -16,10 +16,6 @@ namespace {
 // DeviceInfo's lines in the instantiation list.
 constexpr int kS2jLine = 24, kC2sLine = 25, kJ2sLine = 26;
 
-std::string d(int line, const std::string &func, const std::string &msg) {
-    return diag(text_list_file(), line, func, msg);
-}
-
 DeviceInfo sample() {
     DeviceInfo info = {};
     std::strcpy(info.ProductModel, "AVX-4K-E200");
@@ -62,7 +58,7 @@ TEST(SingleRecord, NothingIsPrintedOnSuccess) {
 TEST(SingleRecord, S2jOfNullRecordReturnsNullWithDiagnostic) {
     StderrCapture err;
     EXPECT_EQ(s2j_DeviceInfo(nullptr, 1), nullptr);
-    EXPECT_EQ(err.text(), d(kS2jLine, "s2j_DeviceInfo", "struct_ptr is empty!\n"));
+    EXPECT_EQ(err.text(), text_diag(kS2jLine, "s2j_DeviceInfo", "struct_ptr is empty!\n"));
 }
 
 TEST(SingleRecord, S2jReportsEmitterFailureWithoutNewlineWhenObjectCannotBeMade) {
@@ -72,7 +68,7 @@ TEST(SingleRecord, S2jReportsEmitterFailureWithoutNewlineWhenObjectCannotBeMade)
         CjsonFaults faults(0);
         EXPECT_EQ(s2j_DeviceInfo(&info, 1), nullptr);
     }
-    EXPECT_EQ(err.text(), d(kS2jLine, "s2j_DeviceInfo", "struct_to_json_DeviceInfo failed!"));
+    EXPECT_EQ(err.text(), text_diag(kS2jLine, "s2j_DeviceInfo", "struct_to_json_DeviceInfo failed!"));
 }
 
 TEST(SingleRecord, S2jWithoutRoomForItsTextMakesTheSameTextThroughATree) {
@@ -108,7 +104,7 @@ TEST(SingleRecord, S2jUnderFailingAllocationsLosesMembersOrReturnsNullNeverLeaks
         std::string e = err.text();
         if (n == 1) {
             EXPECT_EQ(text, nullptr);
-            EXPECT_EQ(e, d(kS2jLine, "s2j_DeviceInfo", "struct_to_json_DeviceInfo failed!"));
+            EXPECT_EQ(e, text_diag(kS2jLine, "s2j_DeviceInfo", "struct_to_json_DeviceInfo failed!"));
             continue;
         }
         EXPECT_EQ(e, "") << n;
@@ -120,7 +116,7 @@ TEST(SingleRecord, S2jUnderFailingAllocationsLosesMembersOrReturnsNullNeverLeaks
 TEST(SingleRecord, C2sReportsNonObjectTreeBeforeNullRecord) {
     StderrCapture err;
     EXPECT_EQ(c2s_DeviceInfo(nullptr, nullptr), -2);
-    EXPECT_EQ(err.text(), d(kC2sLine, "c2s_DeviceInfo", "the cJSON pointer is not an object!\n"));
+    EXPECT_EQ(err.text(), text_diag(kC2sLine, "c2s_DeviceInfo", "the cJSON pointer is not an object!\n"));
 }
 
 TEST(SingleRecord, C2sOfArrayTreeIsRefused) {
@@ -128,14 +124,14 @@ TEST(SingleRecord, C2sOfArrayTreeIsRefused) {
     DeviceInfo info = {};
     StderrCapture err;
     EXPECT_EQ(c2s_DeviceInfo(tree.p, &info), -2);
-    EXPECT_EQ(err.text(), d(kC2sLine, "c2s_DeviceInfo", "the cJSON pointer is not an object!\n"));
+    EXPECT_EQ(err.text(), text_diag(kC2sLine, "c2s_DeviceInfo", "the cJSON pointer is not an object!\n"));
 }
 
 TEST(SingleRecord, C2sWithNullRecordIsRefused) {
     Tree tree(cJSON_CreateObject());
     StderrCapture err;
     EXPECT_EQ(c2s_DeviceInfo(tree.p, nullptr), -2);
-    EXPECT_EQ(err.text(), d(kC2sLine, "c2s_DeviceInfo", "struct_ptr is empty!\n"));
+    EXPECT_EQ(err.text(), text_diag(kC2sLine, "c2s_DeviceInfo", "struct_ptr is empty!\n"));
 }
 
 TEST(SingleRecord, C2sReportsReaderFailureWithNewlineAndKeepsThePartialFill) {
@@ -143,7 +139,7 @@ TEST(SingleRecord, C2sReportsReaderFailureWithNewlineAndKeepsThePartialFill) {
     DeviceInfo info = sample();
     StderrCapture err;
     EXPECT_EQ(c2s_DeviceInfo(tree.p, &info), -1);
-    EXPECT_EQ(err.text(), d(kC2sLine, "c2s_DeviceInfo", "json_to_struct_DeviceInfo failed!\n"));
+    EXPECT_EQ(err.text(), text_diag(kC2sLine, "c2s_DeviceInfo", "json_to_struct_DeviceInfo failed!\n"));
     EXPECT_STREQ(info.ProductModel, "A");
     EXPECT_STREQ(info.SerialNumber, "SN2024110700123");
     EXPECT_STREQ(info.ProductName, "4K Encoder");
@@ -153,7 +149,7 @@ TEST(SingleRecord, J2sOfEmptyArrayIsRefusedByC2sUnderItsOwnName) {
     DeviceInfo info = {};
     StderrCapture err;
     EXPECT_EQ(j2s_DeviceInfo("[]", &info), -2);
-    EXPECT_EQ(err.text(), d(kC2sLine, "c2s_DeviceInfo", "the cJSON pointer is not an object!\n"));
+    EXPECT_EQ(err.text(), text_diag(kC2sLine, "c2s_DeviceInfo", "the cJSON pointer is not an object!\n"));
 }
 
 TEST(SingleRecord, J2sOfEmptyObjectSucceedsAndLeavesRecordUntouched) {
@@ -166,14 +162,14 @@ TEST(SingleRecord, J2sOfTruncatedTextPrintsWholeTextAndReasonEndingInNewline) {
     DeviceInfo info = {};
     StderrCapture err;
     EXPECT_EQ(j2s_DeviceInfo("{", &info), -2);
-    EXPECT_EQ(err.text(), d(kJ2sLine, "j2s_DeviceInfo", "cJSON_Parse({) failed! reason: \n"));
+    EXPECT_EQ(err.text(), text_diag(kJ2sLine, "j2s_DeviceInfo", "cJSON_Parse({) failed! reason: \n"));
 }
 
 TEST(SingleRecord, J2sQuotesTheRestOfTheTextFromWhereParsingStopped) {
     DeviceInfo info = {};
     StderrCapture err;
     EXPECT_EQ(j2s_DeviceInfo("{\"ProductModel\": nope}", &info), -2);
-    EXPECT_EQ(err.text(), d(kJ2sLine, "j2s_DeviceInfo",
+    EXPECT_EQ(err.text(), text_diag(kJ2sLine, "j2s_DeviceInfo",
                             "cJSON_Parse({\"ProductModel\": nope}) failed! reason: nope}\n"));
 }
 
@@ -181,7 +177,8 @@ TEST(SingleRecord, J2sWithLenOfTruncatedTextPrintsNoNewlineBeforeTheReset) {
     DeviceInfo info = {};
     StderrCapture err;
     EXPECT_EQ(j2s_DeviceInfo_with_len("{", 1, &info), -2);
-    EXPECT_EQ(err.text(), d(kJ2sLine, "j2s_DeviceInfo_with_len", "cJSON_ParseWithLength({, 1) failed! reason: {"));
+    EXPECT_EQ(err.text(),
+              text_diag(kJ2sLine, "j2s_DeviceInfo_with_len", "cJSON_ParseWithLength({, 1) failed! reason: {"));
 }
 
 TEST(SingleRecord, J2sWithLenPrintsTheWholeNulTerminatedTextWhateverTheLength) {
@@ -189,7 +186,7 @@ TEST(SingleRecord, J2sWithLenPrintsTheWholeNulTerminatedTextWhateverTheLength) {
     StderrCapture err;
     EXPECT_EQ(j2s_DeviceInfo_with_len("{\"ProductModel\": \"x\"}", 3, &info), -2);
     std::string e = err.text();
-    EXPECT_EQ(e.find(d(kJ2sLine, "j2s_DeviceInfo_with_len", "").substr(0, 20)), 0u);
+    EXPECT_EQ(e.find(text_diag(kJ2sLine, "j2s_DeviceInfo_with_len", "").substr(0, 20)), 0u);
     EXPECT_NE(e.find("cJSON_ParseWithLength({\"ProductModel\": \"x\"}, 3) failed! reason: "), std::string::npos);
 }
 
@@ -204,7 +201,8 @@ TEST(SingleRecord, J2sWithLenOfLengthZeroIsRefusedWithoutParsing) {
     DeviceInfo info = {};
     StderrCapture err;
     EXPECT_EQ(j2s_DeviceInfo_with_len("{}", 0, &info), -2);
-    EXPECT_EQ(err.text(), d(kJ2sLine, "j2s_DeviceInfo_with_len", "json_str or json_str_len or struct_ptr is empty!\n"));
+    EXPECT_EQ(err.text(),
+              text_diag(kJ2sLine, "j2s_DeviceInfo_with_len", "json_str or json_str_len or struct_ptr is empty!\n"));
 }
 
 TEST(SingleRecord, J2sWithNullArgumentsIsRefused) {
@@ -212,13 +210,14 @@ TEST(SingleRecord, J2sWithNullArgumentsIsRefused) {
     for (int which = 0; which < 2; ++which) {
         StderrCapture err;
         EXPECT_EQ(which == 0 ? j2s_DeviceInfo(nullptr, &info) : j2s_DeviceInfo("{}", nullptr), -2);
-        EXPECT_EQ(err.text(), d(kJ2sLine, "j2s_DeviceInfo", "json_str or struct_ptr is empty!\n"));
+        EXPECT_EQ(err.text(), text_diag(kJ2sLine, "j2s_DeviceInfo", "json_str or struct_ptr is empty!\n"));
     }
     for (int which = 0; which < 2; ++which) {
         StderrCapture err;
         EXPECT_EQ(which == 0 ? j2s_DeviceInfo_with_len(nullptr, 2, &info) : j2s_DeviceInfo_with_len("{}", 2, nullptr),
                   -2);
-        EXPECT_EQ(err.text(), d(kJ2sLine, "j2s_DeviceInfo_with_len", "json_str or json_str_len or struct_ptr is empty!\n"));
+        EXPECT_EQ(err.text(),
+                  text_diag(kJ2sLine, "j2s_DeviceInfo_with_len", "json_str or json_str_len or struct_ptr is empty!\n"));
     }
 }
 
@@ -228,7 +227,7 @@ TEST(SingleRecord, J2sReportsReaderFailureUnderC2sAndReturnsMinusOne) {
         StderrCapture err;
         const char *text = "{\"ProductModel\": 1}";
         EXPECT_EQ(with_len ? j2s_DeviceInfo_with_len(text, std::strlen(text), &info) : j2s_DeviceInfo(text, &info), -1);
-        EXPECT_EQ(err.text(), d(kC2sLine, "c2s_DeviceInfo", "json_to_struct_DeviceInfo failed!\n"));
+        EXPECT_EQ(err.text(), text_diag(kC2sLine, "c2s_DeviceInfo", "json_to_struct_DeviceInfo failed!\n"));
     }
 }
 

@@ -13,10 +13,9 @@
 #include <string>
 #include <vector>
 
-#include "record_checks.h"
+#include "support.h"
 
 using namespace testing_support;
-using namespace record_checks;
 
 namespace {
 
@@ -26,7 +25,8 @@ static_assert(sizeof(StorageInterface) == 340, "");
 static_assert(offsetof(StorageInterface, Removable) == 192 && offsetof(StorageInterface, Expansible) == 196, "");
 static_assert(offsetof(StorageInterface, ProtocolType) == 264, "");
 static_assert(offsetof(StorageInterface, BusID) == 336, "");
-static_assert(MEMBER_IS(StorageInterface, BusBandwidth, uint32_t) && MEMBER_IS(StorageInterface, Removable, int32_t), "");
+static_assert(MEMBER_IS(StorageInterface, BusBandwidth, uint32_t) && MEMBER_IS(StorageInterface, Removable, int32_t),
+              "");
 
 static_assert(sizeof(StorageDevice) == 456, "");
 static_assert(offsetof(StorageDevice, SupportedFileSystemTypeList) == 196, "");
@@ -38,7 +38,9 @@ static_assert(offsetof(StorageDeviceStatus, FileSystemType) == 72, "");
 static_assert(offsetof(StorageDeviceStatus, MountPoint) == 140 && CAPACITY(StorageDeviceStatus, MountPoint) == 256, "");
 static_assert(offsetof(StorageDeviceStatus, TotalCapacity) == 396, "");
 static_assert(offsetof(StorageDeviceStatus, UUID) == 536 && CAPACITY(StorageDeviceStatus, UUID) == 64, "");
-static_assert(MEMBER_IS(StorageDeviceStatus, TotalCapacity, uint32_t) && MEMBER_IS(StorageDeviceStatus, FreeCapacity, uint32_t), "");
+static_assert(MEMBER_IS(StorageDeviceStatus, TotalCapacity, uint32_t) &&
+                  MEMBER_IS(StorageDeviceStatus, FreeCapacity, uint32_t),
+              "");
 
 static_assert(sizeof(DiskGroupCapabilitySet) == 4, "");
 static_assert(MEMBER_IS(DiskGroupCapabilitySet, MaxDiskGroupNumber, uint32_t), "");
@@ -46,7 +48,8 @@ static_assert(MEMBER_IS(DiskGroupCapabilitySet, MaxDiskGroupNumber, uint32_t), "
 static_assert(sizeof(DiskGroupParameter) == 68, "");
 static_assert(offsetof(DiskGroupParameter, GroupID) == 64, "");
 static_assert(MEMBER_IS(DiskGroupParameter, GroupID, int32_t), "GroupID is signed");
-static_assert(sizeof(DiskGroupParameterKeyword) == 64 && CAPACITY(DiskGroupParameterKeyword, StorageDeviceName) == 64, "");
+static_assert(sizeof(DiskGroupParameterKeyword) == 64 && CAPACITY(DiskGroupParameterKeyword, StorageDeviceName) == 64,
+              "");
 
 static_assert(sizeof(FormatDiskParameter) == 200, "");
 static_assert(offsetof(FormatDiskParameter, PartitionName) == 128, "");
@@ -117,7 +120,7 @@ TEST(StorageExamples, EveryExampleFileLoadsWithItsReaderAndIsTheEmittersOwnText)
     expect_example_reads("DiskGroupCapabilitySet", false, struct_to_json_DiskGroupCapabilitySet,
                          json_to_struct_DiskGroupCapabilitySet, &caps);
     DiskGroupCapabilitySet cap = {};
-    EXPECT_EQ(f2s_DiskGroupCapabilitySet(example("DiskGroupCapabilitySet").c_str(), &cap), 0);
+    EXPECT_EQ(f2s_DiskGroupCapabilitySet(example_path("DiskGroupCapabilitySet").c_str(), &cap), 0);
     EXPECT_EQ(cap.MaxDiskGroupNumber, caps[0].MaxDiskGroupNumber);
 
     std::vector<DiskGroupParameter> groups;
@@ -128,10 +131,11 @@ TEST(StorageExamples, EveryExampleFileLoadsWithItsReaderAndIsTheEmittersOwnText)
     expect_example_reads("FormatDiskParameter", false, struct_to_json_FormatDiskParameter,
                          json_to_struct_FormatDiskParameter);
     FormatDiskParameter fmt = {};
-    EXPECT_EQ(j2s_FormatDiskParameter(read_file(example("FormatDiskParameter")).c_str(), &fmt), 0);
+    EXPECT_EQ(j2s_FormatDiskParameter(read_file(example_path("FormatDiskParameter")).c_str(), &fmt), 0);
     EXPECT_STREQ(fmt.StorageDeviceName, "mmcblk1");
 
-    expect_example_reads("FormatDiskProgress", false, struct_to_json_FormatDiskProgress, json_to_struct_FormatDiskProgress);
+    expect_example_reads("FormatDiskProgress", false, struct_to_json_FormatDiskProgress,
+                         json_to_struct_FormatDiskProgress);
     expect_example_reads("RemoveStorageDeviceParameter", false, struct_to_json_RemoveStorageDeviceParameter,
                          json_to_struct_RemoveStorageDeviceParameter);
 
@@ -139,11 +143,12 @@ TEST(StorageExamples, EveryExampleFileLoadsWithItsReaderAndIsTheEmittersOwnText)
     expect_example_reads("RecordCapabilitySet", false, struct_to_json_RecordCapabilitySet,
                          json_to_struct_RecordCapabilitySet, &rcaps);
     RecordCapabilitySet rcap = {};
-    EXPECT_EQ(f2s_RecordCapabilitySet(example("RecordCapabilitySet").c_str(), &rcap), 0);
+    EXPECT_EQ(f2s_RecordCapabilitySet(example_path("RecordCapabilitySet").c_str(), &rcap), 0);
     EXPECT_EQ(std::memcmp(&rcap, &rcaps[0], sizeof rcap), 0);
 
     std::vector<RecordParameter> recs;
-    expect_example_reads("RecordParameter", true, struct_to_json_RecordParameter, json_to_struct_RecordParameter, &recs);
+    expect_example_reads("RecordParameter", true, struct_to_json_RecordParameter, json_to_struct_RecordParameter,
+                         &recs);
     expect_f2s_array("RecordParameter", f2s_array_RecordParameter, recs);
 
     expect_example_reads("RecordStatus", true, struct_to_json_RecordStatus, json_to_struct_RecordStatus);
@@ -162,46 +167,6 @@ TEST(StorageExamples, EveryExampleFileLoadsWithItsReaderAndIsTheEmittersOwnText)
     expect_example_reads("SnapshotInputParameter", false, struct_to_json_SnapshotInputParameter,
                          json_to_struct_SnapshotInputParameter);
     expect_example_reads("SnapshotResult", false, struct_to_json_SnapshotResult, json_to_struct_SnapshotResult);
-}
-
-// ---- Function sets ----------------------------------------------------------
-
-TEST(StorageFunctions, StorageInterfaceHasItsEmitterAndReaderAndNothingElse) {
-    expect_exactly("StorageInterface", {});
-}
-
-TEST(StorageFunctions, StorageDeviceArraysLoadFromFilesButAreNeverSaved) {
-    expect_exactly("StorageDevice", {"s2j_array", "c2s_array", "j2s_array", "f2s_array"});
-}
-
-TEST(StorageFunctions, StatusRecordsHaveArraysAndOnlyTheSingleKeyReader) {
-    for (const char *T : {"StorageDeviceStatus", "RecordStatus", "SnapshotStatus"})
-        expect_exactly(T, {"s2j_array", "c2s_array", "j2s_array", "get"});
-}
-
-TEST(StorageFunctions, CapabilitySetsLoadFromFilesButHaveNoSaver) {
-    expect_exactly("DiskGroupCapabilitySet", {"s2j", "c2s", "j2s", "f2s"});
-    expect_exactly("RecordCapabilitySet", {"s2j", "c2s", "j2s", "f2s"});
-    expect_exactly("SnapshotCapabilitySet", {"s2j_array", "c2s_array", "j2s_array", "f2s_array"});
-}
-
-TEST(StorageFunctions, KeyedSettingsHaveArraysKeyedUpdateBothKeywordReadersAndArrayFiles) {
-    for (const char *T : {"DiskGroupParameter", "RecordParameter", "SnapshotParameter"})
-        expect_exactly(T, {"s2j_array", "c2s_array", "j2s_array", "update", "keyword", "get", "f2s_array", "s2f_array"});
-}
-
-TEST(StorageFunctions, FormatAndRemoveRequestsAreReadButNeverMadeIntoText) {
-    expect_exactly("FormatDiskParameter", {"c2s", "j2s"});
-    expect_exactly("RemoveStorageDeviceParameter", {"c2s", "j2s"});
-}
-
-TEST(StorageFunctions, FormatProgressHasTextFamiliesAndTheSingleKeyReader) {
-    expect_exactly("FormatDiskProgress", {"s2j", "c2s", "j2s", "get"});
-}
-
-TEST(StorageFunctions, SnapshotRequestIsReadFromATreeOnlyAndItsAnswerOnlyMadeIntoText) {
-    expect_exactly("SnapshotInputParameter", {"c2s"});
-    expect_exactly("SnapshotResult", {"s2j"});
 }
 
 // ---- Storage devices and disk groups ------------------------------------------
@@ -287,13 +252,7 @@ TEST(DiskGroupParameter, KeyedUpdateMovesTheNamedDeviceToAnotherGroupAndArrayFil
     ASSERT_EQ(j2s_array_update_DiskGroupParameter("[{\"StorageDeviceName\":\"sdb\",\"GroupID\":-1}]", arr, &n), 0);
     EXPECT_EQ(n, 1u);
     EXPECT_EQ(arr[1].GroupID, -1);
-    std::string path = temp_dir() + "/groups.json";
-    ASSERT_EQ(s2f_array_DiskGroupParameter(path.c_str(), arr, 3), 0);
-    DiskGroupParameter back[3] = {};
-    uint32_t m = 3;
-    ASSERT_EQ(f2s_array_DiskGroupParameter(path.c_str(), back, &m), 0);
-    EXPECT_EQ(m, 3u);
-    EXPECT_EQ(std::memcmp(back, arr, sizeof arr), 0);
+    expect_array_file_round_trip(s2f_array_DiskGroupParameter, f2s_array_DiskGroupParameter, arr, 3);
 }
 
 TEST(DiskGroupParameter, KeyedUpdateOfAnElementWithoutStorageDeviceNameIsRefused) {
@@ -302,8 +261,9 @@ TEST(DiskGroupParameter, KeyedUpdateOfAnElementWithoutStorageDeviceNameIsRefused
     uint32_t n = 1;
     StderrCapture err;
     EXPECT_EQ(j2s_array_update_DiskGroupParameter("[{\"GroupID\":2}]", arr, &n), -2);
-    EXPECT_EQ(err.text(), d(fam("DiskGroupParameter").line.c2s_array_update, "c2s_array_update_DiskGroupParameter",
-                            "The keyword is not contained in an object of the json array!\n"));
+    EXPECT_EQ(err.text(),
+              text_diag(lines_of("DiskGroupParameter").c2s_array_update, "c2s_array_update_DiskGroupParameter",
+                        "The keyword is not contained in an object of the json array!\n"));
     EXPECT_EQ(arr[0].GroupID, 0);
     EXPECT_EQ(n, 1u);
 }
@@ -329,7 +289,8 @@ TEST(FormatDiskProgress, NegativePercentKeepsItsSign) {
     p.FormatDiskProgressPercent = -1;
     std::strcpy(p.PartitionName, "sdb1");
     Text text(s2j_FormatDiskProgress(&p, 0));
-    EXPECT_EQ(text.str(), "{\"StorageDeviceName\":\"sdb\",\"FormatDiskProgressPercent\":-1,\"PartitionName\":\"sdb1\"}");
+    EXPECT_EQ(text.str(),
+              "{\"StorageDeviceName\":\"sdb\",\"FormatDiskProgressPercent\":-1,\"PartitionName\":\"sdb1\"}");
     FormatDiskProgress back = {};
     ASSERT_EQ(j2s_FormatDiskProgress(text.p, &back), 0);
     EXPECT_EQ(back.FormatDiskProgressPercent, -1);
@@ -429,7 +390,7 @@ TEST(RemoveStorageDeviceParameter, RequestIsReadAndAWrongTypeIsReportedOnTheC2sL
     EXPECT_STREQ(r.StorageDeviceName, "mmcblk1");
     StderrCapture err;
     EXPECT_EQ(j2s_RemoveStorageDeviceParameter("{\"StorageDeviceName\":7}", &r), -1);
-    EXPECT_EQ(err.text(), d(fam("RemoveStorageDeviceParameter").line.c2s, "c2s_RemoveStorageDeviceParameter",
+    EXPECT_EQ(err.text(), text_diag(lines_of("RemoveStorageDeviceParameter").c2s, "c2s_RemoveStorageDeviceParameter",
                             "json_to_struct_RemoveStorageDeviceParameter failed!\n"));
     EXPECT_STREQ(r.StorageDeviceName, "mmcblk1");
 }
@@ -437,13 +398,9 @@ TEST(RemoveStorageDeviceParameter, RequestIsReadAndAWrongTypeIsReportedOnTheC2sL
 // ---- Recording ---------------------------------------------------------------
 
 TEST(RecordParameter, ScheduleTableOf2048OrMoreCharactersIsReadAsItsFirst2047) {
-    for (size_t len : {2048u, 5000u}) {
-        RecordParameter r = {};
-        Tree tree(cJSON_CreateObject());
-        cJSON_AddStringToObject(tree.p, "ScheduleTable", chars(len, 's').c_str());
-        ASSERT_EQ(json_to_struct_RecordParameter(&r, tree.p), 1);
-        EXPECT_EQ(std::string(r.ScheduleTable), chars(2047, 's'));
-    }
+    for (size_t len : {2048u, 5000u})
+        expect_read_as_prefix(json_to_struct_RecordParameter, &RecordParameter::ScheduleTable, "ScheduleTable", len,
+                              's');
 }
 
 TEST(RecordParameter, ScheduleTableFillingAll2048BytesIsEmittedAsExactly2048Characters) {
@@ -513,7 +470,7 @@ TEST(RecordParameter, KeyedUpdateWithoutChannelIsRefusedOnTheUpdateLine) {
     uint32_t n = 1;
     StderrCapture err;
     EXPECT_EQ(j2s_array_update_RecordParameter("[{\"StreamIndex\":1}]", arr, &n), -2);
-    EXPECT_EQ(err.text(), d(fam("RecordParameter").line.c2s_array_update, "c2s_array_update_RecordParameter",
+    EXPECT_EQ(err.text(), text_diag(lines_of("RecordParameter").c2s_array_update, "c2s_array_update_RecordParameter",
                             "The keyword is not contained in an object of the json array!\n"));
     EXPECT_EQ(arr[0].StreamIndex, 0u);
 }
@@ -548,7 +505,8 @@ TEST(RecordStatus, TextIsIdenticalToThatOfASnapshotStatusWithEqualValues) {
         Text rt(s2j_array_RecordStatus(r, 3, formatted)), st(s2j_array_SnapshotStatus(s, 3, formatted));
         EXPECT_EQ(rt.str(), st.str());
     }
-    for (int i = 0; i < 3; ++i) EXPECT_EQ(emitted(struct_to_json_RecordStatus, r[i]), emitted(struct_to_json_SnapshotStatus, s[i]));
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(emitted(struct_to_json_RecordStatus, r[i]), emitted(struct_to_json_SnapshotStatus, s[i]));
     Text compact(s2j_array_RecordStatus(r + 1, 1, 0));
     EXPECT_EQ(compact.str(), "[{\"Channel\":4294967295,\"State\":2147483648,\"FreeCapacity\":4294967295}]");
 }
@@ -564,15 +522,8 @@ TEST(RecordStatus, SurvivesARoundTripUnchanged) {
 }
 
 TEST(RecordStatus, SingleKeyReaderReadsTheChannel) {
-    Tree tree(cJSON_Parse("{\"State\":1,\"Channel\":4294967295}"));
-    uint32_t channel = 0;
-    ASSERT_EQ(json_to_struct_GetRecordStatusKeyword(&channel, tree.p), 1);
-    EXPECT_EQ(channel, 4294967295u);
-    Tree none(cJSON_Parse("{\"State\":1}"));
-    EXPECT_EQ(json_to_struct_GetRecordStatusKeyword(&channel, none.p), 0);
-    Tree text(cJSON_Parse("{\"Channel\":\"0\"}"));
-    EXPECT_EQ(json_to_struct_GetRecordStatusKeyword(&channel, text.p), 0);
-    EXPECT_EQ(channel, 4294967295u);
+    expect_integer_key_reader(json_to_struct_GetRecordStatusKeyword, "{\"State\":1,\"Channel\":4294967295}",
+                              4294967295u, {"{\"State\":1}", "{\"Channel\":\"0\"}"});
 }
 
 TEST(RecordCapabilitySet, TextRoundTripAndLoadingFromAFile) {
@@ -595,9 +546,10 @@ TEST(SnapshotCapabilitySet, ListUnderAnyOtherKeyThanSupportPictrueFormatListIsIg
     SnapshotCapabilitySet c = {};
     std::strcpy(c.SupportPictrueFormatList, "JPEG");
     uint32_t n = 1;
-    ASSERT_EQ(j2s_array_SnapshotCapabilitySet(
-                  "[{\"SupportPictureFormatList\":\"PNG\",\"SupportPictrueFormat\":\"BMP\",\"MaxWidth\":1920}]", &c, &n),
-              0);
+    ASSERT_EQ(
+        j2s_array_SnapshotCapabilitySet(
+            "[{\"SupportPictureFormatList\":\"PNG\",\"SupportPictrueFormat\":\"BMP\",\"MaxWidth\":1920}]", &c, &n),
+        0);
     EXPECT_STREQ(c.SupportPictrueFormatList, "JPEG");
     EXPECT_EQ(c.MaxWidth, 1920u);
     ASSERT_EQ(j2s_array_SnapshotCapabilitySet("[{\"SupportPictrueFormatList\":\"PNG\"}]", &c, &n), 0);
@@ -665,7 +617,7 @@ TEST(SnapshotResult, ImageURLOf256CharactersWithoutNulIsEmittedWholeAndReadBackA
 TEST(SnapshotResult, S2jReportsANullRecordOnItsLine) {
     StderrCapture err;
     EXPECT_EQ(s2j_SnapshotResult(nullptr, 1), nullptr);
-    EXPECT_EQ(err.text(), d(fam("SnapshotResult").line.s2j, "s2j_SnapshotResult", "struct_ptr is empty!\n"));
+    EXPECT_EQ(err.text(), text_diag(lines_of("SnapshotResult").s2j, "s2j_SnapshotResult", "struct_ptr is empty!\n"));
 }
 
 TEST(SnapshotInputParameter, RequestIsReadFromATree) {
@@ -682,7 +634,8 @@ TEST(SnapshotInputParameter, C2sReportsANullRecordAfterCheckingTheTree) {
     Tree tree(cJSON_Parse("{\"Channel\":1}"));
     StderrCapture err;
     EXPECT_EQ(c2s_SnapshotInputParameter(tree.p, nullptr), -2);
-    EXPECT_EQ(err.text(), d(fam("SnapshotInputParameter").line.c2s, "c2s_SnapshotInputParameter", "struct_ptr is empty!\n"));
+    EXPECT_EQ(err.text(), text_diag(lines_of("SnapshotInputParameter").c2s, "c2s_SnapshotInputParameter",
+                                    "struct_ptr is empty!\n"));
 }
 
 TEST(SnapshotParameter, KeyedUpdateMatchesTheChannelAndArrayFilesKeepTheSettings) {
@@ -692,27 +645,18 @@ TEST(SnapshotParameter, KeyedUpdateMatchesTheChannelAndArrayFilesKeepTheSettings
     arr[1].Channel = 1;
     arr[1].ImageQuality = 80;
     uint32_t n = 2;
-    ASSERT_EQ(j2s_array_update_SnapshotParameter("[{\"Channel\":1,\"ImageQuality\":95,\"FilePath\":\"/mnt/disk0/snap\"}]",
-                                                 arr, &n),
+    ASSERT_EQ(j2s_array_update_SnapshotParameter(
+                  "[{\"Channel\":1,\"ImageQuality\":95,\"FilePath\":\"/mnt/disk0/snap\"}]", arr, &n),
               0);
     EXPECT_EQ(n, 1u);
     EXPECT_EQ(arr[1].ImageQuality, 95u);
     EXPECT_EQ(arr[0].ImageQuality, 80u);
-    std::string path = temp_dir() + "/snap.json";
-    ASSERT_EQ(s2f_array_SnapshotParameter(path.c_str(), arr, 2), 0);
-    SnapshotParameter back[2] = {};
-    uint32_t m = 2;
-    ASSERT_EQ(f2s_array_SnapshotParameter(path.c_str(), back, &m), 0);
-    EXPECT_EQ(std::memcmp(back, arr, sizeof arr), 0);
+    expect_array_file_round_trip(s2f_array_SnapshotParameter, f2s_array_SnapshotParameter, arr, 2);
 }
 
 TEST(SnapshotStatus, SingleKeyReaderReadsTheChannel) {
-    Tree tree(cJSON_Parse("{\"Channel\":2,\"State\":0}"));
-    uint32_t channel = 0;
-    ASSERT_EQ(json_to_struct_GetSnapshotStatusKeyword(&channel, tree.p), 1);
-    EXPECT_EQ(channel, 2u);
-    Tree none(cJSON_Parse("{\"State\":0}"));
-    EXPECT_EQ(json_to_struct_GetSnapshotStatusKeyword(&channel, none.p), 0);
+    expect_integer_key_reader(json_to_struct_GetSnapshotStatusKeyword, "{\"Channel\":2,\"State\":0}", 2u,
+                              {"{\"State\":0}"});
 }
 
 TEST(SnapshotParameter, KeywordReadersReadTheChannelAndRefuseAnElementWithoutIt) {

@@ -111,7 +111,8 @@ TEST(TemplateCommand, GivesAnArrayForArrayTypesAndAnObjectOtherwise) {
 }
 
 TEST(TemplateCommand, WrongUsageExitsTwoWithTheReason) {
-    const std::string tail = "\nusage: app_s2j template TYPE [--record|--array]\n(app_s2j template --help tells more)\n";
+    const std::string tail =
+        "\nusage: app_s2j template TYPE [--record|--array]\n(app_s2j template --help tells more)\n";
     struct Case {
         std::vector<std::string> args;
         std::string err;

@@ -51,7 +51,7 @@ enum class Strings { Random, Empty, Unterminated, EveryByte };
 // `how` says.  For EveryByte, string field k of record r holds, without a
 // NUL, the bytes 1 + (r * size + j) % 255 for j < size, so that a few
 // records hold every byte value from 1 to 255.
-void fill(const TypeInfo *t, char *rec, Rng &rng, uint32_t pick, Strings how, uint32_t r) {
+void fill_generated(const TypeInfo *t, char *rec, Rng &rng, uint32_t pick, Strings how, uint32_t r) {
     static const std::vector<uint32_t> bounds = boundary_u32();
     for (uint32_t i = 0; i < t->desc->field_count; ++i) {
         const Field &f = t->desc->fields[i];
@@ -153,7 +153,7 @@ TEST_P(TextWriter, writes_cjsons_bytes_for_boundary_integers_and_random_records)
         std::vector<char> recs(static_cast<size_t>(size) * n);
         for (uint32_t round = 0; round < (n == 40 ? 3 : n_bounds); ++round) {
             for (uint32_t r = 0; r < n; ++r)
-                fill(t, recs.data() + static_cast<size_t>(r) * size, rng, n == 40 ? UINT32_MAX : round + r,
+                fill_generated(t, recs.data() + static_cast<size_t>(r) * size, rng, n == 40 ? UINT32_MAX : round + r,
                      r % 2 ? Strings::Random : Strings::Empty, r);
             if (!writers_agree(t, recs, n, std::to_string(n) + " records, round " + std::to_string(round))) return;
         }
@@ -175,7 +175,7 @@ TEST_P(TextWriterStrings, writes_every_byte_value_of_strings_and_unterminated_fi
     bool seen[256] = {};
     for (uint32_t r = 0; r < n; ++r) {
         char *rec = recs.data() + static_cast<size_t>(r) * size;
-        fill(t, rec, rng, r, Strings::EveryByte, r);
+        fill_generated(t, rec, rng, r, Strings::EveryByte, r);
         for (uint32_t i = 0; i < t->desc->field_count; ++i)
             if (t->desc->fields[i].kind == Kind::Str && t->desc->fields[i].size == smallest)
                 for (uint32_t j = 0; j < smallest; ++j)
@@ -191,7 +191,7 @@ TEST_P(TextWriterStrings, writes_every_byte_value_of_strings_and_unterminated_fi
     if (!writers_agree(t, recs, n, "every byte, all records")) return;
     // Unterminated fields of random bytes.
     for (uint32_t r = 0; r < n; ++r)
-        fill(t, recs.data() + static_cast<size_t>(r) * size, rng, UINT32_MAX, Strings::Unterminated, r);
+        fill_generated(t, recs.data() + static_cast<size_t>(r) * size, rng, UINT32_MAX, Strings::Unterminated, r);
     writers_agree(t, recs, n, "unterminated strings");
 }
 
@@ -201,7 +201,7 @@ TEST_P(FileWriter, s2f_and_s2f_array_write_cjsons_indented_bytes_to_the_file) {
     std::vector<char> recs(static_cast<size_t>(size) * n);
     Rng rng{777};
     for (uint32_t r = 0; r < n; ++r)
-        fill(t, recs.data() + static_cast<size_t>(r) * size, rng, r == 0 ? 0 : UINT32_MAX,
+        fill_generated(t, recs.data() + static_cast<size_t>(r) * size, rng, r == 0 ? 0 : UINT32_MAX,
              r % 3 == 0 ? Strings::EveryByte : r % 3 == 1 ? Strings::Unterminated : Strings::Random, r);
     const std::string path = temp_dir() + "/written.json";
     if (t->fam.s2f != nullptr) {
@@ -264,9 +264,10 @@ TEST(TextWriterAllocation, one_allocation_through_cjsons_allocator_per_text) {
     ASSERT_NE(many->fam.s2j_array, nullptr);
     std::vector<char> rec(one->desc->size), recs(static_cast<size_t>(many->desc->size) * 64);
     Rng rng{5};
-    fill(one, rec.data(), rng, UINT32_MAX, Strings::Random, 0);
+    fill_generated(one, rec.data(), rng, UINT32_MAX, Strings::Random, 0);
     for (uint32_t r = 0; r < 64; ++r)
-        fill(many, recs.data() + static_cast<size_t>(r) * many->desc->size, rng, UINT32_MAX, Strings::Random, r);
+        fill_generated(many, recs.data() + static_cast<size_t>(r) * many->desc->size, rng, UINT32_MAX, Strings::Random,
+                       r);
     for (int formatted = 0; formatted < 2; ++formatted) {
         char *a, *b;
         long after_one, after_many;

@@ -28,26 +28,6 @@ constexpr int kThreads = 8;
 constexpr int kPasses = 2;
 constexpr uint32_t kElements = 3;
 
-// Values that differ from thread to thread and element to element.
-void fill(const TypeInfo *t, char *rec, uint32_t seed) {
-    const s2j::TypeDesc *d = t->desc;
-    std::memset(rec, 0, d->size);
-    for (uint32_t k = 0; k < d->field_count; ++k) {
-        const Field &f = d->fields[k];
-        char *at = rec + f.offset;
-        uint32_t v = seed * 7919u + k;
-        switch (f.kind) {
-            case Kind::I32:
-            case Kind::U32: std::memcpy(at, &v, 4); break;
-            case Kind::U16: { uint16_t h = static_cast<uint16_t>(v); std::memcpy(at, &h, 2); break; }
-            case Kind::Str: std::snprintf(at, f.size, "t%u-%u", seed, k); break;
-            case Kind::U32List:
-                for (uint32_t b = 0; b < f.size / 4; ++b) { uint32_t w = v + b; std::memcpy(at + 4 * b, &w, 4); }
-                break;
-        }
-    }
-}
-
 // Everything one thread does; returns the number of failed checks.
 int run_all_families(int id, const std::string &dir, std::atomic<long> *calls) {
     size_t n = 0;
@@ -60,7 +40,7 @@ int run_all_families(int id, const std::string &dir, std::atomic<long> *calls) {
             const s2j::Families &f = t->fam;
             const size_t sz = t->desc->size;
             std::vector<char> src(sz * kElements), dst(sz * kElements);
-            for (uint32_t i = 0; i < kElements; ++i) fill(t, src.data() + i * sz, id * 100 + i);
+            for (uint32_t i = 0; i < kElements; ++i) fill_distinct(t, src.data() + i * sz, id * 100 + i);
             const std::string path = dir + "/" + t->name + ".json";
             if (f.s2j && f.j2s) {
                 char *text = f.s2j(src.data(), pass);
@@ -105,7 +85,8 @@ int run_all_families(int id, const std::string &dir, std::atomic<long> *calls) {
             }
             if (f.c2s_array) {
                 Tree tree(cJSON_CreateArray());
-                for (uint32_t i = 0; i < kElements; ++i) cJSON_AddItemToArray(tree.p, t->hooks->emit(src.data() + i * sz));
+                for (uint32_t i = 0; i < kElements; ++i)
+                    cJSON_AddItemToArray(tree.p, t->hooks->emit(src.data() + i * sz));
                 uint32_t count = kElements;
                 std::fill(dst.begin(), dst.end(), 0);
                 check(f.c2s_array(tree.p, dst.data(), &count) == 0 && dst == src);

@@ -23,10 +23,6 @@ using app_s2j_tool::kUpdateCommand;
 using s2j::Kind;
 using namespace testing_support;
 
-std::string example_path(const s2j::TypeInfo &t) {
-    return std::string(APP_S2J_SOURCE_DIR) + "/examples/" + t.name + ".json";
-}
-
 std::vector<const s2j::TypeInfo *> keyed_types() {
     std::vector<const s2j::TypeInfo *> out;
     for (const s2j::TypeInfo *t : all_types())
@@ -141,7 +137,7 @@ TEST(UpdateCommand, EveryKeyedTypeHasAnExampleOfSeveralRecords) {
     ASSERT_GE(keyed_types().size(), 30u);
     for (const s2j::TypeInfo *t : keyed_types()) {
         SCOPED_TRACE(t->name);
-        EXPECT_GE(records_of(*t, read_file(example_path(*t))).size(), 2u * t->desc->size);
+        EXPECT_GE(records_of(*t, read_file(example_path(t->name))).size(), 2u * t->desc->size);
     }
 }
 
@@ -150,7 +146,7 @@ TEST(UpdateCommand, LeavesWhatTheLibrarysKeyedUpdateMakesOfEveryKeyedTypesExampl
     for (const s2j::TypeInfo *t : keyed_types()) {
         SCOPED_TRACE(t->name);
         const size_t size = t->desc->size;
-        const std::string example = read_file(example_path(*t));
+        const std::string example = read_file(example_path(t->name));
         const std::vector<char> before = records_of(*t, example);
         const uint32_t n = static_cast<uint32_t>(before.size() / size);
         ASSERT_GT(n, 0u);
@@ -213,7 +209,7 @@ TEST(UpdateCommand, DryRunWritesNothingForEveryKeyedType) {
     const std::string dir = temp_dir();
     for (const s2j::TypeInfo *t : keyed_types()) {
         SCOPED_TRACE(t->name);
-        const std::string example = read_file(example_path(*t));
+        const std::string example = read_file(example_path(t->name));
         const std::string path = dir + "/" + t->name + ".json", req_path = dir + "/" + t->name + ".request.json";
         write_file(path, example);
         write_file(req_path, request_for(*t, records_of(*t, example)));
@@ -230,7 +226,7 @@ TEST(UpdateCommand, DryRunWritesNothingForEveryKeyedType) {
 TEST(DiffCommand, FindsNothingBetweenEveryExampleAndItself) {
     for (const s2j::TypeInfo *t : all_types()) {
         SCOPED_TRACE(t->name);
-        Outcome r = run(kDiffCommand, {t->name, example_path(*t), example_path(*t)});
+        Outcome r = run(kDiffCommand, {t->name, example_path(t->name), example_path(t->name)});
         EXPECT_EQ(r.status, 0) << r.err;
         EXPECT_EQ(r.out, "");
         EXPECT_EQ(r.err, "");
@@ -242,7 +238,7 @@ TEST(DiffCommand, NamesOneChangedFieldOfARecordArrayByItsKey) {
     ASSERT_NE(t, nullptr);
     ASSERT_EQ(t->desc->key_count, 1u);
     const std::string dir = temp_dir();
-    std::vector<char> recs = records_of(*t, read_file(example_path(*t)));
+    std::vector<char> recs = records_of(*t, read_file(example_path(t->name)));
     ASSERT_GE(recs.size(), 2u * t->desc->size);
     const s2j::Field *field = nullptr;
     for (uint32_t i = 0; i < t->desc->field_count && field == nullptr; ++i)
@@ -254,7 +250,7 @@ TEST(DiffCommand, NamesOneChangedFieldOfARecordArrayByItsKey) {
     const std::string path = dir + "/b.json";
     Text text(t->fam.s2j_array(recs.data(), static_cast<uint32_t>(recs.size() / t->desc->size), 1));
     write_file(path, text.str());
-    Outcome r = run(kDiffCommand, {t->name, example_path(*t), path});
+    Outcome r = run(kDiffCommand, {t->name, example_path(t->name), path});
     EXPECT_EQ(r.status, 1);
     const std::string key = t->desc->keys[0].field.key;
     uint32_t channel;

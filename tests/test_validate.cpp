@@ -207,9 +207,10 @@ std::vector<std::string> values_for(const s2j::Field &f) {
                 strs += std::string(i ? "," : "") + "\"x\"";
             }
             for (uint32_t i = 0; i <= n; ++i) more += (i ? "," : "") + std::to_string(i);
-            for (const std::string &s : std::vector<std::string>{ints + "]", strs + "]", more + "]", strs + ",7]", "[\"a\",1]", "[[1]]",
-                                         std::string("[-1]"), std::string("[4294967296]"), std::string("[1.5]"),
-                                         std::string("[1.5,2]"), std::string("{}"), std::string("5")})
+            for (const std::string &s :
+                 std::vector<std::string>{ints + "]", strs + "]", more + "]", strs + ",7]", "[\"a\",1]", "[[1]]",
+                                          std::string("[-1]"), std::string("[4294967296]"), std::string("[1.5]"),
+                                          std::string("[1.5,2]"), std::string("{}"), std::string("5")})
                 v.push_back(s);
             break;
         }

@@ -4,9 +4,8 @@
 set -u
 tool=$1
 examples=$2
-tmp=$(mktemp -d)
-trap 'rm -rf "$tmp"' EXIT
 . "$(dirname "$0")/shell_checks.sh"
+scratch_dir
 
 # Every type has an example; each loads, and prints back exactly as written.
 types=$("$tool" types | awk '{print $1}')
@@ -35,12 +34,8 @@ expect_contains "$("$tool" types | grep '^CrontabParameter ')" "c2s_array_update
 expect_contains "$("$tool" types | grep '^DeviceCapabilitySet ')" "f2s" "types shows file families"
 
 # Wrong usage: exit 2 with the usage text.
-out=$("$tool" 2>&1); rc=$?
-expect_eq "$rc" "2" "no command"
-expect_contains "$out" "usage: app_s2j types" "no command prints usage"
-out=$("$tool" frobnicate 2>&1); rc=$?
-expect_eq "$rc" "2" "unknown command"
-expect_contains "$out" "unknown command 'frobnicate'" "unknown command message"
+expect_run "no command" 2 "usage: app_s2j types" "$tool"
+expect_run "unknown command" 2 "unknown command 'frobnicate'" "$tool" frobnicate
 out=$("$tool" check DeviceInfo 2>&1); rc=$?
 expect_eq "$rc" "2" "check without file"
 out=$("$tool" --help); rc=$?
@@ -49,8 +44,11 @@ expect_contains "$out" "print TYPE FILE [--compact]" "--help text"
 
 # Every command answers --help with its synopsis and exit status 0, and
 # every command that takes arguments rejects an unknown option with 2.
-commands=$("$tool" --help | sed -n 's/^ *\(usage:\)\{0,1\} *app_s2j \([a-z]*\) .*/\2/p; s/^ *\(usage:\)\{0,1\} *app_s2j \([a-z]*\)$/\2/p' | grep -v '^$' | sort -u)
-expect_eq "$(echo $commands)" "check diff print reference schema template types update validate" "the usage lists every command"
+commands=$("$tool" --help |
+  sed -n 's/^ *\(usage:\)\{0,1\} *app_s2j \([a-z]*\) .*/\2/p; s/^ *\(usage:\)\{0,1\} *app_s2j \([a-z]*\)$/\2/p' |
+  grep -v '^$' | sort -u)
+expect_eq "$(echo $commands)" "check diff print reference schema template types update validate" \
+  "the usage lists every command"
 for c in $commands; do
   out=$("$tool" "$c" --help); rc=$?
   expect_eq "$rc" "0" "$c --help"
@@ -60,31 +58,24 @@ for c in $commands; do
 done
 
 # Unknown type, missing file.
-out=$("$tool" check NoSuchType "$examples/DeviceInfo.json" 2>&1); rc=$?
-expect_eq "$rc" "2" "unknown type"
-expect_contains "$out" "unknown record type 'NoSuchType'" "unknown type message"
-out=$("$tool" check DeviceInfo "$tmp/missing.json" 2>&1); rc=$?
-expect_eq "$rc" "1" "missing file"
-expect_contains "$out" "cannot read '$tmp/missing.json': No such file or directory" "missing file message"
+expect_run "unknown type" 2 "unknown record type 'NoSuchType'" "$tool" check NoSuchType "$examples/DeviceInfo.json"
+expect_run "missing file" 1 "cannot read '$tmp/missing.json': No such file or directory" \
+  "$tool" check DeviceInfo "$tmp/missing.json"
 
 # A document that does not load: the library's diagnostic and its status.
 printf '{"ProductModel": 5}' > "$tmp/bad.json"
-out=$("$tool" check DeviceInfo "$tmp/bad.json" 2>&1); rc=$?
-expect_eq "$rc" "1" "wrong member type"
-expect_contains "$out" "json_to_struct_DeviceInfo failed!" "library diagnostic shown"
+expect_run "wrong member type" 1 "json_to_struct_DeviceInfo failed!" "$tool" check DeviceInfo "$tmp/bad.json"
 expect_contains "$out" "status -1" "status shown"
 printf '{"ProductModel": ' > "$tmp/cut.json"
-out=$("$tool" print DeviceInfo "$tmp/cut.json" 2>&1); rc=$?
-expect_eq "$rc" "1" "truncated text"
-expect_contains "$out" "status -2" "parse status shown"
+expect_run "truncated text" 1 "status -2" "$tool" print DeviceInfo "$tmp/cut.json"
 # The shape is the one the type's families read.
-out=$("$tool" check DeviceInfo "$examples/CrontabParameter.json" 2>&1); rc=$?
-expect_eq "$rc" "1" "an array of a single-record type is rejected, as f2s_DeviceInfo rejects it"
-expect_contains "$out" "not a valid DeviceInfo: status -2" "an array of a single-record type: status"
+expect_run "an array of a single-record type is rejected, as f2s_DeviceInfo rejects it" \
+  1 "not a valid DeviceInfo: status -2" \
+  "$tool" check DeviceInfo "$examples/CrontabParameter.json"
 printf '{"Index":1,"Enable":1}' > "$tmp/cron-object.json"
-out=$("$tool" check CrontabParameter "$tmp/cron-object.json" 2>&1); rc=$?
-expect_eq "$rc" "1" "an object of an array type is rejected, as f2s_array_CrontabParameter rejects it"
-expect_contains "$out" "not a valid CrontabParameter array: status -2" "an object of an array type: status"
+expect_run "an object of an array type is rejected, as f2s_array_CrontabParameter rejects it" \
+  1 "not a valid CrontabParameter array: status -2" \
+  "$tool" check CrontabParameter "$tmp/cron-object.json"
 printf '\f[{"Index":1}]' > "$tmp/formfeed.json"
 out=$("$tool" check CrontabParameter "$tmp/formfeed.json" 2>&1); rc=$?
 expect_eq "$rc" "0" "a form feed before the array is a blank to the library"

@@ -5,9 +5,8 @@
 set -u
 tool=$1
 examples=$2
-tmp=$(mktemp -d)
-trap 'rm -rf "$tmp"' EXIT
 . "$(dirname "$0")/shell_checks.sh"
+scratch_dir
 
 inode() { stat -c %i "$1"; }
 # Files in the scratch directory other than the ones named.
@@ -80,14 +79,12 @@ expect_contains "$out" "$refusal $tmp/u/tasks.json is left as it was" "the refus
 cmp -s "$tmp/u/tasks.json" "$tmp/saved.json" && ok || fail "a refused request changed the file"
 expect_eq "$(inode "$tmp/u/tasks.json")" "$before" "a refused request keeps the file"
 printf '[{"Index":2,"Enable":"yes"}]' > "$tmp/wrong.json"
-out=$("$tool" update CrontabParameter "$tmp/u/tasks.json" "$tmp/wrong.json" 2>&1); rc=$?
-expect_eq "$rc" "1" "a member of the wrong type"
-expect_contains "$out" "json_to_struct_CrontabParameter failed!" "the reader's diagnostic"
+expect_run "a member of the wrong type" 1 "json_to_struct_CrontabParameter failed!" \
+  "$tool" update CrontabParameter "$tmp/u/tasks.json" "$tmp/wrong.json"
 expect_contains "$out" "refuses the request: status -1" "the reader's status"
 printf '[{"Index":2,' > "$tmp/cut.json"
-out=$("$tool" update CrontabParameter "$tmp/u/tasks.json" "$tmp/cut.json" 2>&1); rc=$?
-expect_eq "$rc" "1" "a request that does not parse"
-expect_contains "$out" "refuses the request: status -2" "a request that does not parse: status"
+expect_run "a request that does not parse" 1 "refuses the request: status -2" \
+  "$tool" update CrontabParameter "$tmp/u/tasks.json" "$tmp/cut.json"
 cmp -s "$tmp/u/tasks.json" "$tmp/saved.json" && ok || fail "a refused request changed the file"
 
 # A write that fails (no room: a file size limit of 0) leaves the old file
@@ -121,9 +118,8 @@ expect_eq "$out" "$want" "a type without the update: the message"
 out=$("$tool" update CrontabParameter - "$tmp/req.json" 2>&1 < "$cron"); rc=$?
 expect_eq "$rc" "2" "FILE - is wrong usage"
 expect_contains "$out" "FILE is written back, so it must name a file, not -" "FILE -: the message"
-out=$("$tool" update CrontabParameter "$tmp/u/tasks.json" 2>&1); rc=$?
-expect_eq "$rc" "2" "update without REQUEST"
-expect_contains "$out" "'update' takes TYPE, FILE and REQUEST" "update without REQUEST: the message"
+expect_run "update without REQUEST" 2 "'update' takes TYPE, FILE and REQUEST" \
+  "$tool" update CrontabParameter "$tmp/u/tasks.json"
 out=$("$tool" update CrontabParameter "$tmp/u/missing.json" "$tmp/req.json" 2>&1); rc=$?
 expect_eq "$rc" "1" "update of a missing file"
 expect_eq "$out" "app_s2j: cannot read '$tmp/u/missing.json': No such file or directory" "a missing file: the message"
@@ -222,9 +218,7 @@ expect_contains "$out" "app_s2j: $tmp/object.json: not a valid CrontabParameter 
 out=$("$tool" diff CrontabParameter - - 2>&1 < "$cron"); rc=$?
 expect_eq "$rc" "2" "diff of standard input with itself"
 expect_contains "$out" "only one of A and B can be -" "diff - -: the message"
-out=$("$tool" diff CrontabParameter "$cron" 2>&1); rc=$?
-expect_eq "$rc" "2" "diff with one file"
-expect_contains "$out" "'diff' takes TYPE, A and B" "diff with one file: the message"
+expect_run "diff with one file" 2 "'diff' takes TYPE, A and B" "$tool" diff CrontabParameter "$cron"
 out=$("$tool" diff NoSuchType "$cron" "$cron" 2>&1); rc=$?
 expect_eq "$rc" "2" "diff of an unknown type"
 

@@ -10,9 +10,8 @@ set -u
 tool=$1
 corpus=$2
 regenerate=${3:-}
-tmp=$(mktemp -d)
-trap 'rm -rf "$tmp"' EXIT
 . "$(dirname "$0")/shell_checks.sh"
+scratch_dir
 
 cd "$corpus" || exit 1
 count=0
@@ -59,18 +58,18 @@ expect_eq "$out" "app_s2j: unknown record type 'NoSuchType' (app_s2j types lists
 out=$("$tool" validate deviceinfo "$corpus/DeviceInfo.good.json" 2>&1); rc=$?
 expect_eq "$rc" "2" "validate a type spelt in other letter case"
 expect_eq "$out" "app_s2j: unknown record type 'deviceinfo'; did you mean 'DeviceInfo'?" "type in other case message"
-out=$("$tool" validate DeviceInfo "$corpus/DeviceInfo.good.json" --strict 2>&1); rc=$?
-expect_eq "$rc" "2" "validate unknown option"
-expect_contains "$out" "app_s2j: unknown option '--strict'" "unknown option message"
-out=$("$tool" validate DeviceInfo "$corpus/DeviceInfo.good.json" --update 2>&1); rc=$?
-expect_eq "$rc" "2" "--update on a type without keyed update"
-expect_contains "$out" "app_s2j: DeviceInfo has no keyed update; --update does not apply" "--update message"
+expect_run "validate unknown option" 2 "app_s2j: unknown option '--strict'" \
+  "$tool" validate DeviceInfo "$corpus/DeviceInfo.good.json" --strict
+expect_run "--update on a type without keyed update" \
+  2 "app_s2j: DeviceInfo has no keyed update; --update does not apply" \
+  "$tool" validate DeviceInfo "$corpus/DeviceInfo.good.json" --update
 out=$("$tool" validate DeviceInfo "$tmp/missing.json" 2>&1); rc=$?
 expect_eq "$rc" "1" "validate a missing file"
 expect_eq "$out" "app_s2j: cannot read '$tmp/missing.json': No such file or directory" "missing file message"
 out=$("$tool" validate StreamingInputUseCount "$corpus/StreamingInputUseCount.short-lists.json" --quiet); rc=$?
 expect_eq "$rc" "0" "--quiet keeps the exit status"
-expect_eq "$out" "$corpus/StreamingInputUseCount.short-lists.json: valid StreamingInputUseCount" "--quiet leaves out notes"
+expect_eq "$out" "$corpus/StreamingInputUseCount.short-lists.json: valid StreamingInputUseCount" \
+  "--quiet leaves out notes"
 # Standard input, and the findings as JSON.
 out=$("$tool" validate VideoEncodeParameter - < "$corpus/VideoEncodeParameter.width-as-text.json"); rc=$?
 expect_eq "$rc" "1" "validate from standard input"

@@ -340,7 +340,8 @@ for (const t of types) {
   generate(t, `known-limit.${keys[0]}-duplicate-first-wrong`, null,
            `{"${keys[0]}": {}, "${keys[0]}": ${JSON.stringify(base[keys[0]])}}\n`);
   const strKey = keys.find((k) => props[k].type === "string");
-  if (strKey && t === "DeviceInfo") generate(t, `known-limit.${strKey}-lone-surrogate`, null, `{"${strKey}": "\\ud800"}\n`);
+  if (strKey && t === "DeviceInfo")
+    generate(t, `known-limit.${strKey}-lone-surrogate`, null, `{"${strKey}": "\\ud800"}\n`);
 }
 
 // The library's verdicts, a few tool processes at a time: the exit status of
@@ -396,7 +397,8 @@ cases.forEach(([t, file], n) => {
     const explained = asLib.reasons.length > 0 && !(asLib.value !== undefined && validators.get(t)(asLib.value));
     if (explained) {
       count.known += 1;
-      for (const r of asLib.reasons) knownReasons.add(r.startsWith("duplicate") ? "duplicate" : r.includes("literal") ? "literal" : r);
+      for (const r of asLib.reasons)
+        knownReasons.add(r.startsWith("duplicate") ? "duplicate" : r.includes("literal") ? "literal" : r);
       console.log(`known difference: ${shown}: the schema accepts, the library rejects: ${asLib.reasons.join("; ")}`);
       return;
     }
