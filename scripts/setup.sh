@@ -5,7 +5,7 @@
 #                                        --sanitize): GoogleTest, man-db (the manual pages are checked),
 #                                        python3-jsonschema, and Node.js with ajv for the schema check
 #   scripts/setup.sh examples            the build of the tool over examples/ (scripts/run-examples.sh)
-#   scripts/setup.sh valgrind            the default build and valgrind (ctest --preset valgrind)
+#   scripts/setup.sh valgrind            the default build and valgrind (workflow preset valgrind)
 #   scripts/setup.sh tsan                the threads test under ThreadSanitizer (workflow preset tsan)
 #   scripts/setup.sh fuzz                libFuzzer with clang (scripts/fuzz.sh)
 #   scripts/setup.sh coverage            the test suite and gcovr (scripts/coverage.sh)
