@@ -7,15 +7,14 @@
 # (Google Benchmark, MB/s), whose JSON output stays in
 # build-bench/throughput.json for scripts/perf-chart.sh.
 #   scripts/bench-counts.sh [repetitions]     (default 10; counts are per call)
-# Builds the release configuration (-O2) with the benchmarks in build-bench/.
+# Builds the release configuration (-O2) with the benchmarks in build-bench/
+# (preset bench).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 reps="${1:-10}"
-scripts/setup.sh --bench >&2
-cmake -S . -B build-bench -DCMAKE_BUILD_TYPE=Release -DAPP_S2J_BENCH=ON \
-      -DCMAKE_C_FLAGS_RELEASE="-O2 -DNDEBUG" -DCMAKE_CXX_FLAGS_RELEASE="-O2 -DNDEBUG" \
-      -DAPP_S2J_TESTS=OFF -DAPP_S2J_TOOLS=OFF >/dev/null
-cmake --build build-bench -j2 --target s2j_counts s2j_bench >&2
+scripts/setup.sh bench >&2
+cmake --preset bench >/dev/null
+cmake --build --preset bench -j2 >&2
 out="$(mktemp -d)"
 trap 'rm -rf "$out"' EXIT
 TMPDIR="$out" valgrind --tool=callgrind --callgrind-out-file="$out/cg" \
@@ -30,9 +29,11 @@ echo
 awk -v reps="$reps" '
   FNR == NR { split($1, k, "/"); ir[$1] = $2 / reps; next }
   FNR == 1 { next }
-  { key = $1 "/" $2 "/" $3; al[key] = $4 " / " $5; if (!($1 "/" $2 in seen)) { seen[$1 "/" $2] = 1; order[++n] = $1 "/" $2 } }
+  { key = $1 "/" $2 "/" $3; al[key] = $4 " / " $5
+    if (!($1 "/" $2 in seen)) { seen[$1 "/" $2] = 1; order[++n] = $1 "/" $2 } }
   END {
-    print "| workload | call | lib instr | floor instr | peer instr | lib/floor | lib/peer | lib allocs / bytes | floor allocs / bytes | peer allocs / bytes |"
+    print "| workload | call | lib instr | floor instr | peer instr | lib/floor | lib/peer" \
+          " | lib allocs / bytes | floor allocs / bytes | peer allocs / bytes |"
     print "|---|---|--:|--:|--:|--:|--:|--:|--:|--:|"
     for (i = 1; i <= n; ++i) {
       w = order[i]; split(w, p, "/")

@@ -3,19 +3,22 @@
 # prints the tables of docs/embedded.md: stripped size, largest stack frames
 # (-fstack-usage), NEEDED libraries, and heap used per call (tools/footprint).
 #   scripts/footprint.sh [native] [arm-linux-gnueabihf] [aarch64-linux-gnu] [s390x-linux-gnu]
-# Builds the library alone in build-footprint-<target>/ (RelWithDebInfo, as shipped).
+# Builds the library alone in build-footprint-<target>/ (preset footprint-<target>:
+# RelWithDebInfo, as shipped, with -fstack-usage).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 targets=("$@")
 [ ${#targets[@]} -gt 0 ] || targets=(native)
+cross=()
 for t in "${targets[@]}"; do
-  cross=()
+  [ "$t" = native ] || cross+=("$t")
+done
+scripts/setup.sh footprint "${cross[@]}" >&2
+for t in "${targets[@]}"; do
   cc=cc
   strip=strip
   run=()
   if [ "$t" != native ]; then
-    scripts/setup.sh "$t" >&2
-    cross=(-DCMAKE_TOOLCHAIN_FILE="$PWD/cmake/toolchains/$t.cmake")
     cc=$t-gcc
     strip=$t-strip
     case "$t" in
@@ -25,9 +28,8 @@ for t in "${targets[@]}"; do
     esac
   fi
   build=build-footprint-$t
-  cmake -S . -B "$build" "${cross[@]}" -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_FLAGS=-fstack-usage \
-    -DAPP_S2J_TESTS=OFF -DAPP_S2J_TOOLS=OFF >/dev/null
-  cmake --build "$build" -j"$(nproc)" --target app_s2j >/dev/null
+  cmake --preset "footprint-$t" >/dev/null
+  cmake --build --preset "footprint-$t" -j"$(nproc)" >/dev/null
   libdir=$build/apps/common/src/app_s2j
   lib=$(readlink -f "$libdir/libapp_s2j.so")
   "$strip" -o "$build/libapp_s2j.stripped" "$lib"

@@ -7,7 +7,7 @@
 #                               fuzz_writers from its own seeds (records)
 set -euo pipefail
 cd "$(dirname "$0")/.."
-scripts/setup.sh --fuzz
+scripts/setup.sh fuzz
 cmake --preset fuzz >/dev/null
 cmake --build --preset fuzz -j2
 if [ $# -eq 0 ]; then

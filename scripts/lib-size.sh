@@ -1,15 +1,14 @@
 #!/usr/bin/env bash
 # Size of the stripped libapp_s2j.so.1 of the release build (-O2), per
 # section, with the largest contributors: what the size budget is measured on.
-#   scripts/lib-size.sh        (builds in build-bench/, as bench-counts.sh does)
+#   scripts/lib-size.sh        (builds the library alone in build-release/, preset release:
+#                               the flags of the benchmarks' build, preset bench)
 set -euo pipefail
 cd "$(dirname "$0")/.."
-scripts/setup.sh >&2
-cmake -S . -B build-bench -DCMAKE_BUILD_TYPE=Release \
-      -DCMAKE_C_FLAGS_RELEASE="-O2 -DNDEBUG" -DCMAKE_CXX_FLAGS_RELEASE="-O2 -DNDEBUG" \
-      -DAPP_S2J_TESTS=OFF -DAPP_S2J_TOOLS=OFF >/dev/null
-cmake --build build-bench -j2 --target app_s2j >&2
-lib=build-bench/apps/common/src/app_s2j/libapp_s2j.so.1.0.0
+scripts/setup.sh size >&2
+cmake --preset release >/dev/null
+cmake --build --preset release -j2 >&2
+lib=build-release/apps/common/src/app_s2j/libapp_s2j.so.1.0.0
 stripped="$(mktemp)"
 trap 'rm -f "$stripped"' EXIT
 strip -o "$stripped" "$lib"

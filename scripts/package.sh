@@ -22,10 +22,13 @@ for arg in "$@"; do
 done
 if [ -n "$arch" ]; then
   [ "$check" = no ] || { echo "package: --check builds for this machine only" >&2; exit 2; }
-  scripts/setup.sh --package arm-linux-gnueabihf
+  scripts/setup.sh package arm-linux-gnueabihf
   build=build-deb-$arch
+elif [ "$check" = yes ]; then
+  scripts/setup.sh package-check
+  build=build-deb
 else
-  scripts/setup.sh --package
+  scripts/setup.sh package
   build=build-deb
 fi
 rm -rf "$build"

@@ -3,18 +3,17 @@
 # docs/performance.md: MB/s of writing and reading 1024 VideoEncodeParameter
 # records for the library, cJSON alone and hand-written cJSON code.
 #   scripts/perf-chart.sh              runs the throughput benchmarks (release
-#                                      build in build-bench/), then draws
+#                                      build in build-bench/, preset bench),
+#                                      then draws
 #   scripts/perf-chart.sh BENCH.json   draws from Google Benchmark's JSON output
 #                                      (for example build-bench/throughput.json,
 #                                      which scripts/bench-counts.sh leaves)
 set -euo pipefail
 cd "$(dirname "$0")/.."
 if [ $# -eq 0 ]; then
-  scripts/setup.sh --bench >&2
-  cmake -S . -B build-bench -DCMAKE_BUILD_TYPE=Release -DAPP_S2J_BENCH=ON \
-        -DCMAKE_C_FLAGS_RELEASE="-O2 -DNDEBUG" -DCMAKE_CXX_FLAGS_RELEASE="-O2 -DNDEBUG" \
-        -DAPP_S2J_TESTS=OFF -DAPP_S2J_TOOLS=OFF >/dev/null
-  cmake --build build-bench -j2 --target s2j_bench >&2
+  scripts/setup.sh chart >&2
+  cmake --preset bench >/dev/null
+  cmake --build --preset bench -j2 --target s2j_bench >&2
   build-bench/bench/s2j_bench --benchmark_filter='^VideoEncode1024/' --benchmark_repetitions=5 \
       --benchmark_report_aggregates_only=true --benchmark_out=build-bench/throughput.json \
       --benchmark_out_format=json >&2

@@ -1,5 +1,5 @@
 # 64-bit ARM.
-#   cmake -S . -B build-aarch64-linux-gnu -DCMAKE_TOOLCHAIN_FILE=cmake/toolchains/aarch64-linux-gnu.cmake
+#   cmake --preset aarch64-linux-gnu   (build-aarch64-linux-gnu/; build and test presets of the same name)
 # or scripts/cross-test.sh aarch64-linux-gnu (sets up, builds and runs every test under qemu-aarch64).
 set(CMAKE_SYSTEM_PROCESSOR aarch64)
 set(APP_S2J_TRIPLET aarch64-linux-gnu)

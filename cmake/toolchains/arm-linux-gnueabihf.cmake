@@ -1,5 +1,5 @@
 # 32-bit ARM, hard-float ABI (the appliance's class).
-#   cmake -S . -B build-arm-linux-gnueabihf -DCMAKE_TOOLCHAIN_FILE=cmake/toolchains/arm-linux-gnueabihf.cmake
+#   cmake --preset arm-linux-gnueabihf   (build-arm-linux-gnueabihf/; build and test presets of the same name)
 # or scripts/cross-test.sh arm-linux-gnueabihf (sets up, builds and runs every test under qemu-arm).
 set(CMAKE_SYSTEM_PROCESSOR arm)
 set(APP_S2J_TRIPLET arm-linux-gnueabihf)
