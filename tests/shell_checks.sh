@@ -9,6 +9,9 @@
 #   expect_run WHAT RC PART COMMAND...
 #                                the command exits with RC and its output
 #                                (both streams) holds PART; leaves $out, $rc
+#   check_generated FILE HOW COMMAND...
+#                                exit 0 when FILE is what COMMAND writes now;
+#                                else 1, saying "FILE is out of date: HOW"
 passed=0
 failed=0
 ok() { passed=$((passed + 1)); }
@@ -31,4 +34,19 @@ expect_run() {
   rc=$?
   expect_eq "$rc" "$want" "$what"
   expect_contains "$out" "$part" "$what: the message"
+}
+check_generated() {
+  local file=$1 how=$2
+  shift 2
+  scratch_dir
+  if ! "$@" > "$tmp/fresh"; then
+    echo "$* failed" >&2
+    exit 1
+  fi
+  if ! cmp -s "$tmp/fresh" "$file"; then
+    echo "$file is out of date: $how" >&2
+    diff -u "$file" "$tmp/fresh" | head -40
+    exit 1
+  fi
+  echo "$file is up to date"
 }
