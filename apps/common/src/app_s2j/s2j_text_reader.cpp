@@ -1032,35 +1032,28 @@ size_t read_element(const Text &t, size_t i, Members *m, char *rec) {
     return fill_record(t, *m, rec) ? end : 0;
 }
 
-// read_in_order() for a record without blanks between its tokens.
-size_t read_in_order_compact(const Text &t, size_t i, const TypeDesc *d, char *rec) {
+// Reads the record object at t.s[i] whose members the check found to be the
+// fields' keys as the table writes them, in table order, each once, each
+// followed at once by its ':', as read_element() reads it, and returns the
+// offset just past it (0 when a member is of the wrong JSON type).  Blanks
+// tells whether blanks may stand between the other tokens.
+template <bool Blanks>
+size_t read_in_order_as(const Text &t, size_t i, const TypeDesc *d, char *rec) {
     const u8 *p = t.s + i + 1;
     for (const Field *f = d->fields, *const last = f + d->field_count; f != last; ++f) {
-        p = read_member_value(t, *f, p + f->key_len + 3, rec);  // past the key, its quotes and the ':'
+        if (Blanks) while (*p <= 32) ++p;
+        p += f->key_len + 3;  // the key, its quotes and the ':'
+        if (Blanks) while (*p <= 32) ++p;
+        p = read_member_value(t, *f, p, rec);
         if (p == nullptr) return 0;
+        if (Blanks) while (*p <= 32) ++p;
         ++p;  // the ',' or the '}'
     }
     return static_cast<size_t>(p - t.s);
 }
 
-// Reads the record object at t.s[i] whose members the check found to be the
-// fields' keys as the table writes them, in table order, each once, as
-// read_element() reads it, and returns the offset just past it (0 when a
-// member is of the wrong JSON type).
-size_t read_in_order(const Text &t, size_t i, const TypeDesc *d, char *rec) {
-    const u8 *p = t.s + i + 1;
-    for (const Field *f = d->fields, *const last = f + d->field_count; f != last; ++f) {
-        while (*p <= 32) ++p;
-        p += f->key_len + 2;  // the key and its quotes
-        while (*p <= 32) ++p;
-        ++p;  // the ':'
-        while (*p <= 32) ++p;
-        p = read_member_value(t, *f, p, rec);
-        if (p == nullptr) return 0;
-        while (*p <= 32) ++p;
-        ++p;  // the ',' or the '}'
-    }
-    return static_cast<size_t>(p - t.s);
+size_t read_in_order(const Text &t, size_t i, const TypeDesc *d, char *rec, bool blanks) {
+    return blanks ? read_in_order_as<true>(t, i, d, rec) : read_in_order_as<false>(t, i, d, rec);
 }
 
 // The index of the first of the capacity records at base whose keys equal
@@ -1139,7 +1132,7 @@ Direct direct_record(const TypeDesc *d, const char *text, size_t len, void *rec)
     char *const r = static_cast<char *>(rec);
     size_t end;
     if (doc.in_order != 0) {
-        end = doc.blanks ? read_in_order(t, doc.root, d, r) : read_in_order_compact(t, doc.root, d, r);
+        end = read_in_order(t, doc.root, d, r, doc.blanks);
     } else {
         Members m;
         m.d = d;
@@ -1166,13 +1159,8 @@ Direct direct_array(const TypeDesc *d, const char *text, size_t len, void *arr, 
     each_element(t, doc.root, [&](size_t value) -> size_t {
         if (k == filled) return 0;
         char *const rec = base + static_cast<size_t>(k) * d->size;
-        size_t end;
-        if (k >= doc.in_order)
-            end = read_element(t, value, &m, rec);
-        else if (doc.blanks)
-            end = read_in_order(t, value, d, rec);
-        else
-            end = read_in_order_compact(t, value, d, rec);
+        const size_t end =
+            k < doc.in_order ? read_in_order(t, value, d, rec, doc.blanks) : read_element(t, value, &m, rec);
         ok = end != 0;
         ++k;
         return end;
@@ -1237,7 +1225,7 @@ Direct direct_update(const TypeDesc *d, const char *text, size_t len, void *arr,
         const uint32_t i = find_keyed(d, base, capacity, keyword);
         if (i == capacity) return skip_value(t, value);
         char *rec = base + static_cast<size_t>(i) * d->size;
-        const size_t end = doc.blanks ? read_in_order(t, value, d, rec) : read_in_order_compact(t, value, d, rec);
+        const size_t end = read_in_order(t, value, d, rec, doc.blanks);
         if (end == 0) {
             outcome = Direct::ReaderFailed;
             return size_t{0};
