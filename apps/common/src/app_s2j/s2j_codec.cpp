@@ -158,18 +158,12 @@ bool read_field(const Field &f, char *at, const cJSON *m) {
     return false;
 }
 
-// A key field as its keyword record holds it: a string key is char[64].
-Field keyword_field(const Key &k, uint32_t offset) {
-    Field f = k.field;
-    f.offset = offset;
-    if (f.kind == Kind::Str) f.size = kKeyStringSize;
-    return f;
-}
-
-bool read_key(const Key &k, char *keyword, uint32_t offset, const cJSON *json) {
-    Field f = keyword_field(k, offset);
+// Reads the member of json that a key field names into at, as the keyword
+// record holds the field (keyword_field()).
+bool read_key(const Key &k, char *at, const cJSON *json) {
+    const Field f = keyword_field(k);
     const cJSON *m = cJSON_GetObjectItem(json, f.key);
-    return m != nullptr && read_field(f, keyword + f.offset, m);
+    return m != nullptr && read_field(f, at, m);
 }
 
 }  // namespace
@@ -274,12 +268,12 @@ int read_records(const TypeDesc *d, void *arr, uint32_t count, const cJSON *firs
 
 int read_keys(const TypeDesc *d, void *keyword, const cJSON *json) {
     for (uint32_t i = 0; i < d->key_count; ++i)
-        if (!read_key(d->keys[i], static_cast<char *>(keyword), d->keys[i].keyword_offset, json)) return 0;
+        if (!read_key(d->keys[i], static_cast<char *>(keyword) + d->keys[i].keyword_offset, json)) return 0;
     return 1;
 }
 
 int read_first_key(const TypeDesc *d, void *out, const cJSON *json) {
-    return read_key(d->keys[0], static_cast<char *>(out), 0, json) ? 1 : 0;
+    return read_key(d->keys[0], static_cast<char *>(out), json) ? 1 : 0;
 }
 
 bool keys_match(const TypeDesc *d, const void *rec, const void *keyword) {

@@ -130,11 +130,7 @@ struct KeywordFields {
 template <size_t N>
 constexpr KeywordFields<N> keyword_fields(const Key (&k)[N]) {
     KeywordFields<N> kw = {};
-    for (size_t i = 0; i < N; ++i) {
-        kw.f[i] = k[i].field;
-        kw.f[i].offset = k[i].keyword_offset;
-        if (kw.f[i].kind == Kind::Str) kw.f[i].size = kKeyStringSize;
-    }
+    for (size_t i = 0; i < N; ++i) kw.f[i] = keyword_field(k[i]);
     return kw;
 }
 

@@ -45,6 +45,15 @@ struct Key {
 inline constexpr uint32_t kKeyStringSize = 64;
 inline constexpr uint32_t kMaxKeywordSize = 256;  // bytes of the largest keyword record
 
+// A key field as its keyword record holds it: at its keyword offset, a string
+// key as char[64].
+constexpr Field keyword_field(const Key &k) {
+    Field f = k.field;
+    f.offset = k.keyword_offset;
+    if (f.kind == Kind::Str) f.size = kKeyStringSize;
+    return f;
+}
+
 struct TypeDesc {
     const char *name;
     uint32_t size;

@@ -1077,13 +1077,6 @@ uint32_t find_keyed(const TypeDesc *d, const char *base, uint32_t capacity, cons
     return capacity;
 }
 
-// A key field as the keyword record holds it: a string key as char[64].
-inline Field keyword_field(const Key &key) {
-    Field f = key.field;
-    if (f.kind == Kind::Str) f.size = kKeyStringSize;
-    return f;
-}
-
 // The table index of a key field.
 uint32_t field_of_key(const TypeDesc *d, const Key &k) {
     uint32_t f = 0;
