@@ -10,7 +10,9 @@
 //     not one byte), ends the read here with UseTree, before any record is
 //     touched.  On the way it counts the records, from the first, whose
 //     members are the fields' keys as the table writes them, in table order,
-//     each once, and notes whether blanks stand between their tokens;
+//     each once, each holding a value of its field's JSON type (an integer
+//     of at most 18 digits for an integer field), and notes whether blanks
+//     stand between their tokens;
 //  2. read the records from the text known to be well formed, exactly as the
 //     tree readers read the tree cJSON would have built: for each record the
 //     first member whose key equals a field's key without regard to case
@@ -470,7 +472,8 @@ struct Document {
     size_t root;        // offset of the top-level value
     uint32_t elements;  // its number of elements, when it is an array
     // How many records, from the first, have their fields' keys written as
-    // the table writes them, in table order, each once, and no other member.
+    // the table writes them, in table order, each once, and no other member,
+    // each holding what read_in_order() takes for its field.
     uint32_t in_order;
     bool blanks;  // whether those records have blanks between their tokens
 };
@@ -630,6 +633,17 @@ __attribute__((always_inline)) inline const u8 *check_member_value(Checker &c, c
     return p == c.end ? nullptr : p;
 }
 
+// Whether the number literal that ends at end, its digits from `digits`, is
+// what read_in_order() takes for the field f: for an integer field, at most
+// 18 digits and nothing else; for a list, any value.
+inline bool lean_number(const Field &f, const u8 *digits, const u8 *end) {
+    if (f.kind == Kind::U32List) return true;
+    if (f.kind > Kind::U16 || end == digits || end - digits > 18) return false;
+    for (const u8 *q = digits; q != end; ++q)
+        if (!is_digit(*q)) return false;
+    return true;
+}
+
 // The end of the record object opening at p inside `depth` open containers,
 // or null when cJSON refuses it: the generic check in tight loops for the
 // members of a record.  While the keys are the fields' keys in table order,
@@ -637,8 +651,9 @@ __attribute__((always_inline)) inline const u8 *check_member_value(Checker &c, c
 // no scan), the first loop runs; at the first other key the second loop
 // checks the rest.  Inside the object the text must go on, so p stays before
 // the end, and the end is tested only where p moves.  c.in_order tells
-// whether the first loop read every member; c.blanks is set when a blank
-// stood between two tokens of the first loop.
+// whether the first loop read every member and each held what
+// read_in_order() takes for its field; c.blanks is set when a blank stood
+// between two tokens of the first loop.
 const u8 *check_record(Checker &c, const Text &t, const u8 *p, const unsigned depth) {
     const u8 *const end = c.end;
 #define S2J_BLANKS()                           \
@@ -658,6 +673,7 @@ const u8 *check_record(Checker &c, const Text &t, const u8 *p, const unsigned de
     S2J_MARKED_BLANKS();
     c.in_order = false;
     if (*p == '}') return p + 1;
+    bool lean = true;  // whether every member so far holds what read_in_order() takes for its field
     for (const Field *f = c.fields, *const last = f + c.field_count;; ++f) {
         if (f == last) goto other_member;
         {
@@ -668,27 +684,31 @@ const u8 *check_record(Checker &c, const Text &t, const u8 *p, const unsigned de
             p += n + 3;
         }
         S2J_MARKED_BLANKS();
+        if (f->kind <= Kind::U16 && static_cast<unsigned>(*p - '0') <= 9 && p < c.bounded) {
+            // The usual integer member: up to 18 digits, then a ',' or the '}'.
+            const u8 *q = p + 1;
+            while (static_cast<unsigned>(*q - '0') <= 9) ++q;
+            if (q - p <= 18) {
+                if (*q == ',') {
+                    p = q;
+                    goto comma;
+                }
+                if (*q == '}') {
+                    p = q;
+                    goto close;
+                }
+            }
+        }
         if (*p == '"') {
+            lean = lean && f->kind >= Kind::Str;
             const size_t q = next_quote_or_backslash(t.s, static_cast<size_t>(p - t.s) + 1, t.len);
             p = q < t.len && t.s[q] == '"' ? t.s + q + 1 : check_string(t, p);
         } else if (*p == '-' || static_cast<unsigned>(*p - '0') <= 9) {
-            const u8 *q = p + (*p == '-');
-            if (q < c.bounded) {
-                const u8 *const digits = q;
-                while (static_cast<unsigned>(*q - '0') <= 9) ++q;
-                if (q != digits && q - p <= 63) {
-                    if (*q == ',') {
-                        p = q;
-                        goto comma;
-                    }
-                    if (*q == '}') {
-                        p = q;
-                        goto close;
-                    }
-                }
-            }
+            const u8 *const digits = p + (*p == '-');
             p = check_number(c, t, p);
+            lean = lean && p != nullptr && lean_number(*f, digits, p);
         } else {
+            lean = lean && f->kind == Kind::U32List;
             p = check_value(c, t, p, depth + 1);
         }
         if (p == nullptr || p == end) return nullptr;
@@ -696,7 +716,7 @@ const u8 *check_record(Checker &c, const Text &t, const u8 *p, const unsigned de
         if (*p == ',') goto comma;
         if (*p != '}') return nullptr;
     close:
-        c.in_order = f + 1 == last;
+        c.in_order = f + 1 == last && lean;
         return p + 1;
     comma:
         S2J_STEP();
@@ -988,29 +1008,27 @@ bool fill_record(const Text &t, const Members &m, void *rec) {
 }
 
 // Reads the value at p into the field f of rec, and returns the position
-// just past it, or null when the value is not of the field's JSON type.
-// Integer literals of up to 18 digits are read in place.
+// just past it, or null when the value is not of the field's JSON type.  The
+// check saw to it that an integer field holds an integer literal of at most
+// 18 digits and a string field a string.
 inline const u8 *read_member_value(const Text &t, const Field &f, const u8 *p, char *rec) {
     char *const at = rec + f.offset;
-    if (f.kind == Kind::I32 || f.kind == Kind::U32 || f.kind == Kind::U16) {
+    if (f.kind <= Kind::U16) {
         const bool neg = *p == '-';
-        const u8 *q = p + neg;
-        uint64_t u = 0;  // wraps past 19 digits: such literals are read by integer_at()
-        for (uint64_t c; (c = uint64_t{*q} - '0') <= 9; ++q) u = u * 10 + c;
-        const size_t digits = static_cast<size_t>(q - p) - neg;
-        if (digits != 0 && digits <= 18 && !is_number_char(*q)) {
-            if (neg) u = 0 - u;
-            if (f.kind == Kind::U16) {
-                const uint16_t v = static_cast<uint16_t>(u);
-                std::memcpy(at, &v, sizeof v);
-            } else {
-                const uint32_t v = static_cast<uint32_t>(u);
-                std::memcpy(at, &v, sizeof v);
-            }
-            return q;
+        p += neg;
+        uint64_t u = 0;
+        for (uint64_t c; (c = uint64_t{*p} - '0') <= 9; ++p) u = u * 10 + c;
+        if (neg) u = 0 - u;
+        if (f.kind == Kind::U16) {
+            const uint16_t v = static_cast<uint16_t>(u);
+            std::memcpy(at, &v, sizeof v);
+        } else {
+            const uint32_t v = static_cast<uint32_t>(u);
+            std::memcpy(at, &v, sizeof v);
         }
+        return p;
     }
-    if (f.kind == Kind::Str && *p == '"') {
+    if (f.kind == Kind::Str) {
         const size_t from = static_cast<size_t>(p - t.s) + 1, stop = next_quote_backslash_or_nul(t.s, from, t.len);
         if (t.s[stop] == '"') {
             const size_t n = stop - from < f.size - 1 ? stop - from : f.size - 1;
@@ -1034,8 +1052,9 @@ size_t read_element(const Text &t, size_t i, Members *m, char *rec) {
 
 // Reads the record object at t.s[i] whose members the check found to be the
 // fields' keys as the table writes them, in table order, each once, each
-// followed at once by its ':', as read_element() reads it, and returns the
-// offset just past it (0 when a member is of the wrong JSON type).  Blanks
+// followed at once by its ':' and holding what read_member_value() takes
+// for its field, as read_element() reads it, and returns the offset just
+// past it (0 when a list member is of the wrong JSON type).  Blanks
 // tells whether blanks may stand between the other tokens.
 template <bool Blanks>
 size_t read_in_order_as(const Text &t, size_t i, const TypeDesc *d, char *rec) {
