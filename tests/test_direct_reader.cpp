@@ -123,6 +123,9 @@ const std::vector<std::string> &values() {
         "\"" + std::string(100, 'y') + "\"",
         "\"" + std::string(300, 'z') + "\"",
         "\"unterminated",
+        std::string("\"ends at a NUL") + '\0',
+        "\"ends at a backslash\\",
+        "\"ends at an escaped quote\\\"",
         "true",
         "false",
         "null",
@@ -225,6 +228,20 @@ std::vector<std::string> array_texts(const TypeInfo *t) {
     const std::vector<std::string> one = record_texts(t, 1);
     for (const std::string &doc : one) {
         out.push_back("[" + render(list[0]) + "," + doc + "," + render(list[2]) + "]");
+    }
+    // The first record is checked and read in one walk: mutated too, by a few
+    // values of every kind.
+    for (size_t i = 0; i < list[0].size(); ++i)
+        for (const char *v : {"-1", "1.5", "99999999999999999999", "\"text\"", "\"a\\u0000b\"", "null", "[1,2]",
+                              "\"ends at a backslash\\", "\"ends at an escaped quote\\\""}) {
+            std::vector<Object> changed = list;
+            changed[0][i].value = v;
+            out.push_back(render_array(changed));
+        }
+    for (size_t i = 0; i < list[0].size(); ++i) {
+        std::vector<Object> changed = list;
+        changed[0][i].value = std::string("\"ends at a NUL") + '\0';
+        out.push_back(render_array(changed));
     }
     out.push_back("[1,\"x\",null,[],{}]");
     out.push_back("[" + render(list[0]) + ",5,[" + render(list[1]) + "]]");

@@ -282,11 +282,17 @@ inline size_t next_quote_backslash_or_nul(const u8 *s, size_t i, size_t len) {
     return i;
 }
 
-// Copies n bytes, short runs in two overlapping words (no byte past n is
-// written).
+// Copies n bytes, runs of up to 32 in two overlapping words (no byte past n
+// is written).
 inline void copy_bytes(char *to, const u8 *from, size_t n) {
-    if (n >= 16) {
+    if (n > 32) {
         std::memcpy(to, from, n);
+    } else if (n >= 16) {
+        char a[16], b[16];
+        std::memcpy(a, from, 16);
+        std::memcpy(b, from + n - 16, 16);
+        std::memcpy(to, a, 16);
+        std::memcpy(to + n - 16, b, 16);
     } else if (n >= 8) {
         uint64_t a, b;
         std::memcpy(&a, from, 8);
@@ -341,10 +347,35 @@ inline bool same_bytes(const u8 *a, const char *b, size_t n) {
         std::memcpy(&y1, b + n - 4, 4);
         return x0 == y0 && x1 == y1;
     }
-    for (; n > 0; ++a, ++b, --n)
-        if (*a != static_cast<u8>(*b)) return false;
-    return true;
+    if (n >= 2) {
+        uint16_t x0, y0, x1, y1;
+        std::memcpy(&x0, a, 2);
+        std::memcpy(&y0, b, 2);
+        std::memcpy(&x1, a + n - 2, 2);
+        std::memcpy(&y1, b + n - 2, 2);
+        return x0 == y0 && x1 == y1;
+    }
+    return n == 0 || *a == static_cast<u8>(*b);
 }
+
+// Whether the field's key, its quotes and a ':' fit between p and end with a
+// byte to spare.
+inline bool room_for_key(const u8 *p, const u8 *end, const Field &f) {
+    return end - p > static_cast<ptrdiff_t>(f.key_len) + 3;
+}
+
+// Whether the text at p (with room_for_key()) opens with the field's key as
+// the table writes it, in its quotes and followed at once by a ':' (the key's
+// closing quote and the ':' compared as one 16-bit word).
+inline bool key_at(const u8 *p, const Field &f) {
+    const size_t n = f.key_len;
+    uint16_t close, want;
+    std::memcpy(&close, p + n + 1, 2);
+    std::memcpy(&want, "\":", 2);
+    return close == want && *p == '"' && same_bytes(p + 1, f.key, n);
+}
+
+inline bool key_here(const u8 *p, const u8 *end, const Field &f) { return room_for_key(p, end, f) && key_at(p, f); }
 
 // A member's key as cJSON holds it: the decoded text up to its first NUL.
 // Keys without escapes or NULs are read in place; others are decoded into
@@ -476,6 +507,8 @@ struct Document {
     // each holding what read_in_order() takes for its field.
     uint32_t in_order;
     bool blanks;  // whether those records have blanks between their tokens
+    uint32_t taken;    // how many records, from the first, had their values noted (see take_record())
+    size_t taken_end;  // the offset just past the last of them
 };
 
 // What the check of one text knows and finds.
@@ -487,6 +520,9 @@ struct Checker {
     bool fraction;      // whether a number literal holds a '.'
     bool in_order;      // whether the record checked last had its members in table order
     bool blanks;        // whether a record read in table order had blanks between its tokens
+    uint32_t taken;         // how many records take_record() noted the values of
+    uint64_t *next_values;  // where it notes the next record's, or null when no more are taken
+    const uint64_t *values_end;
 };
 
 inline const u8 *skip_blanks(const u8 *p, const u8 *end) {
@@ -676,13 +712,8 @@ const u8 *check_record(Checker &c, const Text &t, const u8 *p, const unsigned de
     bool lean = true;  // whether every member so far holds what read_in_order() takes for its field
     for (const Field *f = c.fields, *const last = f + c.field_count;; ++f) {
         if (f == last) goto other_member;
-        {
-            const size_t n = f->key_len;
-            if (end - p <= static_cast<ptrdiff_t>(n) + 3 || p[n + 2] != ':' || p[n + 1] != '"' || *p != '"' ||
-                !same_bytes(p + 1, f->key, n))
-                goto other_member;
-            p += n + 3;
-        }
+        if (!key_here(p, end, *f)) goto other_member;
+        p += f->key_len + 3;
         S2J_MARKED_BLANKS();
         if (f->kind <= Kind::U16 && static_cast<unsigned>(*p - '0') <= 9 && p < c.bounded) {
             // The usual integer member: up to 18 digits, then a ',' or the '}'.
@@ -743,6 +774,108 @@ other_member:  // p at a key that is not the one expected; no more guesses in th
 #undef S2J_BLANKS
 }
 
+// The end of the run of 1 to 18 digits at p, whose value goes to *value, or
+// null when p holds no such run.
+inline const u8 *plain_digits(const u8 *p, uint64_t *value) {
+    const u8 *q = p;
+    uint64_t u = uint64_t{*q} - '0';
+    if (u > 9) return nullptr;
+    for (uint64_t d; (d = uint64_t{*++q} - '0') <= 9;) u = u * 10 + d;
+    *value = u;
+    return q - p <= 18 ? q : nullptr;
+}
+
+// A record whose members are the fields' keys as the table writes them, in
+// table order, each once, each holding a plain value of its field's kind (an
+// integer literal of at most 18 digits, a string without escapes or NUL), is
+// checked and its values noted in one walk; put_record() stores them once
+// the whole text is checked.  values[f] holds an integer field's value, or a
+// string's offset in the text (low 32 bits) and length (high 32 bits).
+// take_record() returns the end of the record object opening at open, as
+// check_record() does, and counts the record in c.taken; any other record
+// goes to check_record() from its start, and stops the taking.
+const u8 *take_record(Checker &c, const Text &t, const u8 *const open, const unsigned depth) {
+    const u8 *const end = c.end;
+    const u8 *p = open + 1;
+    uint64_t *value = c.next_values;
+    for (const Field *f = c.fields, *const last = f + c.field_count; f != last; ++f, ++value) {
+        if (!room_for_key(p, end, *f)) break;  // which also keeps p before the end
+        if (*p <= 32) {
+            do {
+                if (++p == end) return nullptr;  // the object is not closed
+            } while (*p <= 32);
+            if (!room_for_key(p, end, *f)) break;
+        }
+        if (!key_at(p, *f)) break;
+        p += f->key_len + 3;
+        if (*p <= 32) do {
+                if (++p == end) return nullptr;
+            } while (*p <= 32);
+        if (f->kind <= Kind::U16) {
+            // Digits that start before c.bounded end before it, so p stays before the end.
+            if (p >= c.bounded) break;
+            if (*p != '-') {
+                p = plain_digits(p, value);
+                if (p == nullptr) break;
+            } else {
+                p = plain_digits(p + 1, value);
+                if (p == nullptr) break;
+                *value = 0 - *value;
+            }
+        } else if (f->kind == Kind::Str && *p == '"') {
+            const size_t from = static_cast<size_t>(p - t.s) + 1, stop = next_quote_backslash_or_nul(t.s, from, t.len);
+            if (stop + 1 >= t.len || t.s[stop] != '"') break;
+            *value = from | uint64_t{stop - from} << 32;
+            p = t.s + stop + 1;
+        } else {
+            break;
+        }
+        if (*p != ',' && *p <= 32) do {
+                if (++p == end) return nullptr;
+            } while (*p <= 32);
+        if (*p == ',') {  // after the last field, another member: the loop ends
+            ++p;
+            continue;
+        }
+        if (*p != '}' || f + 1 != last) break;
+        c.in_order = true;
+        ++c.taken;
+        uint64_t *const next = value + 1;  // where the next record's values would go
+        c.next_values = c.values_end - next >= c.field_count ? next : nullptr;
+        return p + 1;
+    }
+    c.next_values = nullptr;
+    return check_record(c, t, open, depth);
+}
+
+// Stores a string take_record() noted into the string field f at `at`.
+inline void put_string(const Field &f, const Text &t, uint64_t value, char *at) {
+    const uint64_t length = value >> 32;
+    const size_t n = length < f.size - 1 ? length : f.size - 1;
+    copy_bytes(at, t.s + static_cast<uint32_t>(value), n);
+    at[n] = '\0';
+}
+
+// Stores a value take_record() noted into the field f at `at`, as
+// read_value() reads it.
+inline void put_field(const Field &f, const Text &t, uint64_t value, char *at) {
+    if (f.kind == Kind::Str) {
+        put_string(f, t, value, at);
+    } else if (f.kind == Kind::U16) {
+        const uint16_t v = static_cast<uint16_t>(value);
+        std::memcpy(at, &v, sizeof v);
+    } else {
+        const uint32_t v = static_cast<uint32_t>(value);
+        std::memcpy(at, &v, sizeof v);
+    }
+}
+
+// Stores the values take_record() noted for one record into rec.
+void put_record(const TypeDesc *d, const Text &t, const uint64_t *value, char *rec) {
+    for (const Field *f = d->fields, *const last = f + d->field_count; f != last; ++f, ++value)
+        put_field(*f, t, *value, rec + f->offset);
+}
+
 // The end of the array of records opening at p at the top level, or null
 // when cJSON refuses it; its number of elements goes to *elements.
 const u8 *check_record_array(Checker &c, const Text &t, const u8 *p, Document *doc) {
@@ -755,11 +888,17 @@ const u8 *check_record_array(Checker &c, const Text &t, const u8 *p, Document *d
     for (;;) {
         if (p >= end) return nullptr;
         if (*p == '{') {
-            p = check_record(c, t, p, 1);
+            if (c.next_values != nullptr) {
+                p = take_record(c, t, p, 1);
+                if (p != nullptr && c.taken == *elements) doc->taken_end = static_cast<size_t>(p - t.s);
+            } else {
+                p = check_record(c, t, p, 1);
+            }
             in_order = in_order && c.in_order;
         } else {
             p = check_value(c, t, p, 1);
             in_order = false;
+            c.next_values = nullptr;
         }
         if (p == nullptr) return nullptr;
         if (in_order) doc->in_order = *elements;
@@ -776,8 +915,9 @@ const u8 *check_record_array(Checker &c, const Text &t, const u8 *p, Document *d
 
 // Checks the whole text as cJSON parses it, records at record_depth (1: the
 // document is a record, 2: an array of records).  What follows the
-// top-level value is not read.
-bool check_document(const TypeDesc *d, unsigned record_depth, const Text &t, Document *doc) {
+// top-level value is not read.  With values, the first record may be taken
+// (see take_record()).
+bool check_document(const TypeDesc *d, unsigned record_depth, const Text &t, Document *doc, uint64_t *values) {
     const u8 *const s = t.s, *const end = t.s + t.len;
     const u8 *p = s;
     if (4 < t.len && s[0] == 0xEF && s[1] == 0xBB && s[2] == 0xBF) p += 3;  // a UTF-8 byte order mark
@@ -785,11 +925,14 @@ bool check_document(const TypeDesc *d, unsigned record_depth, const Text &t, Doc
     doc->root = static_cast<size_t>(p - s);
     doc->elements = 0;
     doc->in_order = 0;
-    Checker c{end, end, d->fields, d->field_count, false, false, false};
+    // Offsets of strings are noted in 32 bits.
+    if (t.len > UINT32_MAX) values = nullptr;
+    Checker c{end, end, d->fields, d->field_count, false, false, false, 0, values,
+              values == nullptr ? nullptr : values + kMaxFields};
     while (c.bounded > p && static_cast<unsigned>(c.bounded[-1] - '0') <= 9) --c.bounded;
     if (p >= end) return false;
     if (*p == '{' && record_depth == 1) {
-        p = check_record(c, t, p, 0);
+        p = values != nullptr ? take_record(c, t, p, 0) : check_record(c, t, p, 0);
         doc->in_order = c.in_order;
     }
     else if (*p == '[' && record_depth == 2)
@@ -797,6 +940,7 @@ bool check_document(const TypeDesc *d, unsigned record_depth, const Text &t, Doc
     else
         p = check_value(c, t, p, 0);
     doc->blanks = c.blanks;
+    doc->taken = c.taken;
     return p != nullptr && (!c.fraction || decimal_point_is_one_byte());
 }
 
@@ -898,20 +1042,28 @@ S2J_COLD size_t find_members(const Text &t, size_t i, Members *m) {
     }
 }
 
-// Calls f(offset) for the elements of the array opening at t.s[i] while f
-// returns the offset just past the element, and stops when it returns 0.
+// Calls f(offset) for the elements that follow the element ending just
+// before t.s[i], while f returns the offset just past the element, and stops
+// when it returns 0.
 template <class F>
-void each_element(const Text &t, size_t i, F f) {
+void each_element_after(const Text &t, size_t i, F f) {
     const u8 *s = t.s;
-    i = skip_ws(s, i + 1);
-    if (s[i] == ']') return;
     for (;;) {
-        i = f(i);
-        if (i == 0) return;
         i = skip_ws(s, i);
         if (s[i] != ',') return;
-        i = skip_ws(s, i + 1);
+        i = f(skip_ws(s, i + 1));
+        if (i == 0) return;
     }
+}
+
+// Calls f(offset) for the elements of the array opening at t.s[i], as
+// each_element_after() does.
+template <class F>
+void each_element(const Text &t, size_t i, F f) {
+    i = skip_ws(t.s, i + 1);
+    if (t.s[i] == ']') return;
+    i = f(i);
+    if (i != 0) each_element_after(t, i, f);
 }
 
 // Whether the value at t.s[i] is an integer item (an integer literal within
@@ -1087,12 +1239,22 @@ uint32_t find_keyed(const TypeDesc *d, const char *base, uint32_t capacity, cons
     }
     uint32_t want;
     std::memcpy(&want, keyword + d->keys[0].keyword_offset, sizeof want);
-    const char *key = base + first.offset;
-    for (uint32_t i = 0; i < capacity; ++i, key += d->size) {
+    const size_t size = d->size;
+    const auto first_key_is = [&](const char *key) {
         uint32_t have;
         std::memcpy(&have, key, sizeof have);
-        if (have == want && keys_match(d, key - first.offset, keyword)) return i;
+        return have == want;
+    };
+    const char *key = base + first.offset;
+    uint32_t i = 0;
+    // Four records a step until one has the first key; from there one by one.
+    while (i + 4 <= capacity && !first_key_is(key) && !first_key_is(key + size) && !first_key_is(key + 2 * size) &&
+           !first_key_is(key + 3 * size)) {
+        i += 4;
+        key += 4 * size;
     }
+    for (; i < capacity; ++i, key += size)
+        if (first_key_is(key) && (d->key_count == 1 || keys_match(d, key - first.offset, keyword))) return i;
     return capacity;
 }
 
@@ -1130,25 +1292,36 @@ bool keys_in_order(const Text &t, size_t i, const TypeDesc *d, char *keyword) {
     return true;
 }
 
-bool start(const TypeDesc *d, unsigned record_depth, const Text &t, Document *doc) {
-    return check_document(d, record_depth, t, doc);
+bool start(const TypeDesc *d, unsigned record_depth, const Text &t, Document *doc, uint64_t *values = nullptr) {
+    return check_document(d, record_depth, t, doc, values);
 }
+
+// What reading a record needs beside the text: where its members are, or
+// the values take_record() noted; never both at once.
+union Scratch {
+    Members m;
+    uint64_t values[kMaxFields];
+};
 
 }  // namespace
 
 Direct direct_record(const TypeDesc *d, const char *text, size_t len, void *rec) {
     const Text t{reinterpret_cast<const u8 *>(text), len};
     Document doc;
-    if (!start(d, 1, t, &doc)) return Direct::UseTree;
+    Scratch scratch;
+    if (!start(d, 1, t, &doc, scratch.values)) return Direct::UseTree;
     if (t.s[doc.root] != '{') return Direct::NotObject;
     char *const r = static_cast<char *>(rec);
+    if (doc.taken != 0) {
+        put_record(d, t, scratch.values, r);
+        return Direct::Done;
+    }
     size_t end;
     if (doc.in_order != 0) {
         end = read_in_order(t, doc.root, d, r, doc.blanks);
     } else {
-        Members m;
-        m.d = d;
-        end = read_element(t, doc.root, &m, r);
+        scratch.m.d = d;
+        end = read_element(t, doc.root, &scratch.m, r);
     }
     return end != 0 ? Direct::Done : Direct::ReaderFailed;
 }
@@ -1156,7 +1329,8 @@ Direct direct_record(const TypeDesc *d, const char *text, size_t len, void *rec)
 Direct direct_array(const TypeDesc *d, const char *text, size_t len, void *arr, uint32_t *count) {
     const Text t{reinterpret_cast<const u8 *>(text), len};
     Document doc;
-    if (!start(d, 2, t, &doc)) return Direct::UseTree;
+    Scratch scratch;
+    if (!start(d, 2, t, &doc, scratch.values)) return Direct::UseTree;
     if (t.s[doc.root] != '[') return Direct::NotArray;
     if (arr == nullptr) {  // query mode: how many elements to provide
         *count = doc.elements;
@@ -1164,11 +1338,12 @@ Direct direct_array(const TypeDesc *d, const char *text, size_t len, void *arr, 
     }
     const uint32_t filled = doc.elements < *count ? doc.elements : *count;
     char *base = static_cast<char *>(arr);
-    uint32_t k = 0;
+    uint32_t k = doc.taken < filled ? doc.taken : filled;  // the next record to fill
+    for (size_t j = 0; j < k; ++j) put_record(d, t, scratch.values + j * d->field_count, base + j * d->size);
     bool ok = true;
-    Members m;
+    Members &m = scratch.m;
     m.d = d;
-    each_element(t, doc.root, [&](size_t value) -> size_t {
+    const auto read = [&](size_t value) -> size_t {
         if (k == filled) return 0;
         char *const rec = base + static_cast<size_t>(k) * d->size;
         const size_t end =
@@ -1176,7 +1351,11 @@ Direct direct_array(const TypeDesc *d, const char *text, size_t len, void *arr, 
         ok = end != 0;
         ++k;
         return end;
-    });
+    };
+    if (doc.taken == 0)
+        each_element(t, doc.root, read);
+    else
+        each_element_after(t, doc.taken_end, read);
     if (!ok) return Direct::ReaderFailed;
     *count = filled;
     return Direct::Done;
@@ -1213,19 +1392,39 @@ __attribute__((noinline)) size_t update_element(const Text &t, const TypeDesc *d
     return end;
 }
 
+// Applies the taken update elements (see take_record()), whose values start
+// at values, each to the first of the capacity records at base with its keys
+// (counted in *updated).
+__attribute__((noinline)) void update_taken(const Text &t, const TypeDesc *d, const uint64_t *values, uint32_t taken,
+                                            char *base, uint32_t capacity, uint32_t *updated) {
+    alignas(8) char keyword[kMaxKeywordSize];
+    for (uint32_t k = 0; k < taken; ++k, values += d->field_count) {
+        for (uint32_t j = 0; j < d->key_count; ++j) {
+            const Key &key = d->keys[j];
+            put_field(keyword_field(key), t, values[field_of_key(d, key)], keyword + key.keyword_offset);
+        }
+        const uint32_t i = find_keyed(d, base, capacity, keyword);
+        if (i == capacity) continue;
+        put_record(d, t, values, base + static_cast<size_t>(i) * d->size);
+        ++*updated;
+    }
+}
+
 }  // namespace
 
 Direct direct_update(const TypeDesc *d, const char *text, size_t len, void *arr, uint32_t *count) {
     const Text t{reinterpret_cast<const u8 *>(text), len};
     Document doc;
-    if (!start(d, 2, t, &doc)) return Direct::UseTree;
+    uint64_t values[kMaxFields];
+    if (!start(d, 2, t, &doc, values)) return Direct::UseTree;
     if (t.s[doc.root] != '[') return Direct::NotArray;
     char *base = static_cast<char *>(arr);
     const uint32_t capacity = *count;  // not changed during the loop
     uint32_t updated = 0;
+    update_taken(t, d, values, doc.taken, base, capacity, &updated);
     Direct outcome = Direct::Done;
-    uint32_t k = 0;  // the element's index
-    each_element(t, doc.root, [&](size_t value) -> size_t {
+    uint32_t k = doc.taken;  // the element's index
+    const auto apply = [&](size_t value) -> size_t {
         if (k++ >= doc.in_order) return update_element(t, d, value, base, capacity, &updated, &outcome);
         // The keyword record of this element, read as the keyword reader
         // reads it: every key present and of its JSON type.
@@ -1244,7 +1443,11 @@ Direct direct_update(const TypeDesc *d, const char *text, size_t len, void *arr,
         }
         ++updated;
         return end;
-    });
+    };
+    if (k == 0)
+        each_element(t, doc.root, apply);
+    else
+        each_element_after(t, doc.taken_end, apply);
     if (outcome == Direct::Done) *count = updated;  // an empty list sets the count to 0
     return outcome;
 }
