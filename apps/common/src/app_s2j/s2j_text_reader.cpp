@@ -8,19 +8,25 @@
 //     and the few things this reader leaves to cJSON (a number literal of 63
 //     or more characters, a fraction under a locale whose decimal point is
 //     not one byte), ends the read here with UseTree, before any record is
-//     touched.  On the way it counts the records, from the first, whose
-//     members are the fields' keys as the table writes them, in table order,
-//     each once, each holding a value of its field's JSON type (an integer
-//     of at most 18 digits for an integer field), and notes whether blanks
-//     stand between their tokens;
-//  2. read the records from the text known to be well formed, exactly as the
-//     tree readers read the tree cJSON would have built: for each record the
-//     first member whose key equals a field's key without regard to case
-//     (under tolower(), as cJSON compares), then the fields in table order up
-//     to the first of the wrong JSON type.  The records counted in pass 1
-//     are read in one walk, each member's value where the walk meets it (no
-//     key comparison), which is the same: each field's first match is its
-//     one member, met in table order.
+//     touched.  On the way:
+//     - the leading records whose members are the fields' keys as the table
+//       writes them, in table order, each once, each holding a plain value
+//       (an integer of at most 18 digits, a string without escapes or NUL),
+//       have their values noted in a scratch of the caller's stack, as many
+//       records as it holds (take_record());
+//     - it counts the records, from the first, whose members are the fields'
+//       keys in table order, each once, each holding a value of its field's
+//       JSON type (an integer of at most 18 digits for an integer field), and
+//       notes whether blanks stand between their tokens;
+//  2. store the noted values, and read the other records from the text known
+//     to be well formed, exactly as the tree readers read the tree cJSON
+//     would have built: for each record the first member whose key equals a
+//     field's key without regard to case (under tolower(), as cJSON
+//     compares), then the fields in table order up to the first of the wrong
+//     JSON type.  The records counted in pass 1 are read in one walk, each
+//     member's value where the walk meets it (no key comparison), which is
+//     the same: each field's first match is its one member, met in table
+//     order.  The noted records are the same again, with no wrong type.
 #include "s2j_text_reader.h"
 
 #include <cctype>
@@ -157,7 +163,7 @@ inline size_t first_marked(uint64_t marks) {
 
 // The first quote or backslash at or after i, looking no further than len
 // (len when there is none): sixteen bytes at a time where the target has
-// 128-bit vectors, then eight at a time, then byte by byte.
+// 128-bit vectors, else eight at a time, then byte by byte.
 inline size_t next_quote_or_backslash(const u8 *s, size_t i, size_t len) {
 #ifdef __SSE2__
     const __m128i quote = _mm_set1_epi8('"'), backslash = _mm_set1_epi8('\\');
@@ -167,12 +173,13 @@ inline size_t next_quote_or_backslash(const u8 *s, size_t i, size_t len) {
             _mm_movemask_epi8(_mm_or_si128(_mm_cmpeq_epi8(w, quote), _mm_cmpeq_epi8(w, backslash))));
         if (marks != 0) return i + static_cast<size_t>(__builtin_ctz(marks));
     }
-#endif
+#else
     for (; i + 8 <= len; i += 8) {
         uint64_t w;
         std::memcpy(&w, s + i, 8);
         if (uint64_t marks = quotes_or_backslashes(w)) return i + first_marked(marks);
     }
+#endif
     while (i < len && s[i] != '"' && s[i] != '\\') ++i;
     return i;
 }
@@ -218,7 +225,7 @@ S2J_COLD bool escapes_valid(const u8 *p, const u8 *end) {
 
 // In a text known to be well formed: the closing quote of the string opening
 // at t.s[i].
-inline size_t string_end(const Text &t, size_t i) {
+S2J_COLD size_t string_end(const Text &t, size_t i) {
     i = next_quote_or_backslash(t.s, i + 1, t.len);
     while (t.s[i] != '"') i = next_quote_or_backslash(t.s, i + 2, t.len);  // past a backslash and its byte
     return i;
@@ -270,7 +277,7 @@ inline size_t next_quote_backslash_or_nul(const u8 *s, size_t i, size_t len) {
         const unsigned marks = static_cast<unsigned>(_mm_movemask_epi8(hits));
         if (marks != 0) return i + static_cast<size_t>(__builtin_ctz(marks));
     }
-#endif
+#else
     constexpr uint64_t lows = 0x7F7F7F7F7F7F7F7Full;
     for (; i + 8 <= len; i += 8) {
         uint64_t w;
@@ -278,35 +285,40 @@ inline size_t next_quote_backslash_or_nul(const u8 *s, size_t i, size_t len) {
         if (uint64_t marks = quotes_or_backslashes(w) | ~(((w & lows) + lows) | w | lows))
             return i + first_marked(marks);
     }
+#endif
     while (i < len && s[i] != '"' && s[i] != '\\' && s[i] != '\0') ++i;
     return i;
 }
 
-// Copies n bytes, runs of up to 32 in two overlapping words (no byte past n
-// is written).
+// Copies n bytes, runs of up to 32 in two overlapping words, shortest first
+// (no byte past n is written).
 inline void copy_bytes(char *to, const u8 *from, size_t n) {
-    if (n > 32) {
-        std::memcpy(to, from, n);
-    } else if (n >= 16) {
-        char a[16], b[16];
-        std::memcpy(a, from, 16);
-        std::memcpy(b, from + n - 16, 16);
-        std::memcpy(to, a, 16);
-        std::memcpy(to + n - 16, b, 16);
-    } else if (n >= 8) {
-        uint64_t a, b;
-        std::memcpy(&a, from, 8);
-        std::memcpy(&b, from + n - 8, 8);
-        std::memcpy(to, &a, 8);
-        std::memcpy(to + n - 8, &b, 8);
-    } else if (n >= 4) {
+    if (n < 4) {
+        if (n != 0) {  // bytes 0, n/2 and n-1 cover 1 to 3 bytes
+            to[0] = static_cast<char>(from[0]);
+            to[n / 2] = static_cast<char>(from[n / 2]);
+            to[n - 1] = static_cast<char>(from[n - 1]);
+        }
+    } else if (n < 8) {
         uint32_t a, b;
         std::memcpy(&a, from, 4);
         std::memcpy(&b, from + n - 4, 4);
         std::memcpy(to, &a, 4);
         std::memcpy(to + n - 4, &b, 4);
+    } else if (n < 16) {
+        uint64_t a, b;
+        std::memcpy(&a, from, 8);
+        std::memcpy(&b, from + n - 8, 8);
+        std::memcpy(to, &a, 8);
+        std::memcpy(to + n - 8, &b, 8);
+    } else if (n <= 32) {
+        char a[16], b[16];
+        std::memcpy(a, from, 16);
+        std::memcpy(b, from + n - 16, 16);
+        std::memcpy(to, a, 16);
+        std::memcpy(to + n - 16, b, 16);
     } else {
-        for (size_t k = 0; k < n; ++k) to[k] = static_cast<char>(from[k]);
+        std::memcpy(to, from, n);
     }
 }
 
@@ -530,6 +542,15 @@ inline const u8 *skip_blanks(const u8 *p, const u8 *end) {
     return p;
 }
 
+// The first byte after the blank at p inside an object that the text has not
+// closed yet, or null when the text ends first.
+S2J_COLD const u8 *blanks_in_object(const u8 *p, const u8 *end) {
+    do {
+        if (++p == end) return nullptr;
+    } while (*p <= 32);
+    return p;
+}
+
 // The end of the number literal at p (a '-' or a digit) as cJSON reads it
 // inside a document, or null when cJSON refuses it.  Plain integers take one
 // loop.
@@ -547,7 +568,7 @@ inline const u8 *check_number(Checker &c, const Text &t, const u8 *p) {
 }
 
 // The end of the string opening at p, or null when cJSON refuses it.
-inline const u8 *check_string(const Text &t, const u8 *p) {
+S2J_COLD const u8 *check_string(const Text &t, const u8 *p) {
     bool escaped = false;
     const size_t q = scan_string(t, static_cast<size_t>(p - t.s), &escaped);
     if (q == 0 || (escaped && !escapes_valid(p + 1, t.s + q))) return nullptr;
@@ -680,18 +701,7 @@ inline bool lean_number(const Field &f, const u8 *digits, const u8 *end) {
     return true;
 }
 
-// The end of the record object opening at p inside `depth` open containers,
-// or null when cJSON refuses it: the generic check in tight loops for the
-// members of a record.  While the keys are the fields' keys in table order,
-// each followed at once by its ':' (compared in place: strings known to need
-// no scan), the first loop runs; at the first other key the second loop
-// checks the rest.  Inside the object the text must go on, so p stays before
-// the end, and the end is tested only where p moves.  c.in_order tells
-// whether the first loop read every member and each held what
-// read_in_order() takes for its field; c.blanks is set when a blank stood
-// between two tokens of the first loop.
-const u8 *check_record(Checker &c, const Text &t, const u8 *p, const unsigned depth) {
-    const u8 *const end = c.end;
+// Blanks inside an object, which the text must close: p stays before end.
 #define S2J_BLANKS()                           \
     if (*p <= 32) do {                         \
             if (++p == end) return nullptr;    \
@@ -704,6 +714,40 @@ const u8 *check_record(Checker &c, const Text &t, const u8 *p, const unsigned de
         S2J_BLANKS();       \
     }
 
+// The end of the record object whose members from the one at p on (p at its
+// key, before the end) are checked the general way, inside `depth` open
+// containers, or null when cJSON refuses it.
+S2J_COLD const u8 *check_other_members(Checker &c, const Text &t, const u8 *p, const unsigned depth) {
+    const u8 *const end = c.end;
+    for (;;) {
+        if (*p != '"') return nullptr;
+        p = check_string(t, p);
+        if (p == nullptr || p == end) return nullptr;
+        S2J_BLANKS();
+        if (*p != ':') return nullptr;
+        S2J_STEP();
+        S2J_BLANKS();
+        p = check_member_value(c, t, p, depth);
+        if (p == nullptr) return nullptr;
+        S2J_BLANKS();
+        if (*p != ',') return *p == '}' ? p + 1 : nullptr;
+        S2J_STEP();
+        S2J_BLANKS();
+    }
+}
+
+// The end of the record object opening at p inside `depth` open containers,
+// or null when cJSON refuses it: the generic check in tight loops for the
+// members of a record.  While the keys are the fields' keys in table order,
+// each followed at once by its ':' (compared in place: strings known to need
+// no scan), the first loop runs; at the first other key the second loop
+// checks the rest.  Inside the object the text must go on, so p stays before
+// the end, and the end is tested only where p moves.  c.in_order tells
+// whether the first loop read every member and each held what
+// read_in_order() takes for its field; c.blanks is set when a blank stood
+// between two tokens of the first loop.
+const u8 *check_record(Checker &c, const Text &t, const u8 *p, const unsigned depth) {
+    const u8 *const end = c.end;
     if (depth >= CJSON_NESTING_LIMIT) return nullptr;
     S2J_STEP();
     S2J_MARKED_BLANKS();
@@ -754,25 +798,12 @@ const u8 *check_record(Checker &c, const Text &t, const u8 *p, const unsigned de
         S2J_MARKED_BLANKS();
     }
 other_member:  // p at a key that is not the one expected; no more guesses in this object
-    for (;;) {
-        if (*p != '"') return nullptr;
-        p = check_string(t, p);
-        if (p == nullptr || p == end) return nullptr;
-        S2J_BLANKS();
-        if (*p != ':') return nullptr;
-        S2J_STEP();
-        S2J_BLANKS();
-        p = check_member_value(c, t, p, depth);
-        if (p == nullptr) return nullptr;
-        S2J_BLANKS();
-        if (*p != ',') return *p == '}' ? p + 1 : nullptr;
-        S2J_STEP();
-        S2J_BLANKS();
-    }
+    return check_other_members(c, t, p, depth);
+}
+
 #undef S2J_MARKED_BLANKS
 #undef S2J_STEP
 #undef S2J_BLANKS
-}
 
 // The end of the run of 1 to 18 digits at p, whose value goes to *value, or
 // null when p holds no such run.
@@ -797,20 +828,18 @@ inline const u8 *plain_digits(const u8 *p, uint64_t *value) {
 const u8 *take_record(Checker &c, const Text &t, const u8 *const open, const unsigned depth) {
     const u8 *const end = c.end;
     const u8 *p = open + 1;
+    const u8 *const s = t.s;
+    const size_t len = t.len;
     uint64_t *value = c.next_values;
     for (const Field *f = c.fields, *const last = f + c.field_count; f != last; ++f, ++value) {
         if (!room_for_key(p, end, *f)) break;  // which also keeps p before the end
         if (*p <= 32) {
-            do {
-                if (++p == end) return nullptr;  // the object is not closed
-            } while (*p <= 32);
+            if ((p = blanks_in_object(p, end)) == nullptr) return nullptr;
             if (!room_for_key(p, end, *f)) break;
         }
         if (!key_at(p, *f)) break;
         p += f->key_len + 3;
-        if (*p <= 32) do {
-                if (++p == end) return nullptr;
-            } while (*p <= 32);
+        if (*p <= 32 && (p = blanks_in_object(p, end)) == nullptr) return nullptr;
         if (f->kind <= Kind::U16) {
             // Digits that start before c.bounded end before it, so p stays before the end.
             if (p >= c.bounded) break;
@@ -823,16 +852,14 @@ const u8 *take_record(Checker &c, const Text &t, const u8 *const open, const uns
                 *value = 0 - *value;
             }
         } else if (f->kind == Kind::Str && *p == '"') {
-            const size_t from = static_cast<size_t>(p - t.s) + 1, stop = next_quote_backslash_or_nul(t.s, from, t.len);
-            if (stop + 1 >= t.len || t.s[stop] != '"') break;
+            const size_t from = static_cast<size_t>(p - s) + 1, stop = next_quote_backslash_or_nul(s, from, len);
+            if (stop + 1 >= len || s[stop] != '"') break;
             *value = from | uint64_t{stop - from} << 32;
-            p = t.s + stop + 1;
+            p = s + stop + 1;
         } else {
             break;
         }
-        if (*p != ',' && *p <= 32) do {
-                if (++p == end) return nullptr;
-            } while (*p <= 32);
+        if (*p != ',' && *p <= 32 && (p = blanks_in_object(p, end)) == nullptr) return nullptr;
         if (*p == ',') {  // after the last field, another member: the loop ends
             ++p;
             continue;
@@ -955,7 +982,7 @@ inline size_t skip_ws(const u8 *s, size_t i) {
 }
 
 // Just past the value starting at t.s[i].
-size_t skip_value(const Text &t, size_t i) {
+S2J_COLD size_t skip_value(const Text &t, size_t i) {
     const u8 *s = t.s;
     switch (s[i]) {
         case '"':
@@ -1115,7 +1142,7 @@ S2J_COLD bool read_list(const Text &t, size_t i, char *at, uint32_t size) {
 // Reads the value at t.s[i] into a field at `at`, as the tree reader reads
 // the item, and sets *after just past the value: false when it is not of the
 // field's JSON type.
-inline bool read_value(const Text &t, const Field &f, size_t i, char *at, size_t *after) {
+S2J_COLD bool read_value(const Text &t, const Field &f, size_t i, char *at, size_t *after) {
     switch (f.kind) {
         case Kind::I32:
         case Kind::U32:
@@ -1144,14 +1171,14 @@ inline bool read_value(const Text &t, const Field &f, size_t i, char *at, size_t
     return false;
 }
 
-bool read_field(const Text &t, const Field &f, size_t i, char *at) {
+S2J_COLD bool read_field(const Text &t, const Field &f, size_t i, char *at) {
     size_t after;
     return read_value(t, f, i, at, &after);
 }
 
 // Fills the record's fields in table order from the members found, up to the
 // first of the wrong JSON type; absent members leave their fields alone.
-bool fill_record(const Text &t, const Members &m, void *rec) {
+S2J_COLD bool fill_record(const Text &t, const Members &m, void *rec) {
     const TypeDesc *d = m.d;
     char *base = static_cast<char *>(rec);
     for (uint32_t f = 0; f < d->field_count; ++f)
@@ -1197,7 +1224,7 @@ inline const u8 *read_member_value(const Text &t, const Field &f, const u8 *p, c
 // Reads the element at t.s[i] into rec: fill_record() over the members
 // find_members() finds.  Returns the offset just past the element, or 0 when
 // a member is of the wrong JSON type.
-size_t read_element(const Text &t, size_t i, Members *m, char *rec) {
+S2J_COLD size_t read_element(const Text &t, size_t i, Members *m, char *rec) {
     const size_t end = find_members(t, i, m);
     return fill_record(t, *m, rec) ? end : 0;
 }
@@ -1209,7 +1236,7 @@ size_t read_element(const Text &t, size_t i, Members *m, char *rec) {
 // past it (0 when a list member is of the wrong JSON type).  Blanks
 // tells whether blanks may stand between the other tokens.
 template <bool Blanks>
-size_t read_in_order_as(const Text &t, size_t i, const TypeDesc *d, char *rec) {
+__attribute__((always_inline)) inline size_t read_in_order_as(const Text &t, size_t i, const TypeDesc *d, char *rec) {
     const u8 *p = t.s + i + 1;
     for (const Field *f = d->fields, *const last = f + d->field_count; f != last; ++f) {
         if (Blanks) while (*p <= 32) ++p;
@@ -1223,8 +1250,13 @@ size_t read_in_order_as(const Text &t, size_t i, const TypeDesc *d, char *rec) {
     return static_cast<size_t>(p - t.s);
 }
 
+// Indented text: compiled for size.
+S2J_COLD size_t read_in_order_with_blanks(const Text &t, size_t i, const TypeDesc *d, char *rec) {
+    return read_in_order_as<true>(t, i, d, rec);
+}
+
 size_t read_in_order(const Text &t, size_t i, const TypeDesc *d, char *rec, bool blanks) {
-    return blanks ? read_in_order_as<true>(t, i, d, rec) : read_in_order_as<false>(t, i, d, rec);
+    return blanks ? read_in_order_with_blanks(t, i, d, rec) : read_in_order_as<false>(t, i, d, rec);
 }
 
 // The index of the first of the capacity records at base whose keys equal
@@ -1263,33 +1295,6 @@ uint32_t field_of_key(const TypeDesc *d, const Key &k) {
     uint32_t f = 0;
     while (d->fields[f].offset != k.field.offset) ++f;
     return f;
-}
-
-// Reads the keys of the record object at t.s[i], whose members the check
-// found to be the fields' keys in table order, into keyword as the keyword
-// reader reads them: false when one is not of its field's JSON type.
-bool keys_in_order(const Text &t, size_t i, const TypeDesc *d, char *keyword) {
-    const u8 *const s = t.s;
-    uint32_t last = 0;  // the last field that is a key
-    for (uint32_t k = 0; k < d->key_count; ++k) {
-        const uint32_t f = field_of_key(d, d->keys[k]);
-        if (f > last) last = f;
-    }
-    size_t at = i + 1;
-    for (uint32_t f = 0; f <= last; ++f) {
-        at = skip_ws(s, at) + d->fields[f].key_len + 2;  // past the key and its quotes
-        at = skip_ws(s, skip_ws(s, at) + 1);              // past the ':'
-        const Key *key = nullptr;
-        for (uint32_t k = 0; k < d->key_count; ++k)
-            if (d->keys[k].field.offset == d->fields[f].offset) key = &d->keys[k];
-        if (key == nullptr) {
-            at = skip_value(t, at);
-        } else if (!read_value(t, keyword_field(*key), at, keyword + key->keyword_offset, &at)) {
-            return false;
-        }
-        at = skip_ws(s, at) + 1;  // past the ',' or the '}'
-    }
-    return true;
 }
 
 bool start(const TypeDesc *d, unsigned record_depth, const Text &t, Document *doc, uint64_t *values = nullptr) {
@@ -1367,7 +1372,7 @@ namespace {
 // general way, to the first of the capacity records at base with its keys
 // (counted in *updated); returns the offset just past the element, or 0 with
 // *outcome set when it has no keys or a member of the wrong JSON type.
-__attribute__((noinline)) size_t update_element(const Text &t, const TypeDesc *d, size_t value, char *base,
+S2J_COLD __attribute__((noinline)) size_t update_element(const Text &t, const TypeDesc *d, size_t value, char *base,
                                                 uint32_t capacity, uint32_t *updated, Direct *outcome) {
     Members m;
     m.d = d;
@@ -1422,29 +1427,10 @@ Direct direct_update(const TypeDesc *d, const char *text, size_t len, void *arr,
     const uint32_t capacity = *count;  // not changed during the loop
     uint32_t updated = 0;
     update_taken(t, d, values, doc.taken, base, capacity, &updated);
+    // The elements after the taken ones: their members are found the general way.
     Direct outcome = Direct::Done;
-    uint32_t k = doc.taken;  // the element's index
-    const auto apply = [&](size_t value) -> size_t {
-        if (k++ >= doc.in_order) return update_element(t, d, value, base, capacity, &updated, &outcome);
-        // The keyword record of this element, read as the keyword reader
-        // reads it: every key present and of its JSON type.
-        alignas(8) char keyword[kMaxKeywordSize];
-        if (!keys_in_order(t, value, d, keyword)) {
-            outcome = Direct::KeywordMissing;
-            return size_t{0};
-        }
-        const uint32_t i = find_keyed(d, base, capacity, keyword);
-        if (i == capacity) return skip_value(t, value);
-        char *rec = base + static_cast<size_t>(i) * d->size;
-        const size_t end = read_in_order(t, value, d, rec, doc.blanks);
-        if (end == 0) {
-            outcome = Direct::ReaderFailed;
-            return size_t{0};
-        }
-        ++updated;
-        return end;
-    };
-    if (k == 0)
+    const auto apply = [&](size_t value) { return update_element(t, d, value, base, capacity, &updated, &outcome); };
+    if (doc.taken == 0)
         each_element(t, doc.root, apply);
     else
         each_element_after(t, doc.taken_end, apply);
