@@ -142,6 +142,9 @@ S2J_COLD unsigned unicode_escape(const u8 *p, const u8 *end, u8 out[4], unsigned
     return length;
 }
 
+#ifndef __SSE2__
+// Strings are scanned a word at a time on targets without 128-bit vectors.
+
 // The bytes of w that are a quote or a backslash, as the high bit of each
 // such byte and of no other (exact, so that the first mark is the first such
 // byte in either byte order).
@@ -160,6 +163,7 @@ inline size_t first_marked(uint64_t marks) {
     return static_cast<size_t>(__builtin_ctzll(marks)) / 8;
 #endif
 }
+#endif
 
 // The first quote or backslash at or after i, looking no further than len
 // (len when there is none): sixteen bytes at a time where the target has
@@ -868,7 +872,7 @@ const u8 *take_record(Checker &c, const Text &t, const u8 *const open, const uns
         c.in_order = true;
         ++c.taken;
         uint64_t *const next = value + 1;  // where the next record's values would go
-        c.next_values = c.values_end - next >= c.field_count ? next : nullptr;
+        c.next_values = static_cast<size_t>(c.values_end - next) >= c.field_count ? next : nullptr;
         return p + 1;
     }
     c.next_values = nullptr;
