@@ -2,9 +2,11 @@
 // members are listed in file2struct_def.cpp.
 #include "s2j_files.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <climits>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -16,28 +18,35 @@ namespace {
 
 // The whole file as a nul-terminated text, or null with *status -15 when the
 // file cannot be opened (or is a directory) or its text cannot be held.  The
-// size comes from seeking to the end; the text ends where fread() stopped.
+// size comes from seeking to the end (a file that cannot be sought, or whose
+// size does not fit a long, reads as empty); the text ends where reading
+// stopped.  The descriptor is read directly: the text's buffer is the one
+// allocation.
 char *read_text(const char *path, int *status) {
     *status = -15;
-    FILE *f = std::fopen(path, "r");
-    if (f == nullptr) return nullptr;
+    const int fd = open(path, O_RDONLY | O_CLOEXEC);
+    if (fd < 0) return nullptr;
     struct stat st;
-    if (fstat(fileno(f), &st) == 0 && S_ISDIR(st.st_mode)) {
-        std::fclose(f);  // a directory opens, but holds no text to read
+    if (fstat(fd, &st) == 0 && S_ISDIR(st.st_mode)) {
+        close(fd);  // a directory opens, but holds no text to read
         return nullptr;
     }
-    std::fseek(f, 0, SEEK_END);
-    long size = std::ftell(f);
-    std::fseek(f, 0, SEEK_SET);
-    if (size < 0) size = 0;  // not seekable: read as empty
-    char *text = static_cast<char *>(std::malloc(static_cast<size_t>(size) + 1));
+    const off_t end = lseek(fd, 0, SEEK_END);
+    lseek(fd, 0, SEEK_SET);
+    const size_t size = end < 0 || end > LONG_MAX ? 0 : static_cast<size_t>(end);
+    char *text = static_cast<char *>(std::malloc(size + 1));
     if (text == nullptr) {
-        std::fclose(f);
+        close(fd);
         return nullptr;
     }
-    size_t got = std::fread(text, 1, static_cast<size_t>(size), f);
+    size_t got = 0;
+    while (got < size) {
+        const ssize_t n = read(fd, text + got, size - got);
+        if (n <= 0) break;
+        got += static_cast<size_t>(n);
+    }
     text[got] = '\0';
-    std::fclose(f);
+    close(fd);
     *status = 0;
     return text;
 }
