@@ -294,6 +294,17 @@ inline size_t next_quote_backslash_or_nul(const u8 *s, size_t i, size_t len) {
     return i;
 }
 
+// Copies the first and the last `width` bytes of n (n from one width to
+// two): the n bytes, in two overlapping words.
+template <size_t width>
+inline void copy_ends(char *to, const u8 *from, size_t n) {
+    char head[width], tail[width];
+    std::memcpy(head, from, width);
+    std::memcpy(tail, from + n - width, width);
+    std::memcpy(to, head, width);
+    std::memcpy(to + n - width, tail, width);
+}
+
 // Copies n bytes, runs of up to 32 in two overlapping words, shortest first
 // (no byte past n is written).
 inline void copy_bytes(char *to, const u8 *from, size_t n) {
@@ -304,23 +315,11 @@ inline void copy_bytes(char *to, const u8 *from, size_t n) {
             to[n - 1] = static_cast<char>(from[n - 1]);
         }
     } else if (n < 8) {
-        uint32_t a, b;
-        std::memcpy(&a, from, 4);
-        std::memcpy(&b, from + n - 4, 4);
-        std::memcpy(to, &a, 4);
-        std::memcpy(to + n - 4, &b, 4);
+        copy_ends<4>(to, from, n);
     } else if (n < 16) {
-        uint64_t a, b;
-        std::memcpy(&a, from, 8);
-        std::memcpy(&b, from + n - 8, 8);
-        std::memcpy(to, &a, 8);
-        std::memcpy(to + n - 8, &b, 8);
+        copy_ends<8>(to, from, n);
     } else if (n <= 32) {
-        char a[16], b[16];
-        std::memcpy(a, from, 16);
-        std::memcpy(b, from + n - 16, 16);
-        std::memcpy(to, a, 16);
-        std::memcpy(to + n - 16, b, 16);
+        copy_ends<16>(to, from, n);
     } else {
         std::memcpy(to, from, n);
     }
@@ -341,6 +340,18 @@ inline size_t read_string(const Text &t, size_t i, char *field, size_t size) {
     return t.s[stop] == '"' ? stop : string_end(t, i);
 }
 
+// Whether the first and the last word of the n bytes at a (n from one word
+// to two) are those at b: whether the n bytes are.
+template <class Word>
+inline bool same_ends(const u8 *a, const char *b, size_t n) {
+    Word x0, y0, x1, y1;
+    std::memcpy(&x0, a, sizeof x0);
+    std::memcpy(&y0, b, sizeof y0);
+    std::memcpy(&x1, a + n - sizeof x1, sizeof x1);
+    std::memcpy(&y1, b + n - sizeof y1, sizeof y1);
+    return x0 == y0 && x1 == y1;
+}
+
 // Whether the n bytes at a are the n bytes at b, compared a word at a time
 // (the last word overlapping the one before it).
 inline bool same_bytes(const u8 *a, const char *b, size_t n) {
@@ -355,22 +366,8 @@ inline bool same_bytes(const u8 *a, const char *b, size_t n) {
         std::memcpy(&y, b + n - 8, 8);
         return x == y;
     }
-    if (n >= 4) {
-        uint32_t x0, y0, x1, y1;
-        std::memcpy(&x0, a, 4);
-        std::memcpy(&y0, b, 4);
-        std::memcpy(&x1, a + n - 4, 4);
-        std::memcpy(&y1, b + n - 4, 4);
-        return x0 == y0 && x1 == y1;
-    }
-    if (n >= 2) {
-        uint16_t x0, y0, x1, y1;
-        std::memcpy(&x0, a, 2);
-        std::memcpy(&y0, b, 2);
-        std::memcpy(&x1, a + n - 2, 2);
-        std::memcpy(&y1, b + n - 2, 2);
-        return x0 == y0 && x1 == y1;
-    }
+    if (n >= 4) return same_ends<uint32_t>(a, b, n);
+    if (n >= 2) return same_ends<uint16_t>(a, b, n);
     return n == 0 || *a == static_cast<u8>(*b);
 }
 
