@@ -964,12 +964,12 @@ inline bool read_value(const Text &t, const Field &f, size_t i, char *at, size_t
             if (t.s[i] != '"') return false;
             *after = read_string(t, i, at, f.size) + 1;
             return true;
-        case Kind::U32List:
-            if (!read_list(t, i, at, f.size)) return false;
-            *after = skip_value(t, i);
-            return true;
+        case Kind::U32List:  // read below
+            break;
     }
-    return false;
+    if (!read_list(t, i, at, f.size)) return false;
+    *after = skip_value(t, i);
+    return true;
 }
 
 bool read_field(const Text &t, const Field &f, size_t i, char *at) {
