@@ -1,9 +1,9 @@
 // What the shared library does on the way through cJSON's tree, reached
 // through its exports: integer literals of 15 digits and more in a text
 // that the direct reader leaves to cJSON, texts nested deeper than the
-// walk's local stack, the allocation failures of that walk and of
-// cJSON_AddIntToObject; and upper-case hex digits in \u escapes, which the
-// direct reader reads as cJSON does.
+// walk's local stack, the allocation failures of that walk, of
+// cJSON_CreateInt and of cJSON_AddIntToObject; and upper-case hex digits in
+// \u escapes, which the direct reader reads as cJSON does.
 #include <gtest/gtest.h>
 
 #include <cstring>
@@ -145,6 +145,34 @@ TEST(AddIntToObject, GivesNullAndAddsNothingWhenTheKeyCannotBeCopied) {
         }
         EXPECT_EQ(obj.p->child, nullptr) << c.value;
         EXPECT_EQ(print_compact(obj.p), "{}") << c.value;
+    }
+}
+
+TEST(CreateInt, GivesNullAndAddIntToObjectAddsNothingWhenTheItemCannotBeAllocated) {
+    // A number item is one allocation; a raw item two, the item and its text.
+    const struct {
+        int64_t value;
+        long allocations;
+    } cases[] = {{-5, 1}, {-1000000000000000LL, 2}};
+    for (const auto &c : cases) {
+        {
+            CjsonFaults count_only(-1);
+            Tree item(cJSON_CreateInt(c.value));
+            ASSERT_NE(item.p, nullptr) << c.value;
+            EXPECT_EQ(CjsonFaults::allocations(), c.allocations) << c.value;
+        }
+        for (long failing = 0; failing < c.allocations; ++failing) {
+            Tree obj(cJSON_CreateObject());
+            {
+                CjsonFaults faults(failing, true);
+                EXPECT_EQ(cJSON_CreateInt(c.value), nullptr) << c.value << " " << failing;
+            }
+            {
+                CjsonFaults faults(failing, true);
+                EXPECT_EQ(cJSON_AddIntToObject(obj.p, "k", c.value), nullptr) << c.value << " " << failing;
+            }
+            EXPECT_EQ(obj.p->child, nullptr) << c.value << " " << failing;
+        }
     }
 }
 
