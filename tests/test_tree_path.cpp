@@ -193,4 +193,36 @@ TEST(DirectReader, ReadsUpperCaseHexDigitsOfAUnicodeEscapeAsLowerCaseOnesAndAsTh
     EXPECT_EQ(std::memcmp(&by_upper, &by_tree, sizeof by_upper), 0);
 }
 
+TEST(DirectReader, ReadsObjectsNestedAsDeepAsCJSONAllowsAndLeavesDeeperOnesToItsRefusal) {
+    bool read = false, refused = false;
+    for (int levels : {998, 999, 1000}) {
+        // The record's object holds `levels` more, one in the other.
+        std::string nested = "{}";
+        for (int i = 1; i < levels; ++i) nested = "{\"Zz\":" + nested + "}";
+        const std::string text = "{\"EncodeWorkMode\": 7, \"Zz\": " + nested + "}";
+        Tree tree(cJSON_Parse(text.c_str()));
+        const std::string reason = parse_reason(text.c_str());
+        AdvancedParameter rec = pattern<AdvancedParameter>();
+        StderrCapture err;
+        const int rc = j2s_AdvancedParameter(text.c_str(), &rec);
+        const std::string printed = err.text();
+        if (tree.p != nullptr) {
+            read = true;
+            EXPECT_EQ(rc, 0) << levels;
+            EXPECT_EQ(rec.EncodeWorkMode, 7u) << levels;
+            EXPECT_EQ(printed, "") << levels;
+        } else {
+            refused = true;
+            EXPECT_EQ(rc, -2) << levels;
+            const AdvancedParameter untouched = pattern<AdvancedParameter>();
+            EXPECT_EQ(std::memcmp(&rec, &untouched, sizeof rec), 0) << levels;
+            EXPECT_EQ(printed, text_diag(lines_of("AdvancedParameter").j2s, "j2s_AdvancedParameter",
+                                         "cJSON_Parse(" + text + ") failed! reason: " + reason + "\n"))
+                << levels;
+        }
+    }
+    EXPECT_TRUE(read);
+    EXPECT_TRUE(refused);
+}
+
 }  // namespace
