@@ -692,4 +692,39 @@ TEST(AllocationFaults, the_replacement_sees_the_library_cjson_and_the_c_library)
     EXPECT_TRUE(r.fired);
 }
 
+// The shared library's own tree path (the loops above reach the tree path of
+// the reference library): a text that the direct reader leaves to cJSON (a
+// literal of 63 characters), nested deeper than the local stack of the walk
+// that marks integer items, with an integer past 10^15.  Every allocation
+// that fails, cJSON's, the walk's stack moved to the heap and the integer's
+// decimal text, gives -2 with the record untouched and leaks nothing.
+TEST(AllocationFaults, the_librarys_own_tree_path_gives_minus_2_untouched_at_every_fault) {
+    std::string deep = "[0]";
+    for (int i = 0; i < 40; ++i) deep = "[" + deep + ",1]";
+    const std::string text = "{\"Deep\": " + deep + ", \"EncodeWorkMode\": 9007199254740993, \"Pad\": 0." +
+                             std::string(60, '0') + "1}";
+    const AdvancedParameter before = pattern<AdvancedParameter>();
+    bool stack = false, integer = false;
+    long n = 1;
+    for (;; ++n) {
+        AdvancedParameter rec = before;
+        int rc = -99;
+        FaultRun r = under_fault(n, [&] { rc = j2s_AdvancedParameter(text.c_str(), &rec); });
+        SCOPED_TRACE("allocation " + std::to_string(n));
+        ASSERT_EQ(r.live, 0) << "leaked";
+        if (!r.fired) {
+            EXPECT_EQ(rc, 0);
+            EXPECT_EQ(rec.EncodeWorkMode, 1u);  // the low 32 bits of 2^53 + 1
+            break;
+        }
+        EXPECT_EQ(rc, -2);
+        EXPECT_EQ(std::memcmp(&rec, &before, sizeof rec), 0);
+        stack |= r.owner == Owner::Library && r.failed_size == (CJSON_NESTING_LIMIT + 8) * sizeof(cJSON *);
+        integer |= r.failed_size == sizeof "9007199254740993";
+    }
+    EXPECT_GT(n, 40);
+    EXPECT_TRUE(stack) << "the walk's stack was not moved to the heap";
+    EXPECT_TRUE(integer) << "no decimal text of an integer item was allocated";
+}
+
 }  // namespace

@@ -491,4 +491,29 @@ INSTANTIATE_TEST_SUITE_P(Registry, KeyedArrayType, ::testing::ValuesIn(types_whe
 INSTANTIATE_TEST_SUITE_P(Registry, KeywordType, ::testing::ValuesIn(types_where(has_keyword)), name_of);
 INSTANTIATE_TEST_SUITE_P(Registry, FileType, ::testing::ValuesIn(types_where(has_file)), name_of);
 
+// The registry's keyword hook of a type read whole and strictly (a type
+// without keys): the whole record, as the type's reader gives it, and
+// nothing once a member is missing.
+TEST(KeywordHooks, WholeRecordReaderReadsEveryFieldAndRefusesAMissingMember) {
+    int checked = 0;
+    for (const TypeInfo *t : all_types()) {
+        const s2j::TypeHooks *h = t->hooks;
+        if (h->keyword == nullptr || t->desc->key_count != 0) continue;
+        ASSERT_EQ(h->keyword_size, t->desc->size) << t->name;
+        std::vector<char> rec(t->desc->size, 0), by_hook(t->desc->size, 0), by_reader(t->desc->size, 0);
+        fill_boundary(t, rec.data(), 5);
+        Tree tree(h->emit(rec.data()));
+        EXPECT_EQ(h->keyword(by_hook.data(), tree.p), 1) << t->name;
+        EXPECT_EQ(h->read(by_reader.data(), tree.p), 1) << t->name;
+        EXPECT_EQ(by_hook, by_reader) << t->name;
+        EXPECT_TRUE(same_values(t, by_hook.data(), rec.data())) << t->name;
+        const s2j::Field &last = t->desc->fields[t->desc->field_count - 1];
+        cJSON_DeleteItemFromObjectCaseSensitive(tree.p, last.key);
+        std::vector<char> partial(t->desc->size, 0);
+        EXPECT_EQ(h->keyword(partial.data(), tree.p), 0) << t->name;
+        ++checked;
+    }
+    EXPECT_GT(checked, 0);
+}
+
 }  // namespace

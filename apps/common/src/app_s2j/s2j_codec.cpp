@@ -152,10 +152,10 @@ bool read_field(const Field &f, char *at, const cJSON *m) {
             if (!cJSON_IsString(m)) return false;
             store_string(at, f.size, m);
             return true;
-        case Kind::U32List:
-            return read_list(at, f.size, m);
+        case Kind::U32List:  // read below
+            break;
     }
-    return false;
+    return read_list(at, f.size, m);
 }
 
 // Reads the member of json that a key field names into at, as the keyword

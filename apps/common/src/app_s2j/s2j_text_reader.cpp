@@ -1164,12 +1164,12 @@ S2J_COLD bool read_value(const Text &t, const Field &f, size_t i, char *at, size
             if (t.s[i] != '"') return false;
             *after = read_string(t, i, at, f.size) + 1;
             return true;
-        case Kind::U32List:
-            if (!read_list(t, i, at, f.size)) return false;
-            *after = skip_value(t, i);
-            return true;
+        case Kind::U32List:  // read below
+            break;
     }
-    return false;
+    if (!read_list(t, i, at, f.size)) return false;
+    *after = skip_value(t, i);
+    return true;
 }
 
 S2J_COLD bool read_field(const Text &t, const Field &f, size_t i, char *at) {

@@ -256,8 +256,9 @@ inline char *put_i32(char *o, int32_t v) {
     return put_u32(o, 0u - static_cast<uint32_t>(v));
 }
 
-// A key of n bytes (n < 256; keys are short): whole words, the last one
-// overlapping the one before.
+// A key of n bytes (0 < n < 256: a member's name; keys are short): whole
+// words, the last one overlapping the one before; below four bytes the
+// first, middle and last byte, which cover one to three bytes.
 inline char *put_key(char *o, const char *k, uint32_t n) {
     if (n > 16) {
         uint32_t i = 0;
@@ -269,11 +270,10 @@ inline char *put_key(char *o, const char *k, uint32_t n) {
     } else if (n >= 4) {
         std::memcpy(o, k, 4);
         std::memcpy(o + n - 4, k + n - 4, 4);
-    } else if (n >= 2) {
-        std::memcpy(o, k, 2);
-        std::memcpy(o + n - 2, k + n - 2, 2);
-    } else if (n == 1) {
-        *o = *k;
+    } else {
+        o[0] = k[0];
+        o[n / 2] = k[n / 2];
+        o[n - 1] = k[n - 1];
     }
     return o + n;
 }
@@ -388,15 +388,15 @@ char *write_text(const TypeDesc *d, const void *recs, uint32_t count, bool as_ar
     // and the slack of the string copies.
     size_t per_record = formatted ? d->text_bytes_formatted + d->field_count + 1 : d->text_bytes;
     size_t size = 1 + kSlack + 2 + static_cast<size_t>(count - 1) * (formatted ? 2 : 1);
+    // A size past size_t (on a 32-bit target) is refused as memory is.
     size_t fixed;
-    if (__builtin_mul_overflow(per_record, static_cast<size_t>(count), &fixed) ||
-        __builtin_add_overflow(size, fixed, &size))
-        return nullptr;
+    bool overflow = __builtin_mul_overflow(per_record, static_cast<size_t>(count), &fixed) ||
+                    __builtin_add_overflow(size, fixed, &size);
     if (d->string_fields != 0)
-        for (uint32_t i = 0; i < count; ++i)
-            if (__builtin_add_overflow(size, record_string_bytes(d, base + static_cast<size_t>(i) * d->size), &size))
-                return nullptr;
-    char *text = static_cast<char *>(cJSON_malloc(size));
+        for (uint32_t i = 0; i < count && !overflow; ++i)
+            overflow = __builtin_add_overflow(size, record_string_bytes(d, base + static_cast<size_t>(i) * d->size),
+                                              &size);
+    char *text = overflow ? nullptr : static_cast<char *>(cJSON_malloc(size));
     if (text == nullptr) return nullptr;
     char *end = formatted ? put_records<true>(text, d, base, count) : put_records<false>(text, d, base, count);
     *end = '\0';
