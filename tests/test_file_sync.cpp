@@ -1,6 +1,7 @@
 // The writers sync the file's descriptor before they close the stream, on
-// success and after a short write alike.  fsync and fclose are interposed
-// here to record the order of the calls the library makes.
+// success and after a short write alike; the readers close the descriptor
+// they read on every path.  fsync, fclose and close are interposed here to
+// record the order of the calls the library makes.
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -30,6 +31,13 @@ extern "C" int fclose(FILE *f) {
     static Fn real = reinterpret_cast<Fn>(dlsym(RTLD_NEXT, "fclose"));
     if (g_recording) g_calls.push_back("fclose");
     return real(f);
+}
+
+extern "C" int close(int fd) {
+    using Fn = int (*)(int);
+    static Fn real = reinterpret_cast<Fn>(dlsym(RTLD_NEXT, "close"));
+    if (g_recording) g_calls.push_back("close");
+    return real(fd);
 }
 
 namespace {
@@ -70,10 +78,12 @@ TEST(FileSync, ReadersCloseTheFileOnEveryPath) {
     g_recording = true;
     int bad = f2s_NTPParameter((dir + "/bad.json").c_str(), &p);
     int missing = f2s_NTPParameter((dir + "/none.json").c_str(), &p);
+    int directory = f2s_NTPParameter(dir.c_str(), &p);
     g_recording = false;
     EXPECT_EQ(bad, -2);
     EXPECT_EQ(missing, -15);
-    EXPECT_EQ(g_calls, (std::vector<std::string>{"fclose"}));
+    EXPECT_EQ(directory, -15);
+    EXPECT_EQ(g_calls, (std::vector<std::string>{"close", "close"}));
 }
 
 }  // namespace
