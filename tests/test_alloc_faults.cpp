@@ -32,15 +32,9 @@
 #include <string>
 #include <vector>
 
+#include "libc_alloc.h"
 #include "registry.h"
 #include "support.h"
-
-extern "C" {
-void *__libc_malloc(size_t);
-void *__libc_calloc(size_t, size_t);
-void *__libc_realloc(void *, size_t);
-void __libc_free(void *);
-}
 
 namespace {
 
