@@ -9,6 +9,8 @@
 #   expect_run WHAT RC PART COMMAND...
 #                                the command exits with RC and its output
 #                                (both streams) holds PART; leaves $out, $rc
+#   expect_output WHAT RC TEXT COMMAND...
+#                                the same, with the output exactly TEXT
 #   check_generated FILE HOW COMMAND...
 #                                exit 0 when FILE is what COMMAND writes now;
 #                                else 1, saying "FILE is out of date: HOW"
@@ -34,6 +36,14 @@ expect_run() {
   rc=$?
   expect_eq "$rc" "$want" "$what"
   expect_contains "$out" "$part" "$what: the message"
+}
+expect_output() {
+  local what=$1 want=$2 text=$3
+  shift 3
+  out=$("$@" 2>&1)
+  rc=$?
+  expect_eq "$rc" "$want" "$what"
+  expect_eq "$out" "$text" "$what: the output"
 }
 check_generated() {
   local file=$1 how=$2
