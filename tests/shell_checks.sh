@@ -29,21 +29,16 @@ scratch_dir() {
   tmp=$(mktemp -d)
   trap 'rm -rf "$tmp"' EXIT
 }
-expect_run() {
-  local what=$1 want=$2 part=$3
-  shift 3
+expect_run() { run_and_expect contains "the message" "$@"; }
+expect_output() { run_and_expect eq "the output" "$@"; }
+# run_and_expect eq|contains LABEL WHAT RC TEXT COMMAND...: the two above.
+run_and_expect() {
+  local how=$1 label=$2 what=$3 want=$4 text=$5
+  shift 5
   out=$("$@" 2>&1)
   rc=$?
   expect_eq "$rc" "$want" "$what"
-  expect_contains "$out" "$part" "$what: the message"
-}
-expect_output() {
-  local what=$1 want=$2 text=$3
-  shift 3
-  out=$("$@" 2>&1)
-  rc=$?
-  expect_eq "$rc" "$want" "$what"
-  expect_eq "$out" "$text" "$what: the output"
+  "expect_$how" "$out" "$text" "$what: $label"
 }
 check_generated() {
   local file=$1 how=$2

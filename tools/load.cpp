@@ -63,8 +63,8 @@ int usage_error(const Command &cmd, const std::string &why) {
     return kExitUsage;
 }
 
-bool split_options(const Command &cmd, const std::vector<std::string> &args, std::initializer_list<Flag> flags,
-                   std::vector<std::string> *rest, int *status) {
+int split_options(const Command &cmd, const std::vector<std::string> &args, std::initializer_list<Flag> flags,
+                  std::vector<std::string> *rest) {
     for (const std::string &a : args) {
         const Flag *named = nullptr;
         for (const Flag &f : flags)
@@ -72,13 +72,12 @@ bool split_options(const Command &cmd, const std::vector<std::string> &args, std
         if (named != nullptr) {
             *named->set = true;
         } else if (a.size() > 1 && a[0] == '-') {
-            *status = usage_error(cmd, "unknown option '" + a + "'");
-            return false;
+            return usage_error(cmd, "unknown option '" + a + "'");
         } else {
             rest->push_back(a);
         }
     }
-    return true;
+    return kExitOk;
 }
 
 const s2j::TypeInfo *find_type_or_report(const std::string &name) {

@@ -69,10 +69,10 @@ struct Flag {
     bool *set;
 };
 // Sets the flags that args name and puts every other argument in *rest, in
-// order.  False, with *status the usage error "unknown option 'A'", at the
-// first argument A longer than "-" that starts with '-' and is no flag.
-bool split_options(const Command &cmd, const std::vector<std::string> &args, std::initializer_list<Flag> flags,
-                   std::vector<std::string> *rest, int *status);
+// order; kExitOk.  At the first argument A longer than "-" that starts with
+// '-' and is no flag: the usage error "unknown option 'A'" and its status.
+int split_options(const Command &cmd, const std::vector<std::string> &args, std::initializer_list<Flag> flags,
+                  std::vector<std::string> *rest);
 // The type of that name, or null after printing the unknown-type message.
 const s2j::TypeInfo *find_type_or_report(const std::string &name);
 // The whole file into *text; false after printing why it cannot be read

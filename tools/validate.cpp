@@ -837,11 +837,9 @@ int validate_file(const s2j::TypeInfo &t, const std::string &path, bool update, 
 int run_validate(const std::vector<std::string> &args) {
     bool update = false, quiet = false, json = false;
     std::vector<std::string> rest;
-    int usage = kExitOk;
-    if (!split_options(kValidateCommand, args,
-                       {{"--update", nullptr, &update}, {"--quiet", "-q", &quiet}, {"--json", nullptr, &json}}, &rest,
-                       &usage))
-        return usage;
+    const std::initializer_list<Flag> flags = {
+        {"--update", nullptr, &update}, {"--quiet", "-q", &quiet}, {"--json", nullptr, &json}};
+    if (int usage = split_options(kValidateCommand, args, flags, &rest)) return usage;
     if (rest.size() < 2) return usage_error(kValidateCommand, "'validate' takes TYPE and FILE");
     const s2j::TypeInfo *t = find_type_or_report(rest[0]);
     if (t == nullptr) return kExitUsage;
