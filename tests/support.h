@@ -269,6 +269,19 @@ void expect_array_file_round_trip(int (*s2f_array)(const char *, const T *, uint
     EXPECT_EQ(std::memcmp(back.data(), arr, sizeof arr), 0);
 }
 
+// The text of a record array read by j2s_array into room for `room` records
+// (zeroed first): status 0 and `count` records.  Returns the whole room.
+template <class T>
+std::vector<T> read_array_back(int (*j2s_array)(const char *, T *, uint32_t *), const char *text, uint32_t room,
+                               uint32_t count) {
+    std::vector<T> back(room);
+    std::memset(static_cast<void *>(back.data()), 0, room * sizeof(T));
+    uint32_t n = room;
+    EXPECT_EQ(j2s_array(text, back.data(), &n), 0) << text;
+    EXPECT_EQ(n, count) << text;
+    return back;
+}
+
 }  // namespace testing_support
 
 #endif

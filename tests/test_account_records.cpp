@@ -199,12 +199,7 @@ TEST(DeleteUserParameter, C2sRefusesATreeThatIsNotAnObject) {
 // ---- The user table in a file ----------------------------------------------------
 
 TEST(CreateUserParameter, UserTableIsSavedAndLoadedAsAnArrayFile) {
-    CreateUserParameter users[2] = {};
-    std::strcpy(users[0].UserName, "admin");
-    std::strcpy(users[0].Password, "21232f297a57a5a743894a0e4a801fc3");
-    users[0].MD5Password = 1;
-    std::strcpy(users[1].UserName, "viewer");
-    std::strcpy(users[1].Password, "plain");
+    CreateUserParameter users[2] = {{"admin", "21232f297a57a5a743894a0e4a801fc3", 1}, {"viewer", "plain", 0}};
     const std::string path = temp_dir() + "/users.json";
     ASSERT_EQ(s2f_array_CreateUserParameter(path.c_str(), users, 2), 0);
     Text want(s2j_array_CreateUserParameter(users, 2, 1));

@@ -611,17 +611,14 @@ TEST(VideoEncodeParameter, ArrayOfThreeWrittenAndReadBackKeepsKeysAndCropOffsetB
     }
     Text text(s2j_array_VideoEncodeParameter(a, 3, 1));
     ASSERT_NE(text.p, nullptr);
-    VideoEncodeParameter b[3] = {};
-    uint32_t n = 3;
-    ASSERT_EQ(j2s_array_VideoEncodeParameter(text.p, b, &n), 0);
-    EXPECT_EQ(n, 3u);
+    const std::vector<VideoEncodeParameter> b = read_array_back(j2s_array_VideoEncodeParameter, text.p, 3, 3);
     for (uint32_t i = 0; i < 3; ++i) {
         EXPECT_EQ(b[i].Channel, 10 + i);
         EXPECT_EQ(b[i].StreamIndex, 20 + i);
         EXPECT_EQ(b[i].CropOffsetBase, 1000 * (i + 1));
         EXPECT_EQ(b[i].FramerateInteger, 24 + i);
     }
-    EXPECT_EQ(std::memcmp(a, b, sizeof a), 0);
+    EXPECT_EQ(std::memcmp(a, b.data(), sizeof a), 0);
 }
 
 TEST(VideoEncodeParameter, CodecProfileAndBitrateControlOf64OrMoreAreStoredAsFirst63) {

@@ -276,9 +276,7 @@ TEST(StorageDeviceStatus, CapacitiesAbove2147483647AreEmittedAsPositiveNumbers) 
     Text text(s2j_array_StorageDeviceStatus(&s, 1, 0));
     EXPECT_NE(text.str().find("\"TotalCapacity\":4294967295,\"FreeCapacity\":2147483648,"), std::string::npos)
         << text.str();
-    StorageDeviceStatus back = {};
-    uint32_t n = 1;
-    ASSERT_EQ(j2s_array_StorageDeviceStatus(text.p, &back, &n), 0);
+    const StorageDeviceStatus back = read_array_back(j2s_array_StorageDeviceStatus, text.p, 1, 1)[0];
     EXPECT_EQ(back.TotalCapacity, 4294967295u);
     EXPECT_EQ(back.FreeCapacity, 2147483648u);
 }
@@ -428,9 +426,7 @@ TEST(RecordParameter, DiskFullActionAndModeOfAllOnesAreEmittedAs4294967295) {
     Text text(s2j_array_RecordParameter(&r, 1, 0));
     EXPECT_NE(text.str().find("\"Mode\":4294967295,"), std::string::npos) << text.str();
     EXPECT_NE(text.str().find("\"DiskFullAction\":4294967295}"), std::string::npos) << text.str();
-    RecordParameter back = {};
-    uint32_t n = 1;
-    ASSERT_EQ(j2s_array_RecordParameter(text.p, &back, &n), 0);
+    const RecordParameter back = read_array_back(j2s_array_RecordParameter, text.p, 1, 1)[0];
     EXPECT_EQ(back.Mode, 4294967295u);
     EXPECT_EQ(back.DiskFullAction, 4294967295u);
 }
@@ -514,11 +510,7 @@ TEST(RecordStatus, TextIsIdenticalToThatOfASnapshotStatusWithEqualValues) {
 TEST(RecordStatus, SurvivesARoundTripUnchanged) {
     RecordStatus a[2] = {{0, 1, 702114}, {4294967295u, 4294967295u, 4294967295u}};
     Text text(s2j_array_RecordStatus(a, 2, 1));
-    RecordStatus b[2] = {};
-    uint32_t n = 2;
-    ASSERT_EQ(j2s_array_RecordStatus(text.p, b, &n), 0);
-    EXPECT_EQ(n, 2u);
-    EXPECT_EQ(std::memcmp(a, b, sizeof a), 0);
+    EXPECT_EQ(std::memcmp(a, read_array_back(j2s_array_RecordStatus, text.p, 2, 2).data(), sizeof a), 0);
 }
 
 TEST(RecordStatus, SingleKeyReaderReadsTheChannel) {
@@ -586,10 +578,7 @@ TEST(SnapshotParameter, FramerateOfMinusOneAndQualityAndFormatOfAllOnesKeepTheir
     EXPECT_NE(text.str().find("\"Framerate\":-1,"), std::string::npos) << text.str();
     EXPECT_NE(text.str().find("\"DiskGroupID\":-1,"), std::string::npos) << text.str();
     EXPECT_NE(text.str().find("\"ImageQuality\":4294967295}"), std::string::npos) << text.str();
-    SnapshotParameter back = {};
-    uint32_t n = 1;
-    ASSERT_EQ(j2s_array_SnapshotParameter(text.p, &back, &n), 0);
-    EXPECT_EQ(std::memcmp(&back, &p, sizeof p), 0);
+    EXPECT_EQ(std::memcmp(read_array_back(j2s_array_SnapshotParameter, text.p, 1, 1).data(), &p, sizeof p), 0);
 }
 
 TEST(SnapshotResult, RetentionTimeOfMinusOneIsEmittedAsMinusOne) {
