@@ -269,6 +269,16 @@ void expect_array_file_round_trip(int (*s2f_array)(const char *, const T *, uint
     EXPECT_EQ(std::memcmp(back.data(), arr, sizeof arr), 0);
 }
 
+// The keyed update `request` applied by j2s_array_update to the `room`
+// records at `arr`: status 0 and `count` updates applied.
+template <class T>
+void expect_update_applies(int (*update)(const char *, T *, uint32_t *), const char *request, T *arr, uint32_t room,
+                           uint32_t count) {
+    uint32_t n = room;
+    EXPECT_EQ(update(request, arr, &n), 0) << request;
+    EXPECT_EQ(n, count) << request;
+}
+
 // The text of a record array read by j2s_array into room for `room` records
 // (zeroed first): status 0 and `count` records.  Returns the whole room.
 template <class T>

@@ -222,9 +222,8 @@ TEST(KeyedUpdate, StringKeyOf70CharactersMatchesTheRecordHoldingItsFirst63) {
 TEST(KeyedUpdate, StringKeysAreComparedWithLetterCase) {
     NetworkLANParameter lan[1] = {};
     std::strcpy(lan[0].InterfaceName, "eth0");
-    uint32_t n = 1;
-    EXPECT_EQ(j2s_array_update_NetworkLANParameter("[{\"InterfaceName\": \"ETH0\", \"MTUSize\": 1400}]", lan, &n), 0);
-    EXPECT_EQ(n, 0u);
+    expect_update_applies(j2s_array_update_NetworkLANParameter, "[{\"InterfaceName\": \"ETH0\", \"MTUSize\": 1400}]",
+                          lan, 1, 0);
     EXPECT_EQ(lan[0].MTUSize, 0);
 }
 
@@ -234,12 +233,9 @@ TEST(KeyedUpdate, TwoFieldKeyWithMatchingChannelButOtherStreamIndexIsSkipped) {
     enc[0].StreamIndex = 0;
     enc[1].Channel = 1;
     enc[1].StreamIndex = 1;
-    uint32_t n = 2;
-    EXPECT_EQ(j2s_array_update_VideoEncodeParameter("[{\"Channel\": 1, \"StreamIndex\": 2, \"GOP\": 50}, "
-                                                    "{\"Channel\": 1, \"StreamIndex\": 1, \"GOP\": 25}]",
-                                                    enc, &n),
-              0);
-    EXPECT_EQ(n, 1u);
+    expect_update_applies(j2s_array_update_VideoEncodeParameter,
+                          "[{\"Channel\": 1, \"StreamIndex\": 2, \"GOP\": 50}, {\"Channel\": 1,"
+                          " \"StreamIndex\": 1, \"GOP\": 25}]", enc, 2, 1);
     EXPECT_EQ(enc[0].GOP, 0u);
     EXPECT_EQ(enc[1].GOP, 25u);
 }

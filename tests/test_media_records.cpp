@@ -523,11 +523,8 @@ TEST(VideoInputParameter, KeyedUpdateByChannelChangesOnlyThatChannel) {
         a[i].Channel = i;
         a[i].Brightness = 50;
     }
-    uint32_t n = 3;
-    ASSERT_EQ(j2s_array_update_VideoInputParameter(
-                  "[{\"Channel\":2,\"Brightness\":70,\"ScanningFrequencyInteger\":30}]", a, &n),
-              0);
-    EXPECT_EQ(n, 1u);
+    expect_update_applies(j2s_array_update_VideoInputParameter,
+                          "[{\"Channel\":2,\"Brightness\":70,\"ScanningFrequencyInteger\":30}]", a, 3, 1);
     EXPECT_EQ(a[0].Brightness, 50u);
     EXPECT_EQ(a[1].Brightness, 50u);
     EXPECT_EQ(a[2].Brightness, 70u);
@@ -696,9 +693,8 @@ TEST(VideoEncodeParameter, KeyedUpdateSkipsElementWhoseStreamIndexMatchesNoRecor
     a[0].Channel = 0;
     a[1].Channel = 0;
     a[1].StreamIndex = 1;
-    uint32_t n = 2;
-    ASSERT_EQ(j2s_array_update_VideoEncodeParameter("[{\"Channel\":0,\"StreamIndex\":2,\"GOP\":50}]", a, &n), 0);
-    EXPECT_EQ(n, 0u);
+    expect_update_applies(j2s_array_update_VideoEncodeParameter, "[{\"Channel\":0,\"StreamIndex\":2,\"GOP\":50}]",
+                          a, 2, 0);
     EXPECT_EQ(a[0].GOP, 0u);
     EXPECT_EQ(a[1].GOP, 0u);
 }
@@ -765,11 +761,8 @@ void osd_items(VideoEncodeOSDParameter (&a)[4]) {
 TEST(VideoEncodeOSDParameter, KeyedUpdateWithChannelAndIndexUpdatesOnlyTheItemWithBoth) {
     VideoEncodeOSDParameter a[4];
     osd_items(a);
-    uint32_t n = 4;
-    ASSERT_EQ(j2s_array_update_VideoEncodeOSDParameter(
-                  "[{\"Channel\":1,\"Index\":0,\"Visible\":0,\"Content\":\"LIVE\"}]", a, &n),
-              0);
-    EXPECT_EQ(n, 1u);
+    expect_update_applies(j2s_array_update_VideoEncodeOSDParameter,
+                          "[{\"Channel\":1,\"Index\":0,\"Visible\":0,\"Content\":\"LIVE\"}]", a, 4, 1);
     for (uint32_t i = 0; i < 4; ++i) EXPECT_EQ(a[i].Visible, i == 2 ? 0 : 1) << i;
     EXPECT_STREQ(a[2].Content, "LIVE");
 }
@@ -788,12 +781,9 @@ TEST(VideoEncodeOSDParameter, KeyedUpdateWithChannelAloneFailsWithKeywordMessage
 TEST(VideoEncodeOSDParameter, IndexZeroAndOneOfOneChannelAndSameIndexOnTwoChannelsAreDistinct) {
     VideoEncodeOSDParameter a[4];
     osd_items(a);
-    uint32_t n = 4;
-    ASSERT_EQ(
-        j2s_array_update_VideoEncodeOSDParameter(
-            "[{\"Channel\":0,\"Index\":1,\"XCoordinate\":11},{\"Channel\":1,\"Index\":1,\"XCoordinate\":22}]", a, &n),
-        0);
-    EXPECT_EQ(n, 2u);
+    expect_update_applies(j2s_array_update_VideoEncodeOSDParameter,
+                          "[{\"Channel\":0,\"Index\":1,\"XCoordinate\":11},{\"Channel\":1,\"Index\":1,"
+                          "\"XCoordinate\":22}]", a, 4, 2);
     EXPECT_EQ(a[0].XCoordinate, 0u);
     EXPECT_EQ(a[1].XCoordinate, 11u);
     EXPECT_EQ(a[2].XCoordinate, 0u);
@@ -1022,10 +1012,8 @@ TEST(AudioEncodeParameter, KeyedUpdateByChannelChangesCodecOfThatChannelOnly) {
     a[1].Channel = 1;
     std::strcpy(a[0].Codec, "AAC-LC");
     std::strcpy(a[1].Codec, "AAC-LC");
-    uint32_t n = 2;
-    ASSERT_EQ(
-        j2s_array_update_AudioEncodeParameter("[{\"Channel\":1,\"Codec\":\"G.711A\",\"Samplerate\":8000}]", a, &n), 0);
-    EXPECT_EQ(n, 1u);
+    expect_update_applies(j2s_array_update_AudioEncodeParameter,
+                          "[{\"Channel\":1,\"Codec\":\"G.711A\",\"Samplerate\":8000}]", a, 2, 1);
     EXPECT_STREQ(a[0].Codec, "AAC-LC");
     EXPECT_STREQ(a[1].Codec, "G.711A");
     EXPECT_EQ(a[1].Samplerate, 8000u);
@@ -1035,10 +1023,8 @@ TEST(AudioInputParameter, KeyedUpdateByChannelLeavesOtherChannels) {
     AudioInputParameter a[2] = {};
     a[0].Channel = 5;
     a[1].Channel = 6;
-    uint32_t n = 2;
-    ASSERT_EQ(j2s_array_update_AudioInputParameter("[{\"Channel\":5,\"InterfaceName\":\"MIC1\",\"Gain\":-6}]", a, &n),
-              0);
-    EXPECT_EQ(n, 1u);
+    expect_update_applies(j2s_array_update_AudioInputParameter,
+                          "[{\"Channel\":5,\"InterfaceName\":\"MIC1\",\"Gain\":-6}]", a, 2, 1);
     EXPECT_STREQ(a[0].InterfaceName, "MIC1");
     EXPECT_EQ(a[0].Gain, -6);
     EXPECT_STREQ(a[1].InterfaceName, "");

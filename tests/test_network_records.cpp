@@ -288,13 +288,9 @@ TEST(NetworkLANParameter, ArraysOfRecordsWithThe16BitFieldRoundTripElementByElem
 
 TEST(NetworkLANParameter, KeyedUpdateMatchesTheInterfaceByName) {
     NetworkLANParameter arr[3] = {lan("eth0", 1500), lan("eth1", 1500), lan("wlan0", 1500)};
-    uint32_t n = 3;
-    ASSERT_EQ(j2s_array_update_NetworkLANParameter(
-                  "[{\"InterfaceName\":\"eth1\",\"IPv4Address\":\"10.0.0.7\",\"MTUSize\":9000},"
-                  "{\"InterfaceName\":\"eth9\",\"MTUSize\":1280}]",
-                  arr, &n),
-              0);
-    EXPECT_EQ(n, 1u);
+    expect_update_applies(j2s_array_update_NetworkLANParameter,
+                          "[{\"InterfaceName\":\"eth1\",\"IPv4Address\":\"10.0.0.7\",\"MTUSize\":9000},"
+                          "{\"InterfaceName\":\"eth9\",\"MTUSize\":1280}]", arr, 3, 1);
     EXPECT_STREQ(arr[1].IPv4Address, "10.0.0.7");
     EXPECT_EQ(arr[1].MTUSize, 9000);
     EXPECT_EQ(arr[0].MTUSize, 1500);
@@ -307,9 +303,7 @@ TEST(NetworkLANParameter, KeyedUpdateWithNameOf64OrMoreCharactersMatchesOnTheFir
     NetworkLANParameter arr[2] = {lan("eth0", 1500), lan(name70.c_str(), 1500)};
     ASSERT_EQ(std::strlen(arr[1].InterfaceName), 63u);
     std::string json = "[{\"InterfaceName\":\"" + name70 + "\",\"MTUSize\":1400}]";
-    uint32_t n = 2;
-    ASSERT_EQ(j2s_array_update_NetworkLANParameter(json.c_str(), arr, &n), 0);
-    EXPECT_EQ(n, 1u);
+    expect_update_applies(j2s_array_update_NetworkLANParameter, json.c_str(), arr, 2, 1);
     EXPECT_EQ(arr[1].MTUSize, 1400);
     EXPECT_EQ(arr[0].MTUSize, 1500);
 
@@ -326,9 +320,8 @@ TEST(NetworkLANParameter, KeyedUpdateWithNameOf64OrMoreCharactersMatchesOnTheFir
 
 TEST(NetworkLANParameter, KeyedUpdateDoesNotMatchANameThatOnlyBeginsLikeTheKey) {
     NetworkLANParameter arr[1] = {lan("eth10", 1500)};
-    uint32_t n = 1;
-    ASSERT_EQ(j2s_array_update_NetworkLANParameter("[{\"InterfaceName\":\"eth1\",\"MTUSize\":576}]", arr, &n), 0);
-    EXPECT_EQ(n, 0u);
+    expect_update_applies(j2s_array_update_NetworkLANParameter, "[{\"InterfaceName\":\"eth1\",\"MTUSize\":576}]",
+                          arr, 1, 0);
     EXPECT_EQ(arr[0].MTUSize, 1500);
 }
 
@@ -629,12 +622,9 @@ TEST(SerialPortNetworkTransferParameter, KeyedUpdateMatchesTheSecondFieldNotTheF
     std::strcpy(arr[0].InterfaceName, "COM1");
     arr[1].Enable = 1;
     std::strcpy(arr[1].InterfaceName, "COM2");
-    uint32_t n = 2;
-    ASSERT_EQ(
-        j2s_array_update_SerialPortNetworkTransferParameter(
-            "[{\"InterfaceName\":\"COM2\",\"Enable\":0,\"PeerAddress\":\"10.1.2.3\",\"PeerPort\":5002}]", arr, &n),
-        0);
-    EXPECT_EQ(n, 1u);
+    expect_update_applies(j2s_array_update_SerialPortNetworkTransferParameter,
+                          "[{\"InterfaceName\":\"COM2\",\"Enable\":0,\"PeerAddress\":\"10.1.2.3\",\"PeerPort\":5002}]",
+                          arr, 2, 1);
     EXPECT_EQ(arr[1].Enable, 0);
     EXPECT_STREQ(arr[1].PeerAddress, "10.1.2.3");
     EXPECT_EQ(arr[1].PeerPort, 5002u);
@@ -659,11 +649,8 @@ TEST(SerialPortParameter, KeyedUpdateAndArrayFilesKeepThePortSettings) {
     arr[0].Baudrate = 9600;
     std::strcpy(arr[1].InterfaceName, "COM2");
     arr[1].Baudrate = 2400;
-    uint32_t n = 2;
-    ASSERT_EQ(j2s_array_update_SerialPortParameter(
-                  "[{\"InterfaceName\":\"COM1\",\"Baudrate\":115200,\"FlowControl\":\"Hardware\"}]", arr, &n),
-              0);
-    EXPECT_EQ(n, 1u);
+    expect_update_applies(j2s_array_update_SerialPortParameter,
+                          "[{\"InterfaceName\":\"COM1\",\"Baudrate\":115200,\"FlowControl\":\"Hardware\"}]", arr, 2, 1);
     std::string path = temp_dir() + "/serial.json";
     ASSERT_EQ(s2f_array_SerialPortParameter(path.c_str(), arr, 2), 0);
     SerialPortParameter back[2] = {};

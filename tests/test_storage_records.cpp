@@ -234,9 +234,7 @@ TEST(DiskGroupParameter, KeyedUpdateWithA70CharacterNameMatchesTheDeviceHoldingI
     std::memcpy(arr[1].StorageDeviceName, chars(63, 'g').c_str(), 64);
     arr[1].GroupID = 1;
     std::string json = "[{\"StorageDeviceName\":\"" + chars(70, 'g') + "\",\"GroupID\":4}]";
-    uint32_t n = 2;
-    ASSERT_EQ(j2s_array_update_DiskGroupParameter(json.c_str(), arr, &n), 0);
-    EXPECT_EQ(n, 1u);
+    expect_update_applies(j2s_array_update_DiskGroupParameter, json.c_str(), arr, 2, 1);
     EXPECT_EQ(arr[1].GroupID, 4);
     EXPECT_EQ(arr[0].GroupID, 1);
 }
@@ -248,9 +246,8 @@ TEST(DiskGroupParameter, KeyedUpdateMovesTheNamedDeviceToAnotherGroupAndArrayFil
         std::strcpy(arr[i].StorageDeviceName, names[i]);
         arr[i].GroupID = 1;
     }
-    uint32_t n = 3;
-    ASSERT_EQ(j2s_array_update_DiskGroupParameter("[{\"StorageDeviceName\":\"sdb\",\"GroupID\":-1}]", arr, &n), 0);
-    EXPECT_EQ(n, 1u);
+    expect_update_applies(j2s_array_update_DiskGroupParameter, "[{\"StorageDeviceName\":\"sdb\",\"GroupID\":-1}]",
+                          arr, 3, 1);
     EXPECT_EQ(arr[1].GroupID, -1);
     expect_array_file_round_trip(s2f_array_DiskGroupParameter, f2s_array_DiskGroupParameter, arr, 3);
 }
@@ -477,12 +474,9 @@ TEST(RecordParameter, KeyedUpdateChangesTheChannelNamedAndCountsIt) {
         arr[i].Channel = i;
         arr[i].FileDuration = 600;
     }
-    uint32_t n = 3;
-    ASSERT_EQ(j2s_array_update_RecordParameter("[{\"Channel\":2,\"FileDuration\":1800,\"DiskGroupID\":-1},"
-                                               "{\"Channel\":9,\"FileDuration\":1}]",
-                                               arr, &n),
-              0);
-    EXPECT_EQ(n, 1u);
+    expect_update_applies(j2s_array_update_RecordParameter,
+                          "[{\"Channel\":2,\"FileDuration\":1800,\"DiskGroupID\":-1},{\"Channel\":9,"
+                          "\"FileDuration\":1}]", arr, 3, 1);
     EXPECT_EQ(arr[2].FileDuration, 1800u);
     EXPECT_EQ(arr[2].DiskGroupID, -1);
     EXPECT_EQ(arr[0].FileDuration, 600u);
@@ -633,11 +627,8 @@ TEST(SnapshotParameter, KeyedUpdateMatchesTheChannelAndArrayFilesKeepTheSettings
     arr[0].ImageQuality = 80;
     arr[1].Channel = 1;
     arr[1].ImageQuality = 80;
-    uint32_t n = 2;
-    ASSERT_EQ(j2s_array_update_SnapshotParameter(
-                  "[{\"Channel\":1,\"ImageQuality\":95,\"FilePath\":\"/mnt/disk0/snap\"}]", arr, &n),
-              0);
-    EXPECT_EQ(n, 1u);
+    expect_update_applies(j2s_array_update_SnapshotParameter,
+                          "[{\"Channel\":1,\"ImageQuality\":95,\"FilePath\":\"/mnt/disk0/snap\"}]", arr, 2, 1);
     EXPECT_EQ(arr[1].ImageQuality, 95u);
     EXPECT_EQ(arr[0].ImageQuality, 80u);
     expect_array_file_round_trip(s2f_array_SnapshotParameter, f2s_array_SnapshotParameter, arr, 2);
