@@ -279,16 +279,17 @@ void expect_update_applies(int (*update)(const char *, T *, uint32_t *), const c
     EXPECT_EQ(n, count) << request;
 }
 
-// The text of a record array read by j2s_array into room for `room` records
-// (zeroed first): status 0 and `count` records.  Returns the whole room.
+// A record array read by j2s_array from its text, or by f2s_array from the
+// file of that path, into room for `room` records (zeroed first): status 0
+// and `count` records.  Returns the whole room.
 template <class T>
-std::vector<T> read_array_back(int (*j2s_array)(const char *, T *, uint32_t *), const char *text, uint32_t room,
-                               uint32_t count) {
+std::vector<T> read_array_back(int (*read_array)(const char *, T *, uint32_t *), const char *text_or_path,
+                               uint32_t room, uint32_t count) {
     std::vector<T> back(room);
     std::memset(static_cast<void *>(back.data()), 0, room * sizeof(T));
     uint32_t n = room;
-    EXPECT_EQ(j2s_array(text, back.data(), &n), 0) << text;
-    EXPECT_EQ(n, count) << text;
+    EXPECT_EQ(read_array(text_or_path, back.data(), &n), 0) << text_or_path;
+    EXPECT_EQ(n, count) << text_or_path;
     return back;
 }
 

@@ -4,6 +4,7 @@
 
 #include <cstring>
 #include <string>
+#include <vector>
 
 #include "app_s2j.h"
 #include "registry.h"
@@ -179,11 +180,7 @@ TEST(Files, ArrayFileReadWithSmallerCapacityFillsOnlyThat) {
     std::string path = temp_dir() + "/crontab.json";
     CrontabParameter tasks[3] = {task(1), task(2), task(3)};
     ASSERT_EQ(s2f_array_CrontabParameter(path.c_str(), tasks, 3), 0);
-    CrontabParameter back[2] = {};
-    uint32_t n = 2;
-    EXPECT_EQ(f2s_array_CrontabParameter(path.c_str(), back, &n), 0);
-    EXPECT_EQ(n, 2u);
-    EXPECT_EQ(back[1].Index, 2u);
+    EXPECT_EQ(read_array_back(f2s_array_CrontabParameter, path.c_str(), 2, 2)[1].Index, 2u);
 }
 
 TEST(Files, DirectoryAsFileNameOfF2sGivesMinus15AndPrintsNothing) {

@@ -330,15 +330,12 @@ TEST(VideoInputParameter, ArrayOfTwoWrittenAndReadBackKeepsSecondElementInPlace)
     a[1].VideoLostAction = 3;
     const std::string path = temp_dir() + "/vip.json";
     ASSERT_EQ(s2f_array_VideoInputParameter(path.c_str(), a, 2), 0);
-    VideoInputParameter b[2] = {};
-    uint32_t n = 2;
-    ASSERT_EQ(f2s_array_VideoInputParameter(path.c_str(), b, &n), 0);
-    EXPECT_EQ(n, 2u);
+    const std::vector<VideoInputParameter> b = read_array_back(f2s_array_VideoInputParameter, path.c_str(), 2, 2);
     EXPECT_EQ(b[1].Channel, 7u);
     EXPECT_EQ(b[1].VideoLostAction, 3u);
     EXPECT_EQ(b[1].ScanningFrequencyDecimal, 94);
     EXPECT_EQ(b[0].VideoLostAction, 9u);
-    EXPECT_EQ(std::memcmp(a, b, sizeof a), 0);
+    EXPECT_EQ(std::memcmp(a, b.data(), sizeof a), 0);
 }
 
 TEST(VideoInputParameter, ScanningFrequencyIntegerOf65596IsReadBackAs60) {

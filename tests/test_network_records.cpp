@@ -653,10 +653,7 @@ TEST(SerialPortParameter, KeyedUpdateAndArrayFilesKeepThePortSettings) {
                           "[{\"InterfaceName\":\"COM1\",\"Baudrate\":115200,\"FlowControl\":\"Hardware\"}]", arr, 2, 1);
     std::string path = temp_dir() + "/serial.json";
     ASSERT_EQ(s2f_array_SerialPortParameter(path.c_str(), arr, 2), 0);
-    SerialPortParameter back[2] = {};
-    uint32_t m = 2;
-    ASSERT_EQ(f2s_array_SerialPortParameter(path.c_str(), back, &m), 0);
-    EXPECT_EQ(m, 2u);
+    const std::vector<SerialPortParameter> back = read_array_back(f2s_array_SerialPortParameter, path.c_str(), 2, 2);
     EXPECT_EQ(back[0].Baudrate, 115200u);
     EXPECT_STREQ(back[0].FlowControl, "Hardware");
     EXPECT_EQ(back[1].Baudrate, 2400u);
