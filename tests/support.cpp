@@ -148,6 +148,15 @@ std::string string_member(const cJSON *object, const char *key) {
     return m != nullptr && m->valuestring != nullptr ? m->valuestring : "<absent>";
 }
 
+void expect_string_key_reader_refuses(int (*get)(char *, const cJSON *), std::initializer_list<const char *> docs) {
+    char name[64] = "kept";
+    for (const char *doc : docs) {
+        Tree tree(cJSON_Parse(doc));
+        EXPECT_EQ(get(name, tree.p), 0) << doc;
+        EXPECT_STREQ(name, "kept") << doc;
+    }
+}
+
 void expect_integer_key_reader(int (*get)(uint32_t *, const cJSON *), const char *doc, uint32_t want,
                                std::initializer_list<const char *> refused) {
     uint32_t key = 0;

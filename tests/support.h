@@ -227,6 +227,23 @@ void expect_emitted_whole(cJSON *(*emit)(const T *), char (T::*member)[N], const
 void expect_integer_key_reader(int (*get)(uint32_t *, const cJSON *), const char *doc, uint32_t want,
                                std::initializer_list<const char *> refused);
 
+// Both keyword readers of a type with an integer first key refuse the
+// object `doc` (status 0), the single-key reader leaving its key as it was.
+template <class K>
+void expect_keyword_readers_refuse(int (*keyword)(K *, const cJSON *), int (*get)(uint32_t *, const cJSON *),
+                                   const char *doc) {
+    Tree tree(cJSON_Parse(doc));
+    K k = {};
+    EXPECT_EQ(keyword(&k, tree.p), 0) << doc;
+    uint32_t key = 77;
+    EXPECT_EQ(get(&key, tree.p), 0) << doc;
+    EXPECT_EQ(key, 77u) << doc;
+}
+
+// The single-key reader `get` of a string first key refuses each of `docs`
+// (status 0), leaving the key as it was.
+void expect_string_key_reader_refuses(int (*get)(char *, const cJSON *), std::initializer_list<const char *> docs);
+
 // A flag whose key has one spelling: the reader of a tree reads `key` and
 // leaves the member as it was (`kept`) for `other`, the other spelling.
 template <class T>

@@ -484,12 +484,8 @@ TEST(VideoOutputSourceParameter, UpdateFindsTheChannelAndKeywordNeedsAnInteger) 
     EXPECT_EQ(a[1].SourceIndex, -1);
     EXPECT_EQ(a[1].CacheTime, 250);
     EXPECT_EQ(a[0].CacheTime, 100);
-    VideoOutputSourceParameterKeyword k = {};
-    Tree s(cJSON_Parse("{\"Channel\":\"1\"}"));
-    EXPECT_EQ(json_to_struct_VideoOutputSourceParameterKeyword(&k, s.p), 0);
-    uint32_t ch = 9;
-    EXPECT_EQ(json_to_struct_GetVideoOutputSourceParameterKeyword(&ch, s.p), 0);
-    EXPECT_EQ(ch, 9u);
+    expect_keyword_readers_refuse(json_to_struct_VideoOutputSourceParameterKeyword,
+                                  json_to_struct_GetVideoOutputSourceParameterKeyword, "{\"Channel\":\"1\"}");
 }
 
 // ---- Audio output and decoding -------------------------------------------

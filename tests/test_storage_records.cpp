@@ -189,12 +189,8 @@ TEST(StorageDeviceStatus, SingleKeyReaderTruncatesTheNameTheSameWay) {
 }
 
 TEST(StorageDeviceStatus, SingleKeyReaderRefusesAMissingOrNumericName) {
-    char name[64] = "kept";
-    Tree missing(cJSON_Parse("{\"Mounted\":1}"));
-    EXPECT_EQ(json_to_struct_GetStorageDeviceStatusKeyword(name, missing.p), 0);
-    Tree numeric(cJSON_Parse("{\"StorageDeviceName\":1}"));
-    EXPECT_EQ(json_to_struct_GetStorageDeviceStatusKeyword(name, numeric.p), 0);
-    EXPECT_STREQ(name, "kept");
+    expect_string_key_reader_refuses(json_to_struct_GetStorageDeviceStatusKeyword,
+                                     {"{\"Mounted\":1}", "{\"StorageDeviceName\":1}"});
 }
 
 TEST(StorageDeviceStatus, NameFillingAll64BytesIsEmittedAsExactly64Characters) {
@@ -436,11 +432,8 @@ TEST(RecordParameter, ElementWithoutChannelIsReadButItsKeywordReadersFail) {
     EXPECT_EQ(r.Channel, 5u);
     EXPECT_EQ(r.StreamIndex, 1u);
     EXPECT_STREQ(r.FileFormat, "mp4");
-    RecordParameterKeyword kw = {77};
-    EXPECT_EQ(json_to_struct_RecordParameterKeyword(&kw, tree.p), 0);
-    uint32_t channel = 77;
-    EXPECT_EQ(json_to_struct_GetRecordParameterKeyword(&channel, tree.p), 0);
-    EXPECT_EQ(channel, 77u);
+    expect_keyword_readers_refuse(json_to_struct_RecordParameterKeyword, json_to_struct_GetRecordParameterKeyword,
+                                  "{\"StreamIndex\":1,\"FileFormat\":\"mp4\"}");
 }
 
 TEST(RecordParameter, KeywordReadersRequireAnIntegerChannel) {
@@ -623,10 +616,10 @@ TEST(SnapshotInputParameter, C2sReportsANullRecordAfterCheckingTheTree) {
 
 TEST(SnapshotParameter, KeyedUpdateMatchesTheChannelAndArrayFilesKeepTheSettings) {
     SnapshotParameter arr[2] = {};
-    arr[0].Channel = 0;
-    arr[0].ImageQuality = 80;
-    arr[1].Channel = 1;
-    arr[1].ImageQuality = 80;
+    for (uint32_t i = 0; i < 2; ++i) {
+        arr[i].Channel = i;
+        arr[i].ImageQuality = 80;
+    }
     expect_update_applies(j2s_array_update_SnapshotParameter,
                           "[{\"Channel\":1,\"ImageQuality\":95,\"FilePath\":\"/mnt/disk0/snap\"}]", arr, 2, 1);
     EXPECT_EQ(arr[1].ImageQuality, 95u);
