@@ -227,6 +227,22 @@ void expect_emitted_whole(cJSON *(*emit)(const T *), char (T::*member)[N], const
 void expect_integer_key_reader(int (*get)(uint32_t *, const cJSON *), const char *doc, uint32_t want,
                                std::initializer_list<const char *> refused);
 
+// Both keyword readers of a type keyed by an integer Channel: `doc` gives
+// `want` (status 1), and each of `refused` is refused (status 0).
+template <class K>
+void expect_channel_keyword_readers(int (*keyword)(K *, const cJSON *), int (*get)(uint32_t *, const cJSON *),
+                                    const char *doc, uint32_t want, std::initializer_list<const char *> refused) {
+    K k = {};
+    Tree tree(cJSON_Parse(doc));
+    EXPECT_EQ(keyword(&k, tree.p), 1) << doc;
+    EXPECT_EQ(k.Channel, want) << doc;
+    for (const char *other : refused) {
+        Tree no(cJSON_Parse(other));
+        EXPECT_EQ(keyword(&k, no.p), 0) << other;
+    }
+    expect_integer_key_reader(get, doc, want, refused);
+}
+
 // Both keyword readers of a type with an integer first key refuse the
 // object `doc` (status 0), the single-key reader leaving its key as it was.
 template <class K>

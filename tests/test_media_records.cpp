@@ -499,16 +499,9 @@ TEST(VideoInputStatus, GetKeywordReaderPicksInterfaceNameAndRequiresAString) {
 }
 
 TEST(VideoInputParameter, KeywordReadersRequireChannelAsAnInteger) {
-    VideoInputParameterKeyword kw{99};
-    uint32_t ch = 99;
-    Tree ok(cJSON_Parse("{\"Channel\":3}"));
-    EXPECT_EQ(json_to_struct_VideoInputParameterKeyword(&kw, ok.p), 1);
-    EXPECT_EQ(kw.Channel, 3u);
-    EXPECT_EQ(json_to_struct_GetVideoInputParameterKeyword(&ch, ok.p), 1);
-    EXPECT_EQ(ch, 3u);
-    Tree str(cJSON_Parse("{\"Channel\":\"3\"}"));
-    EXPECT_EQ(json_to_struct_VideoInputParameterKeyword(&kw, str.p), 0);
-    EXPECT_EQ(json_to_struct_GetVideoInputParameterKeyword(&ch, str.p), 0);
+    expect_channel_keyword_readers(json_to_struct_VideoInputParameterKeyword,
+                                   json_to_struct_GetVideoInputParameterKeyword, "{\"Channel\":3}", 3,
+                                   {"{\"Channel\":\"3\"}"});
 }
 
 TEST(VideoInputParameter, KeyedUpdateByChannelChangesOnlyThatChannel) {
@@ -978,24 +971,12 @@ TEST(AudioInputStatus, GetKeywordReaderPicksAnInterfaceOutOfAJsonArrayByName) {
 }
 
 TEST(AudioChannelKeys, AudioInputParameterAndAudioEncodeParameterKeywordReadersRequireIntegerChannel) {
-    Tree ok(cJSON_Parse("{\"Channel\":2}"));
-    Tree str(cJSON_Parse("{\"Channel\":\"2\"}"));
-    AudioInputParameterKeyword a{};
-    AudioEncodeParameterKeyword e{};
-    uint32_t ch = 0;
-    EXPECT_EQ(json_to_struct_AudioInputParameterKeyword(&a, ok.p), 1);
-    EXPECT_EQ(a.Channel, 2u);
-    EXPECT_EQ(json_to_struct_GetAudioInputParameterKeyword(&ch, ok.p), 1);
-    EXPECT_EQ(ch, 2u);
-    EXPECT_EQ(json_to_struct_AudioEncodeParameterKeyword(&e, ok.p), 1);
-    EXPECT_EQ(e.Channel, 2u);
-    ch = 0;
-    EXPECT_EQ(json_to_struct_GetAudioEncodeParameterKeyword(&ch, ok.p), 1);
-    EXPECT_EQ(ch, 2u);
-    EXPECT_EQ(json_to_struct_AudioInputParameterKeyword(&a, str.p), 0);
-    EXPECT_EQ(json_to_struct_GetAudioInputParameterKeyword(&ch, str.p), 0);
-    EXPECT_EQ(json_to_struct_AudioEncodeParameterKeyword(&e, str.p), 0);
-    EXPECT_EQ(json_to_struct_GetAudioEncodeParameterKeyword(&ch, str.p), 0);
+    expect_channel_keyword_readers(json_to_struct_AudioInputParameterKeyword,
+                                   json_to_struct_GetAudioInputParameterKeyword, "{\"Channel\":2}", 2,
+                                   {"{\"Channel\":\"2\"}"});
+    expect_channel_keyword_readers(json_to_struct_AudioEncodeParameterKeyword,
+                                   json_to_struct_GetAudioEncodeParameterKeyword, "{\"Channel\":2}", 2,
+                                   {"{\"Channel\":\"2\"}"});
 }
 
 TEST(AudioEncodeParameter, KeyedUpdateByChannelChangesCodecOfThatChannelOnly) {

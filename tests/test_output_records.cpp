@@ -578,16 +578,9 @@ TEST(AudioOutputParameter, UpdateElementWithoutChannelFailsWithTheKeywordMessage
 }
 
 TEST(AudioOutputParameter, KeywordReadersRequireAnIntegerChannel) {
-    AudioOutputParameterKeyword k = {};
-    uint32_t ch = 0;
-    Tree s(cJSON_Parse("{\"Channel\":\"2\"}"));
-    EXPECT_EQ(json_to_struct_AudioOutputParameterKeyword(&k, s.p), 0);
-    EXPECT_EQ(json_to_struct_GetAudioOutputParameterKeyword(&ch, s.p), 0);
-    Tree i(cJSON_Parse("{\"Channel\":2,\"InterfaceName\":\"LINE-OUT-0\"}"));
-    EXPECT_EQ(json_to_struct_AudioOutputParameterKeyword(&k, i.p), 1);
-    EXPECT_EQ(json_to_struct_GetAudioOutputParameterKeyword(&ch, i.p), 1);
-    EXPECT_EQ(k.Channel, 2u);
-    EXPECT_EQ(ch, 2u);
+    expect_channel_keyword_readers(json_to_struct_AudioOutputParameterKeyword,
+                                   json_to_struct_GetAudioOutputParameterKeyword,
+                                   "{\"Channel\":2,\"InterfaceName\":\"LINE-OUT-0\"}", 2, {"{\"Channel\":\"2\"}"});
 }
 
 TEST(AudioOutputInterfaceParameter, KeywordReadersRequireAStringAndKeepAtMost63Characters) {

@@ -437,18 +437,8 @@ TEST(RecordParameter, ElementWithoutChannelIsReadButItsKeywordReadersFail) {
 }
 
 TEST(RecordParameter, KeywordReadersRequireAnIntegerChannel) {
-    RecordParameterKeyword kw = {};
-    uint32_t channel = 0;
-    Tree text_channel(cJSON_Parse("{\"Channel\":\"1\"}"));
-    EXPECT_EQ(json_to_struct_RecordParameterKeyword(&kw, text_channel.p), 0);
-    EXPECT_EQ(json_to_struct_GetRecordParameterKeyword(&channel, text_channel.p), 0);
-    Tree fraction(cJSON_Parse("{\"Channel\":1.5}"));
-    EXPECT_EQ(json_to_struct_RecordParameterKeyword(&kw, fraction.p), 0);
-    Tree ok(cJSON_Parse("{\"Channel\":3}"));
-    EXPECT_EQ(json_to_struct_RecordParameterKeyword(&kw, ok.p), 1);
-    EXPECT_EQ(kw.Channel, 3u);
-    EXPECT_EQ(json_to_struct_GetRecordParameterKeyword(&channel, ok.p), 1);
-    EXPECT_EQ(channel, 3u);
+    expect_channel_keyword_readers(json_to_struct_RecordParameterKeyword, json_to_struct_GetRecordParameterKeyword,
+                                   "{\"Channel\":3}", 3, {"{\"Channel\":\"1\"}", "{\"Channel\":1.5}"});
 }
 
 TEST(RecordParameter, KeyedUpdateWithoutChannelIsRefusedOnTheUpdateLine) {
