@@ -302,6 +302,15 @@ void expect_array_file_round_trip(int (*s2f_array)(const char *, const T *, uint
     EXPECT_EQ(std::memcmp(back.data(), arr, sizeof arr), 0);
 }
 
+// The record that the text reader `j2s` reads from `doc` (status 0) over a
+// zeroed record.
+template <class T>
+T record_from_text(int (*j2s)(const char *, T *), const std::string &doc) {
+    T r = {};
+    EXPECT_EQ(j2s(doc.c_str(), &r), 0) << doc;
+    return r;
+}
+
 // The keyed update `request` applied by j2s_array_update to the `room`
 // records at `arr`: status 0 and `count` updates applied.
 template <class T>

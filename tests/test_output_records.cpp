@@ -858,11 +858,9 @@ TEST(Watermarks, UpdatesFindTheInterfaceByName) {
 }
 
 TEST(UploadWatermarkPictureParameter, RequestReadsAndWritesTheLargestFileSize) {
-    UploadWatermarkPictureParameter u = {};
-    ASSERT_EQ(j2s_UploadWatermarkPictureParameter("{\"InterfaceName\":\"HDMI-OUT-0\",\"ImageFilePath\":\"/tmp/upload/"
-                                                  "logo.png\",\"ImageFileSize\":4294967295}",
-                                                  &u),
-              0);
+    const UploadWatermarkPictureParameter u =
+        record_from_text(j2s_UploadWatermarkPictureParameter, "{\"InterfaceName\":\"HDMI-OUT-0\",\"ImageFilePath\":"
+                                                              "\"/tmp/upload/logo.png\",\"ImageFileSize\":4294967295}");
     EXPECT_EQ(u.ImageFileSize, 4294967295u);
     Text t(s2j_UploadWatermarkPictureParameter(&u, 0));
     EXPECT_EQ(
