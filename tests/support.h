@@ -64,6 +64,11 @@ std::string parse_reason_with_len(const char *text, size_t len);
 std::string example_path(const std::string &type);
 std::string example_text(const std::string &type);
 
+// A type's example file, read record by record with the type's reader of a
+// tree, is the emitter's own text (an array example holds 2 to 4 records);
+// the type's text and file readers give the same records.
+void expect_example_round_trip(const s2j::TypeInfo *t);
+
 // The compact text of a tree ("<null>" for none), the tree left as it is.
 std::string print_compact(const cJSON *tree);
 // The same of a tree made for the call (an emitter's), which it deletes.
@@ -135,48 +140,6 @@ inline std::string chars(size_t n, char c = 'a') { return std::string(n, c); }
 template <class T>
 std::string emitted(cJSON *(*emit)(const T *), const T &r) {
     return compact(emit(&r));
-}
-
-// The example loads with the type's reader (each element of an array file),
-// and the type's emitter gives back the file's very text (an example file
-// ends in a newline after the library's text).
-template <class T>
-void expect_example_reads(const char *type, bool array, cJSON *(*emit)(const T *),
-                          int (*read)(T *, const cJSON *), std::vector<T> *out = nullptr) {
-    const std::string text = example_text(type);
-    Tree tree(cJSON_Parse(text.c_str()));
-    ASSERT_NE(tree.p, nullptr) << type;
-    std::vector<T> recs;
-    if (array) {
-        ASSERT_TRUE(cJSON_IsArray(tree.p)) << type;
-        int n = cJSON_GetArraySize(tree.p);
-        EXPECT_TRUE(n >= 2 && n <= 4) << type;
-        recs.resize(static_cast<size_t>(n));
-        for (int i = 0; i < n; ++i) EXPECT_EQ(read(&recs[i], cJSON_GetArrayItem(tree.p, i)), 1) << type << " " << i;
-    } else {
-        ASSERT_TRUE(cJSON_IsObject(tree.p)) << type;
-        recs.resize(1);
-        EXPECT_EQ(read(&recs[0], tree.p), 1) << type;
-    }
-    cJSON *again = array ? cJSON_CreateArray() : emit(&recs[0]);
-    if (array)
-        for (const T &r : recs) cJSON_AddItemToArray(again, emit(&r));
-    Tree back(again);
-    Text printed(cJSON_Print(again));
-    EXPECT_EQ(printed.str(), text) << type;
-    if (out) *out = recs;
-}
-
-// The same file through the type's file reader gives the same records.
-template <class T>
-void expect_f2s_array(const char *type, int (*f2s_array)(const char *, T *, uint32_t *), const std::vector<T> &want) {
-    const std::string path = example_path(type);
-    uint32_t n = 0;
-    ASSERT_EQ(f2s_array(path.c_str(), nullptr, &n), 0) << type;
-    ASSERT_EQ(n, want.size()) << type;
-    std::vector<T> got(n);
-    ASSERT_EQ(f2s_array(path.c_str(), got.data(), &n), 0) << type;
-    EXPECT_EQ(std::memcmp(got.data(), want.data(), n * sizeof(T)), 0) << type;
 }
 
 // A record whose every byte is `fill`, so that untouched bytes show.

@@ -473,6 +473,10 @@ TEST_P(EveryType, ExportsExactlyTheFamilyMembersTheRegistryLists) {
     EXPECT_TRUE(!f.s2f_array || f.s2j_array);
 }
 
+// Every example file is the emitter's own text of what the type's readers
+// read from it.
+TEST_P(EveryType, ExampleFileLoadsWithItsReadersAndIsTheEmittersOwnText) { expect_example_round_trip(GetParam()); }
+
 INSTANTIATE_TEST_SUITE_P(Registry, EveryType, ::testing::ValuesIn(types_where(nullptr)), name_of);
 INSTANTIATE_TEST_SUITE_P(Registry, SingleRecordType, ::testing::ValuesIn(types_where(has_single)), name_of);
 INSTANTIATE_TEST_SUITE_P(Registry, ArrayType, ::testing::ValuesIn(types_where(has_array)), name_of);
