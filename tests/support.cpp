@@ -164,6 +164,13 @@ void expect_example_round_trip(const s2j::TypeInfo *t) {
     for (uint32_t i = 0; array && i < n; ++i) cJSON_AddItemToArray(again.p, t->hooks->emit(recs.data() + i * size));
     Text printed(cJSON_Print(again.p));
     EXPECT_EQ(printed.str(), text) << t->name;
+    // The text writers give the same text.
+    if (array && t->fam.s2j_array != nullptr) {
+        EXPECT_EQ(Text(t->fam.s2j_array(recs.data(), n, 1)).str(), text) << t->name << " s2j_array";
+    }
+    if (!array && t->fam.s2j != nullptr) {
+        EXPECT_EQ(Text(t->fam.s2j(recs.data(), 1)).str(), text) << t->name << " s2j";
+    }
     // The same records through the text and file readers, over zeroes (with
     // room for one record more).
     std::vector<char> got(recs.size() + size, 0);
@@ -172,6 +179,12 @@ void expect_example_round_trip(const s2j::TypeInfo *t) {
         std::fill(got.begin(), got.end(), 0);
     };
     uint32_t count = n + 1;
+    if (array && t->fam.c2s_array != nullptr) {
+        EXPECT_EQ(t->fam.c2s_array(tree.p, got.data(), &count), 0) << t->name;
+        EXPECT_EQ(count, n) << t->name;
+        same("c2s_array");
+    }
+    count = n + 1;
     if (array && t->fam.j2s_array != nullptr) {
         EXPECT_EQ(t->fam.j2s_array(text.c_str(), got.data(), &count), 0) << t->name;
         EXPECT_EQ(count, n) << t->name;
@@ -183,6 +196,10 @@ void expect_example_round_trip(const s2j::TypeInfo *t) {
         EXPECT_EQ(count, n) << t->name;
         EXPECT_EQ(t->fam.f2s_array(path.c_str(), got.data(), &count), 0) << t->name;
         same("f2s_array");
+    }
+    if (!array && t->fam.c2s != nullptr) {
+        EXPECT_EQ(t->fam.c2s(tree.p, got.data()), 0) << t->name;
+        same("c2s");
     }
     if (!array && t->fam.j2s != nullptr) {
         EXPECT_EQ(t->fam.j2s(text.c_str(), got.data()), 0) << t->name;

@@ -65,8 +65,9 @@ std::string example_path(const std::string &type);
 std::string example_text(const std::string &type);
 
 // A type's example file, read record by record with the type's reader of a
-// tree, is the emitter's own text (an array example holds 2 to 4 records);
-// the type's text and file readers give the same records.
+// tree, is the emitter's own text and its text writers' (an array example
+// holds 2 to 4 records); the type's tree, text and file readers give the
+// same records.
 void expect_example_round_trip(const s2j::TypeInfo *t);
 
 // The compact text of a tree ("<null>" for none), the tree left as it is.
