@@ -275,6 +275,16 @@ T record_from_text(int (*j2s)(const char *, T *), const std::string &doc) {
     return r;
 }
 
+// The record that the reader of a tree `read` reads from the object `doc`
+// (status 1) over a zeroed record.
+template <class T>
+T record_from_tree(int (*read)(T *, const cJSON *), const std::string &doc) {
+    T r = {};
+    Tree tree(cJSON_Parse(doc.c_str()));
+    EXPECT_EQ(read(&r, tree.p), 1) << doc;
+    return r;
+}
+
 // The keyed update `request` applied by j2s_array_update to the `room`
 // records at `arr`: status 0 and `count` updates applied.
 template <class T>

@@ -127,9 +127,8 @@ TEST(NetworkExamples, HotspotScanRequestNamesItsInterface) {
 // ---- Network interfaces and LAN ---------------------------------------------
 
 TEST(NetworkLANParameter, MACAddressOf17CharactersIsKeptWhole) {
-    NetworkLANParameter r = {};
-    Tree tree(cJSON_Parse("{\"MACAddress\":\"00:1A:2B:3C:4D:5E\"}"));
-    ASSERT_EQ(json_to_struct_NetworkLANParameter(&r, tree.p), 1);
+    NetworkLANParameter r =
+        record_from_tree(json_to_struct_NetworkLANParameter, "{\"MACAddress\":\"00:1A:2B:3C:4D:5E\"}");
     EXPECT_STREQ(r.MACAddress, "00:1A:2B:3C:4D:5E");
 }
 
@@ -148,9 +147,8 @@ TEST(NetworkLANParameter, IPv4AddressOf16OrMoreCharactersIsStoredAsItsFirst15) {
     for (size_t len : {16u, 40u})
         expect_read_as_prefix(json_to_struct_NetworkLANParameter, &NetworkLANParameter::IPv4Address, "IPv4Address", len,
                               '1');
-    NetworkLANParameter r = {};
-    Tree tree(cJSON_Parse("{\"IPv4Address\":\"255.255.255.255\"}"));  // 15 characters fit
-    ASSERT_EQ(json_to_struct_NetworkLANParameter(&r, tree.p), 1);
+    NetworkLANParameter r =  // 15 characters fit
+        record_from_tree(json_to_struct_NetworkLANParameter, "{\"IPv4Address\":\"255.255.255.255\"}");
     EXPECT_STREQ(r.IPv4Address, "255.255.255.255");
 }
 
@@ -323,16 +321,13 @@ TEST(NetworkRouteParameter, TextAndFileRoundTrip) {
 // ---- Wireless ----------------------------------------------------------------
 
 TEST(WIFIHotspot, DocumentWithMACAddressFillsMacAddressByCaseInsensitiveLookup) {
-    WIFIHotspot r = {};
-    Tree tree(cJSON_Parse("{\"MACAddress\":\"F4:92:BF:A1:22:10\"}"));
-    ASSERT_EQ(json_to_struct_WIFIHotspot(&r, tree.p), 1);
+    WIFIHotspot r = record_from_tree(json_to_struct_WIFIHotspot, "{\"MACAddress\":\"F4:92:BF:A1:22:10\"}");
     EXPECT_STREQ(r.MacAddress, "F4:92:BF:A1:22:10");
 }
 
 TEST(NetworkWIFIParameter, DocumentWithMacAddressFillsMACAddressByCaseInsensitiveLookup) {
-    NetworkWIFIParameter r = {};
-    Tree tree(cJSON_Parse("{\"MacAddress\":\"70:B3:D5:12:34:56\"}"));
-    ASSERT_EQ(json_to_struct_NetworkWIFIParameter(&r, tree.p), 1);
+    NetworkWIFIParameter r =
+        record_from_tree(json_to_struct_NetworkWIFIParameter, "{\"MacAddress\":\"70:B3:D5:12:34:56\"}");
     EXPECT_STREQ(r.MACAddress, "70:B3:D5:12:34:56");
 }
 
@@ -354,9 +349,7 @@ TEST(WIFIHotspot, EachEmitterWritesOnlyItsOwnSpellingOfTheMacKey) {
 }
 
 TEST(NetworkWIFIParameter, MTUSizeOf70000IsKeptAs70000) {
-    NetworkWIFIParameter r = {};
-    Tree tree(cJSON_Parse("{\"MTUSize\":70000}"));
-    ASSERT_EQ(json_to_struct_NetworkWIFIParameter(&r, tree.p), 1);
+    NetworkWIFIParameter r = record_from_tree(json_to_struct_NetworkWIFIParameter, "{\"MTUSize\":70000}");
     EXPECT_EQ(r.MTUSize, 70000u);
     Text text(s2j_array_NetworkWIFIParameter(&r, 1, 0));
     EXPECT_NE(text.str().find("\"MTUSize\":70000,"), std::string::npos);
