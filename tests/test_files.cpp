@@ -66,14 +66,20 @@ TEST(Files, RecordArrayWrittenByS2fArrayReadsBackAndAnswersAQuery) {
     EXPECT_EQ(std::memcmp(back, tasks, sizeof tasks), 0);
 }
 
-TEST(Files, EmptyFileIsAParseFailureReportedByJ2s) {
-    std::string path = temp_dir() + "/empty.json";
-    write_file(path, "");
+// What f2s_CrontabCapabilitySet writes to the standard error stream as it
+// reads a file that holds `text`, returning `status`.
+std::string f2s_caps_diagnostic(const std::string &text, int status) {
+    const std::string path = temp_dir() + "/caps.json";
+    write_file(path, text);
     CrontabCapabilitySet c = {};
     StderrCapture err;
-    EXPECT_EQ(f2s_CrontabCapabilitySet(path.c_str(), &c), -2);
-    EXPECT_EQ(err.text(), diag(text_list_file(), 8, "j2s_CrontabCapabilitySet",
-                               "cJSON_Parse() failed! reason: " + parse_reason("") + "\n"));
+    EXPECT_EQ(f2s_CrontabCapabilitySet(path.c_str(), &c), status) << text;
+    return err.text();
+}
+
+TEST(Files, EmptyFileIsAParseFailureReportedByJ2s) {
+    EXPECT_EQ(f2s_caps_diagnostic("", -2), diag(text_list_file(), 8, "j2s_CrontabCapabilitySet",
+                                                "cJSON_Parse() failed! reason: " + parse_reason("") + "\n"));
 }
 
 TEST(Files, MissingFileGivesMinus15AndPrintsNothing) {
@@ -167,12 +173,7 @@ TEST(Files, NullFileNameIsRefusedUnderTheFileFamilysOwnLine) {
 }
 
 TEST(Files, ReaderFailureInAFileIsReportedByC2sAndReturnsMinusOne) {
-    std::string path = temp_dir() + "/bad.json";
-    write_file(path, "{\"MaxTaskNumber\": \"many\"}");
-    CrontabCapabilitySet c = {};
-    StderrCapture err;
-    EXPECT_EQ(f2s_CrontabCapabilitySet(path.c_str(), &c), -1);
-    EXPECT_EQ(err.text(),
+    EXPECT_EQ(f2s_caps_diagnostic("{\"MaxTaskNumber\": \"many\"}", -1),
               diag(text_list_file(), 7, "c2s_CrontabCapabilitySet", "json_to_struct_CrontabCapabilitySet failed!\n"));
 }
 
