@@ -10,14 +10,8 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "libc_alloc.h"
 #include "workloads.h"
-
-extern "C" {
-void *__libc_malloc(size_t);
-void *__libc_calloc(size_t, size_t);
-void *__libc_realloc(void *, size_t);
-void __libc_free(void *);
-}
 
 namespace {
 bool counting = false;

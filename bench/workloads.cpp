@@ -179,33 +179,9 @@ void make_encoder(VideoEncodeParameter &e, size_t i) {
 void make_values() {
     device_time = {1700000000 + static_cast<int32_t>(rnd(86400)), 2024, 11, 22, 13, 47, 5, 250};
 
-    WatermarkOSDParameter &w = watermark;
-    std::memset(&w, 0, sizeof w);
-    set(w.InterfaceName, "HDMI-OUT-1");
-    w.Visible = 1;
-    w.AutoFontSize = 0;
-    w.FixedFontSize = 48;
-    w.Bold = 1;
-    w.Stroke = 0;
-    set(w.ForeColor, "#FFFFFF");
-    w.ForeAlpha = 255;
-    set(w.BackColor, "#000000");
-    w.BackAlpha = 96;
-    w.CoordinateOrigin = 0;
-    w.XCoordinate = 1680;
-    w.YCoordinate = 40;
-    w.CoordinateBase = 1920;
-    set(w.Content, "Studio B - Main Stage Camera");
-    w.PrefixType = 1;
-    set(w.PrefixContent, "LIVE");
-    w.PostfixType = 2;
-    set(w.PostfixContent, "%Y-%m-%d %H:%M:%S");
-    w.RotationAngle = -15;
-    w.ArrangementMode = 1;
-    w.Movable = 0;
-    w.MovingStepSize = 4;
-    w.MovingSpeed = 30;
-    w.MovingDirection = 2;
+    // Every field, in the struct's order.
+    watermark = {"HDMI-OUT-1", 1, 0, 48, 1, 0, "#FFFFFF", 255, "#000000", 96, 0, 1680, 40, 1920,
+                 "Studio B - Main Stage Camera", 1, "LIVE", 2, "%Y-%m-%d %H:%M:%S", -15, 1, 0, 4, 30, 2};
 
     for (size_t i = 0; i < kN; ++i) make_encoder(encoders[i], i);
 

@@ -9,6 +9,8 @@
 #   expect_run WHAT RC PART COMMAND...
 #                                the command exits with RC and its output
 #                                (both streams) holds PART; leaves $out, $rc
+#   expect_output WHAT RC TEXT COMMAND...
+#                                the same, with the output exactly TEXT
 #   check_generated FILE HOW COMMAND...
 #                                exit 0 when FILE is what COMMAND writes now;
 #                                else 1, saying "FILE is out of date: HOW"
@@ -27,13 +29,16 @@ scratch_dir() {
   tmp=$(mktemp -d)
   trap 'rm -rf "$tmp"' EXIT
 }
-expect_run() {
-  local what=$1 want=$2 part=$3
-  shift 3
+expect_run() { run_and_expect contains "the message" "$@"; }
+expect_output() { run_and_expect eq "the output" "$@"; }
+# run_and_expect eq|contains LABEL WHAT RC TEXT COMMAND...: the two above.
+run_and_expect() {
+  local how=$1 label=$2 what=$3 want=$4 text=$5
+  shift 5
   out=$("$@" 2>&1)
   rc=$?
   expect_eq "$rc" "$want" "$what"
-  expect_contains "$out" "$part" "$what: the message"
+  "expect_$how" "$out" "$text" "$what: $label"
 }
 check_generated() {
   local file=$1 how=$2

@@ -10,6 +10,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <fstream>
 #include <sstream>
 #include <vector>
@@ -142,10 +143,87 @@ std::string example_text(const std::string &type) {
     return text;
 }
 
+void expect_example_round_trip(const s2j::TypeInfo *t) {
+    const std::string text = example_text(t->name), path = example_path(t->name);
+    Tree tree(cJSON_Parse(text.c_str()));
+    ASSERT_NE(tree.p, nullptr) << t->name;
+    const bool array = cJSON_IsArray(tree.p);
+    if (array) {
+        EXPECT_TRUE(cJSON_GetArraySize(tree.p) >= 2 && cJSON_GetArraySize(tree.p) <= 4) << t->name;
+    } else {
+        ASSERT_TRUE(cJSON_IsObject(tree.p)) << t->name;
+    }
+    const uint32_t n = array ? static_cast<uint32_t>(cJSON_GetArraySize(tree.p)) : 1;
+    const size_t size = t->desc->size;
+    std::vector<char> recs(size * n, 0);
+    for (uint32_t i = 0; i < n; ++i) {
+        const cJSON *item = array ? cJSON_GetArrayItem(tree.p, static_cast<int>(i)) : tree.p;
+        EXPECT_EQ(t->hooks->read(recs.data() + i * size, item), 1) << t->name << " " << i;
+    }
+    Tree again(array ? cJSON_CreateArray() : t->hooks->emit(recs.data()));
+    for (uint32_t i = 0; array && i < n; ++i) cJSON_AddItemToArray(again.p, t->hooks->emit(recs.data() + i * size));
+    Text printed(cJSON_Print(again.p));
+    EXPECT_EQ(printed.str(), text) << t->name;
+    // The text writers give the same text.
+    if (array && t->fam.s2j_array != nullptr) {
+        EXPECT_EQ(Text(t->fam.s2j_array(recs.data(), n, 1)).str(), text) << t->name << " s2j_array";
+    }
+    if (!array && t->fam.s2j != nullptr) {
+        EXPECT_EQ(Text(t->fam.s2j(recs.data(), 1)).str(), text) << t->name << " s2j";
+    }
+    // The same records through the text and file readers, over zeroes (with
+    // room for one record more).
+    std::vector<char> got(recs.size() + size, 0);
+    const auto same = [&](const char *how) {
+        EXPECT_EQ(std::memcmp(got.data(), recs.data(), recs.size()), 0) << t->name << " " << how;
+        std::fill(got.begin(), got.end(), 0);
+    };
+    uint32_t count = n + 1;
+    if (array && t->fam.c2s_array != nullptr) {
+        EXPECT_EQ(t->fam.c2s_array(tree.p, got.data(), &count), 0) << t->name;
+        EXPECT_EQ(count, n) << t->name;
+        same("c2s_array");
+    }
+    count = n + 1;
+    if (array && t->fam.j2s_array != nullptr) {
+        EXPECT_EQ(t->fam.j2s_array(text.c_str(), got.data(), &count), 0) << t->name;
+        EXPECT_EQ(count, n) << t->name;
+        same("j2s_array");
+    }
+    if (array && t->fam.f2s_array != nullptr) {
+        count = 0;
+        EXPECT_EQ(t->fam.f2s_array(path.c_str(), nullptr, &count), 0) << t->name;
+        EXPECT_EQ(count, n) << t->name;
+        EXPECT_EQ(t->fam.f2s_array(path.c_str(), got.data(), &count), 0) << t->name;
+        same("f2s_array");
+    }
+    if (!array && t->fam.c2s != nullptr) {
+        EXPECT_EQ(t->fam.c2s(tree.p, got.data()), 0) << t->name;
+        same("c2s");
+    }
+    if (!array && t->fam.j2s != nullptr) {
+        EXPECT_EQ(t->fam.j2s(text.c_str(), got.data()), 0) << t->name;
+        same("j2s");
+    }
+    if (!array && t->fam.f2s != nullptr) {
+        EXPECT_EQ(t->fam.f2s(path.c_str(), got.data()), 0) << t->name;
+        same("f2s");
+    }
+}
+
 std::string string_member(const cJSON *object, const char *key) {
     const cJSON *m = cJSON_GetObjectItemCaseSensitive(object, key);
     EXPECT_TRUE(cJSON_IsString(m)) << key;
     return m != nullptr && m->valuestring != nullptr ? m->valuestring : "<absent>";
+}
+
+void expect_string_key_reader_refuses(int (*get)(char *, const cJSON *), std::initializer_list<const char *> docs) {
+    char name[64] = "kept";
+    for (const char *doc : docs) {
+        Tree tree(cJSON_Parse(doc));
+        EXPECT_EQ(get(name, tree.p), 0) << doc;
+        EXPECT_STREQ(name, "kept") << doc;
+    }
 }
 
 void expect_integer_key_reader(int (*get)(uint32_t *, const cJSON *), const char *doc, uint32_t want,

@@ -64,6 +64,12 @@ std::string parse_reason_with_len(const char *text, size_t len);
 std::string example_path(const std::string &type);
 std::string example_text(const std::string &type);
 
+// A type's example file, read record by record with the type's reader of a
+// tree, is the emitter's own text and its text writers' (an array example
+// holds 2 to 4 records); the type's tree, text and file readers give the
+// same records.
+void expect_example_round_trip(const s2j::TypeInfo *t);
+
 // The compact text of a tree ("<null>" for none), the tree left as it is.
 std::string print_compact(const cJSON *tree);
 // The same of a tree made for the call (an emitter's), which it deletes.
@@ -137,48 +143,6 @@ std::string emitted(cJSON *(*emit)(const T *), const T &r) {
     return compact(emit(&r));
 }
 
-// The example loads with the type's reader (each element of an array file),
-// and the type's emitter gives back the file's very text (an example file
-// ends in a newline after the library's text).
-template <class T>
-void expect_example_reads(const char *type, bool array, cJSON *(*emit)(const T *),
-                          int (*read)(T *, const cJSON *), std::vector<T> *out = nullptr) {
-    const std::string text = example_text(type);
-    Tree tree(cJSON_Parse(text.c_str()));
-    ASSERT_NE(tree.p, nullptr) << type;
-    std::vector<T> recs;
-    if (array) {
-        ASSERT_TRUE(cJSON_IsArray(tree.p)) << type;
-        int n = cJSON_GetArraySize(tree.p);
-        EXPECT_TRUE(n >= 2 && n <= 4) << type;
-        recs.resize(static_cast<size_t>(n));
-        for (int i = 0; i < n; ++i) EXPECT_EQ(read(&recs[i], cJSON_GetArrayItem(tree.p, i)), 1) << type << " " << i;
-    } else {
-        ASSERT_TRUE(cJSON_IsObject(tree.p)) << type;
-        recs.resize(1);
-        EXPECT_EQ(read(&recs[0], tree.p), 1) << type;
-    }
-    cJSON *again = array ? cJSON_CreateArray() : emit(&recs[0]);
-    if (array)
-        for (const T &r : recs) cJSON_AddItemToArray(again, emit(&r));
-    Tree back(again);
-    Text printed(cJSON_Print(again));
-    EXPECT_EQ(printed.str(), text) << type;
-    if (out) *out = recs;
-}
-
-// The same file through the type's file reader gives the same records.
-template <class T>
-void expect_f2s_array(const char *type, int (*f2s_array)(const char *, T *, uint32_t *), const std::vector<T> &want) {
-    const std::string path = example_path(type);
-    uint32_t n = 0;
-    ASSERT_EQ(f2s_array(path.c_str(), nullptr, &n), 0) << type;
-    ASSERT_EQ(n, want.size()) << type;
-    std::vector<T> got(n);
-    ASSERT_EQ(f2s_array(path.c_str(), got.data(), &n), 0) << type;
-    EXPECT_EQ(std::memcmp(got.data(), want.data(), n * sizeof(T)), 0) << type;
-}
-
 // A record whose every byte is `fill`, so that untouched bytes show.
 template <class T>
 T pattern(unsigned char fill = 0xA5) {
@@ -227,6 +191,39 @@ void expect_emitted_whole(cJSON *(*emit)(const T *), char (T::*member)[N], const
 void expect_integer_key_reader(int (*get)(uint32_t *, const cJSON *), const char *doc, uint32_t want,
                                std::initializer_list<const char *> refused);
 
+// Both keyword readers of a type keyed by an integer Channel: `doc` gives
+// `want` (status 1), and each of `refused` is refused (status 0).
+template <class K>
+void expect_channel_keyword_readers(int (*keyword)(K *, const cJSON *), int (*get)(uint32_t *, const cJSON *),
+                                    const char *doc, uint32_t want, std::initializer_list<const char *> refused) {
+    K k = {};
+    Tree tree(cJSON_Parse(doc));
+    EXPECT_EQ(keyword(&k, tree.p), 1) << doc;
+    EXPECT_EQ(k.Channel, want) << doc;
+    for (const char *other : refused) {
+        Tree no(cJSON_Parse(other));
+        EXPECT_EQ(keyword(&k, no.p), 0) << other;
+    }
+    expect_integer_key_reader(get, doc, want, refused);
+}
+
+// Both keyword readers of a type with an integer first key refuse the
+// object `doc` (status 0), the single-key reader leaving its key as it was.
+template <class K>
+void expect_keyword_readers_refuse(int (*keyword)(K *, const cJSON *), int (*get)(uint32_t *, const cJSON *),
+                                   const char *doc) {
+    Tree tree(cJSON_Parse(doc));
+    K k = {};
+    EXPECT_EQ(keyword(&k, tree.p), 0) << doc;
+    uint32_t key = 77;
+    EXPECT_EQ(get(&key, tree.p), 0) << doc;
+    EXPECT_EQ(key, 77u) << doc;
+}
+
+// The single-key reader `get` of a string first key refuses each of `docs`
+// (status 0), leaving the key as it was.
+void expect_string_key_reader_refuses(int (*get)(char *, const cJSON *), std::initializer_list<const char *> docs);
+
 // A flag whose key has one spelling: the reader of a tree reads `key` and
 // leaves the member as it was (`kept`) for `other`, the other spelling.
 template <class T>
@@ -267,6 +264,49 @@ void expect_array_file_round_trip(int (*s2f_array)(const char *, const T *, uint
     ASSERT_EQ(f2s_array(path.c_str(), back.data(), &n), 0);
     EXPECT_EQ(n, N);
     EXPECT_EQ(std::memcmp(back.data(), arr, sizeof arr), 0);
+}
+
+// The record that the text reader `j2s` reads from `doc` (status 0) over a
+// zeroed record.
+template <class T>
+T record_from_text(int (*j2s)(const char *, T *), const std::string &doc) {
+    T r = {};
+    EXPECT_EQ(j2s(doc.c_str(), &r), 0) << doc;
+    return r;
+}
+
+// The record that the reader of a tree `read` reads from the object `doc`
+// (status 1) over a zeroed record.
+template <class T>
+T record_from_tree(int (*read)(T *, const cJSON *), const std::string &doc) {
+    T r = {};
+    Tree tree(cJSON_Parse(doc.c_str()));
+    EXPECT_EQ(read(&r, tree.p), 1) << doc;
+    return r;
+}
+
+// The keyed update `request` applied by j2s_array_update to the `room`
+// records at `arr`: status 0 and `count` updates applied.
+template <class T>
+void expect_update_applies(int (*update)(const char *, T *, uint32_t *), const char *request, T *arr, uint32_t room,
+                           uint32_t count) {
+    uint32_t n = room;
+    EXPECT_EQ(update(request, arr, &n), 0) << request;
+    EXPECT_EQ(n, count) << request;
+}
+
+// A record array read by j2s_array from its text, or by f2s_array from the
+// file of that path, into room for `room` records (zeroed first): status 0
+// and `count` records.  Returns the whole room.
+template <class T>
+std::vector<T> read_array_back(int (*read_array)(const char *, T *, uint32_t *), const char *text_or_path,
+                               uint32_t room, uint32_t count) {
+    std::vector<T> back(room);
+    std::memset(static_cast<void *>(back.data()), 0, room * sizeof(T));
+    uint32_t n = room;
+    EXPECT_EQ(read_array(text_or_path, back.data(), &n), 0) << text_or_path;
+    EXPECT_EQ(n, count) << text_or_path;
+    return back;
 }
 
 }  // namespace testing_support

@@ -32,15 +32,9 @@
 #include <string>
 #include <vector>
 
+#include "libc_alloc.h"
 #include "registry.h"
 #include "support.h"
-
-extern "C" {
-void *__libc_malloc(size_t);
-void *__libc_calloc(size_t, size_t);
-void *__libc_realloc(void *, size_t);
-void __libc_free(void *);
-}
 
 namespace {
 
@@ -317,6 +311,13 @@ const char *keep(char *text) {
     return g_text_copy;
 }
 
+// kElements records of the type whose strings fill their fields.
+std::vector<char> records_of(const TypeInfo *t) {
+    std::vector<char> recs(t->desc->size * kElements);
+    for (uint32_t i = 0; i < kElements; ++i) fill_unterminated(t, recs.data() + i * t->desc->size, i);
+    return recs;
+}
+
 class TextWriters : public ::testing::TestWithParam<const TypeInfo *> {};
 class TextReaders : public ::testing::TestWithParam<const TypeInfo *> {};
 class TreeReaders : public ::testing::TestWithParam<const TypeInfo *> {};
@@ -364,8 +365,7 @@ int text_writer_faults(const TypeInfo *t, Call call, const std::string &ref, con
 
 TEST_P(TextWriters, s2j_and_s2j_array_lose_members_or_return_null_and_leak_nothing) {
     const TypeInfo *t = GetParam();
-    std::vector<char> recs(t->desc->size * kElements);
-    for (uint32_t i = 0; i < kElements; ++i) fill_unterminated(t, recs.data() + i * t->desc->size, i);
+    std::vector<char> recs = records_of(t);
     int checked = 0;
     if (t->fam.s2j != nullptr)
         checked += text_writer_faults(t, [&] { return t->fam.s2j(recs.data(), 0); },
@@ -419,8 +419,7 @@ void reader_allocates_nothing(const char *what, std::vector<char> &buf, uint32_t
 // Every text reader of the type, with `check` as the fault loop.
 template <class Check>
 void text_readers(const TypeInfo *t, const s2j::Families &f, Check reader_faults) {
-    std::vector<char> recs(t->desc->size * kElements);
-    for (uint32_t i = 0; i < kElements; ++i) fill_unterminated(t, recs.data() + i * t->desc->size, i);
+    std::vector<char> recs = records_of(t);
     const std::string one = with_large_numbers(emit(t, recs.data(), 1, false));
     const std::string many = with_large_numbers(emit(t, recs.data(), kElements, true));
     std::vector<char> buf;
@@ -483,8 +482,7 @@ TEST_P(TextReaders, through_the_tree_give_minus_2_untouched_and_leak_nothing) {
 TEST_P(TreeReaders, allocate_nothing) {
     const TypeInfo *t = GetParam();
     const s2j::Families &f = t->fam;
-    std::vector<char> recs(t->desc->size * kElements);
-    for (uint32_t i = 0; i < kElements; ++i) fill_unterminated(t, recs.data() + i * t->desc->size, i);
+    std::vector<char> recs = records_of(t);
     Tree one(s2j::parse_marked(with_large_numbers(emit(t, recs.data(), 1, false)).c_str(), 0, false));
     Tree many(s2j::parse_marked(with_large_numbers(emit(t, recs.data(), kElements, true)).c_str(), 0, false));
     ASSERT_NE(one.p, nullptr);
@@ -532,8 +530,7 @@ class FileWriters : public ::testing::TestWithParam<const TypeInfo *> {};
 TEST_P(FileReaders, give_minus_15_when_the_text_buffer_fails_and_allocate_nothing_else) {
     const TypeInfo *t = GetParam();
     const s2j::Families &f = t->fam;
-    std::vector<char> recs(t->desc->size * kElements);
-    for (uint32_t i = 0; i < kElements; ++i) fill_unterminated(t, recs.data() + i * t->desc->size, i);
+    std::vector<char> recs = records_of(t);
     const std::string dir = temp_dir();
     struct Case {
         const char *what;
@@ -581,8 +578,7 @@ TEST_P(FileReaders, give_minus_15_when_the_text_buffer_fails_and_allocate_nothin
 TEST_P(FileWriters, give_minus_15_without_text_and_minus_7_when_fopen_fails) {
     const TypeInfo *t = GetParam();
     const s2j::Families &f = t->fam;
-    std::vector<char> recs(t->desc->size * kElements);
-    for (uint32_t i = 0; i < kElements; ++i) fill_unterminated(t, recs.data() + i * t->desc->size, i);
+    std::vector<char> recs = records_of(t);
     const std::string dir = temp_dir();
     for (int which = 0; which < 2; ++which) {
         const bool array = which == 1;

@@ -8,6 +8,7 @@
 #include "support.h"
 
 using testing_support::print_compact;
+using testing_support::record_from_text;
 using testing_support::Text;
 using testing_support::Tree;
 
@@ -52,11 +53,8 @@ TEST(FieldCodecs, SignedFieldEmitsMinusFiveAndUnsignedFieldTheSameBitsAs42949672
 }
 
 TEST(FieldCodecs, IntegerFieldsStoreTheLow32BitsOfTheValue) {
-    DeviceTime t = {};
-    ASSERT_EQ(j2s_DeviceTime("{\"UTCTime\": 6000000000, \"Month\": 6000000000, \"Day\": 4294967296, "
-                             "\"Year\": 4294967295, \"Hour\": -1}",
-                             &t),
-              0);
+    const DeviceTime t = record_from_text(j2s_DeviceTime, "{\"UTCTime\": 6000000000, \"Month\": 6000000000, "
+                                                          "\"Day\": 4294967296, \"Year\": 4294967295, \"Hour\": -1}");
     EXPECT_EQ(t.UTCTime, 1705032704);
     EXPECT_EQ(t.Month, 1705032704u);
     EXPECT_EQ(t.Day, 0u);
@@ -65,12 +63,9 @@ TEST(FieldCodecs, IntegerFieldsStoreTheLow32BitsOfTheValue) {
 }
 
 TEST(FieldCodecs, ValuesBeyondTwoToThe53AreReadExactly) {
-    DeviceTime t = {};
     // 2^53 + 1 and 2^63 - 1: a double would lose the low bits.
-    ASSERT_EQ(j2s_DeviceTime("{\"Day\": 9007199254740993, \"Hour\": 9223372036854775807, "
-                             "\"Minute\": -9223372036854775808}",
-                             &t),
-              0);
+    const DeviceTime t = record_from_text(j2s_DeviceTime, "{\"Day\": 9007199254740993, \"Hour\": 9223372036854775807, "
+                                                          "\"Minute\": -9223372036854775808}");
     EXPECT_EQ(t.Day, 1u);
     EXPECT_EQ(t.Hour, 0xFFFFFFFFu);
     EXPECT_EQ(t.Minute, 0u);

@@ -4,6 +4,7 @@
 
 #include <cstring>
 #include <string>
+#include <vector>
 
 #include "app_s2j.h"
 #include "registry.h"
@@ -65,14 +66,20 @@ TEST(Files, RecordArrayWrittenByS2fArrayReadsBackAndAnswersAQuery) {
     EXPECT_EQ(std::memcmp(back, tasks, sizeof tasks), 0);
 }
 
-TEST(Files, EmptyFileIsAParseFailureReportedByJ2s) {
-    std::string path = temp_dir() + "/empty.json";
-    write_file(path, "");
+// What f2s_CrontabCapabilitySet writes to the standard error stream as it
+// reads a file that holds `text`, returning `status`.
+std::string f2s_caps_diagnostic(const std::string &text, int status) {
+    const std::string path = temp_dir() + "/caps.json";
+    write_file(path, text);
     CrontabCapabilitySet c = {};
     StderrCapture err;
-    EXPECT_EQ(f2s_CrontabCapabilitySet(path.c_str(), &c), -2);
-    EXPECT_EQ(err.text(), diag(text_list_file(), 8, "j2s_CrontabCapabilitySet",
-                               "cJSON_Parse() failed! reason: " + parse_reason("") + "\n"));
+    EXPECT_EQ(f2s_CrontabCapabilitySet(path.c_str(), &c), status) << text;
+    return err.text();
+}
+
+TEST(Files, EmptyFileIsAParseFailureReportedByJ2s) {
+    EXPECT_EQ(f2s_caps_diagnostic("", -2), diag(text_list_file(), 8, "j2s_CrontabCapabilitySet",
+                                                "cJSON_Parse() failed! reason: " + parse_reason("") + "\n"));
 }
 
 TEST(Files, MissingFileGivesMinus15AndPrintsNothing) {
@@ -166,12 +173,7 @@ TEST(Files, NullFileNameIsRefusedUnderTheFileFamilysOwnLine) {
 }
 
 TEST(Files, ReaderFailureInAFileIsReportedByC2sAndReturnsMinusOne) {
-    std::string path = temp_dir() + "/bad.json";
-    write_file(path, "{\"MaxTaskNumber\": \"many\"}");
-    CrontabCapabilitySet c = {};
-    StderrCapture err;
-    EXPECT_EQ(f2s_CrontabCapabilitySet(path.c_str(), &c), -1);
-    EXPECT_EQ(err.text(),
+    EXPECT_EQ(f2s_caps_diagnostic("{\"MaxTaskNumber\": \"many\"}", -1),
               diag(text_list_file(), 7, "c2s_CrontabCapabilitySet", "json_to_struct_CrontabCapabilitySet failed!\n"));
 }
 
@@ -179,11 +181,7 @@ TEST(Files, ArrayFileReadWithSmallerCapacityFillsOnlyThat) {
     std::string path = temp_dir() + "/crontab.json";
     CrontabParameter tasks[3] = {task(1), task(2), task(3)};
     ASSERT_EQ(s2f_array_CrontabParameter(path.c_str(), tasks, 3), 0);
-    CrontabParameter back[2] = {};
-    uint32_t n = 2;
-    EXPECT_EQ(f2s_array_CrontabParameter(path.c_str(), back, &n), 0);
-    EXPECT_EQ(n, 2u);
-    EXPECT_EQ(back[1].Index, 2u);
+    EXPECT_EQ(read_array_back(f2s_array_CrontabParameter, path.c_str(), 2, 2)[1].Index, 2u);
 }
 
 TEST(Files, DirectoryAsFileNameOfF2sGivesMinus15AndPrintsNothing) {

@@ -222,24 +222,20 @@ TEST(KeyedUpdate, StringKeyOf70CharactersMatchesTheRecordHoldingItsFirst63) {
 TEST(KeyedUpdate, StringKeysAreComparedWithLetterCase) {
     NetworkLANParameter lan[1] = {};
     std::strcpy(lan[0].InterfaceName, "eth0");
-    uint32_t n = 1;
-    EXPECT_EQ(j2s_array_update_NetworkLANParameter("[{\"InterfaceName\": \"ETH0\", \"MTUSize\": 1400}]", lan, &n), 0);
-    EXPECT_EQ(n, 0u);
+    expect_update_applies(j2s_array_update_NetworkLANParameter, "[{\"InterfaceName\": \"ETH0\", \"MTUSize\": 1400}]",
+                          lan, 1, 0);
     EXPECT_EQ(lan[0].MTUSize, 0);
 }
 
 TEST(KeyedUpdate, TwoFieldKeyWithMatchingChannelButOtherStreamIndexIsSkipped) {
     VideoEncodeParameter enc[2] = {};
-    enc[0].Channel = 1;
-    enc[0].StreamIndex = 0;
-    enc[1].Channel = 1;
-    enc[1].StreamIndex = 1;
-    uint32_t n = 2;
-    EXPECT_EQ(j2s_array_update_VideoEncodeParameter("[{\"Channel\": 1, \"StreamIndex\": 2, \"GOP\": 50}, "
-                                                    "{\"Channel\": 1, \"StreamIndex\": 1, \"GOP\": 25}]",
-                                                    enc, &n),
-              0);
-    EXPECT_EQ(n, 1u);
+    for (uint32_t i = 0; i < 2; ++i) {
+        enc[i].Channel = 1;
+        enc[i].StreamIndex = i;
+    }
+    expect_update_applies(j2s_array_update_VideoEncodeParameter,
+                          "[{\"Channel\": 1, \"StreamIndex\": 2, \"GOP\": 50}, {\"Channel\": 1,"
+                          " \"StreamIndex\": 1, \"GOP\": 25}]", enc, 2, 1);
     EXPECT_EQ(enc[0].GOP, 0u);
     EXPECT_EQ(enc[1].GOP, 25u);
 }
@@ -257,10 +253,10 @@ TEST(KeyedUpdate, TwoFieldKeyNeedsBothKeysInEveryElement) {
 
 TEST(KeyedUpdate, StringThenIntegerKeyMatchesOnlyWhenBoth) {
     VideoOutputScreenSplitParameter split[2] = {};
-    std::strcpy(split[0].InterfaceName, "HDMI-OUT1");
-    split[0].UserDefinedScreenSplitModeIndex = 1;
-    std::strcpy(split[1].InterfaceName, "HDMI-OUT1");
-    split[1].UserDefinedScreenSplitModeIndex = 2;
+    for (uint32_t i = 0; i < 2; ++i) {
+        std::strcpy(split[i].InterfaceName, "HDMI-OUT1");
+        split[i].UserDefinedScreenSplitModeIndex = i + 1;
+    }
     uint32_t n = 2;
     Text text(s2j_array_VideoOutputScreenSplitParameter(&split[1], 1, 0));
     EXPECT_EQ(j2s_array_update_VideoOutputScreenSplitParameter(text.p, split, &n), 0);

@@ -344,12 +344,9 @@ TEST(VideoOutputScreenSplitParameter, UpdateWithoutTheIndexKeyReportsTheKeywordM
 
 TEST(VideoOutputScreenSplitParameter, UpdateComparesTheNameCaseSensitively) {
     VideoOutputScreenSplitParameter a[1] = {layout("HDMI-OUT-0", 0, 1)};
-    uint32_t n = 1;
-    EXPECT_EQ(j2s_array_update_VideoOutputScreenSplitParameter(
-                  "[{\"InterfaceName\":\"hdmi-out-0\",\"UserDefinedScreenSplitModeIndex\":0,\"SplitWindowNumber\":4}]",
-                  a, &n),
-              0);
-    EXPECT_EQ(n, 0u);
+    expect_update_applies(j2s_array_update_VideoOutputScreenSplitParameter,
+                          "[{\"InterfaceName\":\"hdmi-out-0\",\"UserDefinedScreenSplitModeIndex\":0,"
+                          "\"SplitWindowNumber\":4}]", a, 1, 0);
     EXPECT_EQ(a[0].SplitWindowNumber, 1u);
 }
 
@@ -358,11 +355,8 @@ TEST(VideoOutputInterfaceParameter, UpdateFindsTheInterfaceByName) {
     set(a[0].InterfaceName, "HDMI-OUT-0");
     set(a[1].InterfaceName, "SDI-OUT-0");
     a[0].Brightness = a[1].Brightness = 50;
-    uint32_t n = 2;
-    EXPECT_EQ(j2s_array_update_VideoOutputInterfaceParameter(
-                  "[{\"InterfaceName\":\"SDI-OUT-0\",\"Brightness\":70,\"Timing\":\"1920x1080P50\"}]", a, &n),
-              0);
-    EXPECT_EQ(n, 1u);
+    expect_update_applies(j2s_array_update_VideoOutputInterfaceParameter,
+                          "[{\"InterfaceName\":\"SDI-OUT-0\",\"Brightness\":70,\"Timing\":\"1920x1080P50\"}]", a, 2, 1);
     EXPECT_EQ(a[0].Brightness, 50u);
     EXPECT_EQ(a[1].Brightness, 70u);
     EXPECT_STREQ(a[1].Timing, "1920x1080P50");
@@ -473,11 +467,8 @@ TEST(VideoOutputPlaylistParameter, UpdateFindsThePlaylistByIndex) {
         a[i].Index = i + 1;
         set(a[i].Name, "list");
     }
-    uint32_t n = 3;
-    EXPECT_EQ(j2s_array_update_VideoOutputPlaylistParameter(
-                  "[{\"Index\":3,\"Name\":\"Lobby\"},{\"Index\":7,\"Name\":\"none\"}]", a, &n),
-              0);
-    EXPECT_EQ(n, 1u);
+    expect_update_applies(j2s_array_update_VideoOutputPlaylistParameter,
+                          "[{\"Index\":3,\"Name\":\"Lobby\"},{\"Index\":7,\"Name\":\"none\"}]", a, 3, 1);
     EXPECT_STREQ(a[2].Name, "Lobby");
     EXPECT_STREQ(a[0].Name, "list");
     uint32_t key = 0;
@@ -488,20 +479,13 @@ TEST(VideoOutputPlaylistParameter, UpdateFindsThePlaylistByIndex) {
 
 TEST(VideoOutputSourceParameter, UpdateFindsTheChannelAndKeywordNeedsAnInteger) {
     VideoOutputSourceParameter a[2] = {{0, 0, 0, 100}, {1, 0, 0, 100}};
-    uint32_t n = 2;
-    EXPECT_EQ(
-        j2s_array_update_VideoOutputSourceParameter("[{\"Channel\":1,\"SourceIndex\":-1,\"CacheTime\":250}]", a, &n),
-        0);
-    EXPECT_EQ(n, 1u);
+    expect_update_applies(j2s_array_update_VideoOutputSourceParameter,
+                          "[{\"Channel\":1,\"SourceIndex\":-1,\"CacheTime\":250}]", a, 2, 1);
     EXPECT_EQ(a[1].SourceIndex, -1);
     EXPECT_EQ(a[1].CacheTime, 250);
     EXPECT_EQ(a[0].CacheTime, 100);
-    VideoOutputSourceParameterKeyword k = {};
-    Tree s(cJSON_Parse("{\"Channel\":\"1\"}"));
-    EXPECT_EQ(json_to_struct_VideoOutputSourceParameterKeyword(&k, s.p), 0);
-    uint32_t ch = 9;
-    EXPECT_EQ(json_to_struct_GetVideoOutputSourceParameterKeyword(&ch, s.p), 0);
-    EXPECT_EQ(ch, 9u);
+    expect_keyword_readers_refuse(json_to_struct_VideoOutputSourceParameterKeyword,
+                                  json_to_struct_GetVideoOutputSourceParameterKeyword, "{\"Channel\":\"1\"}");
 }
 
 // ---- Audio output and decoding -------------------------------------------
@@ -594,16 +578,9 @@ TEST(AudioOutputParameter, UpdateElementWithoutChannelFailsWithTheKeywordMessage
 }
 
 TEST(AudioOutputParameter, KeywordReadersRequireAnIntegerChannel) {
-    AudioOutputParameterKeyword k = {};
-    uint32_t ch = 0;
-    Tree s(cJSON_Parse("{\"Channel\":\"2\"}"));
-    EXPECT_EQ(json_to_struct_AudioOutputParameterKeyword(&k, s.p), 0);
-    EXPECT_EQ(json_to_struct_GetAudioOutputParameterKeyword(&ch, s.p), 0);
-    Tree i(cJSON_Parse("{\"Channel\":2,\"InterfaceName\":\"LINE-OUT-0\"}"));
-    EXPECT_EQ(json_to_struct_AudioOutputParameterKeyword(&k, i.p), 1);
-    EXPECT_EQ(json_to_struct_GetAudioOutputParameterKeyword(&ch, i.p), 1);
-    EXPECT_EQ(k.Channel, 2u);
-    EXPECT_EQ(ch, 2u);
+    expect_channel_keyword_readers(json_to_struct_AudioOutputParameterKeyword,
+                                   json_to_struct_GetAudioOutputParameterKeyword,
+                                   "{\"Channel\":2,\"InterfaceName\":\"LINE-OUT-0\"}", 2, {"{\"Channel\":\"2\"}"});
 }
 
 TEST(AudioOutputInterfaceParameter, KeywordReadersRequireAStringAndKeepAtMost63Characters) {
@@ -641,10 +618,8 @@ TEST(AudioOutputInterfaceParameter, UpdateFindsTheInterfaceByName) {
     AudioOutputInterfaceParameter a[2] = {};
     set(a[0].InterfaceName, "LINE-OUT-0");
     set(a[1].InterfaceName, "HDMI-OUT-0");
-    uint32_t n = 2;
-    EXPECT_EQ(j2s_array_update_AudioOutputInterfaceParameter("[{\"InterfaceName\":\"HDMI-OUT-0\",\"Gain\":-3}]", a, &n),
-              0);
-    EXPECT_EQ(n, 1u);
+    expect_update_applies(j2s_array_update_AudioOutputInterfaceParameter,
+                          "[{\"InterfaceName\":\"HDMI-OUT-0\",\"Gain\":-3}]", a, 2, 1);
     EXPECT_EQ(a[1].Gain, -3);
     EXPECT_EQ(a[0].Gain, 0);
 }
@@ -862,39 +837,30 @@ TEST(Watermarks, UpdatesFindTheInterfaceByName) {
     WatermarkPictureParameter p[2] = {};
     set(p[0].InterfaceName, "HDMI-OUT-0");
     set(p[1].InterfaceName, "SDI-OUT-0");
-    uint32_t n = 2;
-    EXPECT_EQ(
-        j2s_array_update_WatermarkPictureParameter(
-            "[{\"InterfaceName\":\"SDI-OUT-0\",\"ImageFilePath\":\"/data/wm/logo.png\",\"RotationAngle\":-90}]", p, &n),
-        0);
-    EXPECT_EQ(n, 1u);
+    expect_update_applies(j2s_array_update_WatermarkPictureParameter,
+                          "[{\"InterfaceName\":\"SDI-OUT-0\",\"ImageFilePath\":\"/data/wm/logo.png\","
+                          "\"RotationAngle\":-90}]", p, 2, 1);
     EXPECT_STREQ(p[1].ImageFilePath, "/data/wm/logo.png");
     EXPECT_EQ(p[1].RotationAngle, -90);
     EXPECT_STREQ(p[0].ImageFilePath, "");
 
     WatermarkDotmatrixParameter d[1] = {};
     set(d[0].InterfaceName, "HDMI-OUT-0");
-    n = 1;
-    EXPECT_EQ(j2s_array_update_WatermarkDotmatrixParameter("[{\"InterfaceName\":\"HDMI-OUT-0\",\"Color\":\"#808080\"}]",
-                                                           d, &n),
-              0);
+    expect_update_applies(j2s_array_update_WatermarkDotmatrixParameter,
+                          "[{\"InterfaceName\":\"HDMI-OUT-0\",\"Color\":\"#808080\"}]", d, 1, 1);
     EXPECT_STREQ(d[0].Color, "#808080");
 
     WatermarkOSDParameter o[1] = {};
     set(o[0].InterfaceName, "HDMI-OUT-0");
-    n = 1;
-    EXPECT_EQ(j2s_array_update_WatermarkOSDParameter("[{\"InterfaceName\":\"HDMI-OUT-1\",\"Content\":\"x\"}]", o, &n),
-              0);
-    EXPECT_EQ(n, 0u);
+    expect_update_applies(j2s_array_update_WatermarkOSDParameter,
+                          "[{\"InterfaceName\":\"HDMI-OUT-1\",\"Content\":\"x\"}]", o, 1, 0);
     EXPECT_STREQ(o[0].Content, "");
 }
 
 TEST(UploadWatermarkPictureParameter, RequestReadsAndWritesTheLargestFileSize) {
-    UploadWatermarkPictureParameter u = {};
-    ASSERT_EQ(j2s_UploadWatermarkPictureParameter("{\"InterfaceName\":\"HDMI-OUT-0\",\"ImageFilePath\":\"/tmp/upload/"
-                                                  "logo.png\",\"ImageFileSize\":4294967295}",
-                                                  &u),
-              0);
+    const UploadWatermarkPictureParameter u =
+        record_from_text(j2s_UploadWatermarkPictureParameter, "{\"InterfaceName\":\"HDMI-OUT-0\",\"ImageFilePath\":"
+                                                              "\"/tmp/upload/logo.png\",\"ImageFileSize\":4294967295}");
     EXPECT_EQ(u.ImageFileSize, 4294967295u);
     Text t(s2j_UploadWatermarkPictureParameter(&u, 0));
     EXPECT_EQ(

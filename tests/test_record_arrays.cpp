@@ -3,6 +3,7 @@
 
 #include <cstring>
 #include <string>
+#include <vector>
 
 #include "app_s2j.h"
 #include "support.h"
@@ -17,6 +18,15 @@ constexpr int kS2jArrayLine = 10, kC2sArrayLine = 11, kJ2sArrayLine = 13;
 CrontabParameter task(uint32_t index, const char *command) { return crontab_task(index, "*/5", "*", "1-5", command); }
 
 const char *kFive = "[{\"Index\":1},{\"Index\":2},{\"Index\":3},{\"Index\":4},{\"Index\":5}]";
+
+// c2s_array of the tree of `doc` into `tasks`, with room for `room` of them:
+// status 0 and `count` records read.
+void expect_c2s_array_reads(const char *doc, CrontabParameter *tasks, uint32_t room, uint32_t count) {
+    Tree tree(cJSON_Parse(doc));
+    uint32_t n = room;
+    EXPECT_EQ(c2s_array_CrontabParameter(tree.p, tasks, &n), 0) << doc;
+    EXPECT_EQ(n, count) << doc;
+}
 
 TEST(RecordArrays, S2jArrayEmitsElementsInOrderIndentedOrCompact) {
     CrontabParameter tasks[2] = {task(1, "sync"), task(2, "reboot")};
@@ -96,11 +106,8 @@ TEST(RecordArrays, C2sArrayWithNullArrayStoresTheElementCountWhateverItHeld) {
 }
 
 TEST(RecordArrays, CapacityTwoReadsTwoOfFiveElements) {
-    Tree tree(cJSON_Parse(kFive));
     CrontabParameter tasks[3] = {task(9, "a"), task(9, "b"), task(9, "c")};
-    uint32_t n = 2;
-    EXPECT_EQ(c2s_array_CrontabParameter(tree.p, tasks, &n), 0);
-    EXPECT_EQ(n, 2u);
+    expect_c2s_array_reads(kFive, tasks, 2, 2);
     EXPECT_EQ(tasks[0].Index, 1u);
     EXPECT_EQ(tasks[1].Index, 2u);
     EXPECT_EQ(tasks[2].Index, 9u);  // beyond the capacity: untouched
@@ -108,28 +115,19 @@ TEST(RecordArrays, CapacityTwoReadsTwoOfFiveElements) {
 }
 
 TEST(RecordArrays, CapacityZeroReadsNothing) {
-    Tree tree(cJSON_Parse(kFive));
     CrontabParameter tasks[1] = {task(9, "a")};
-    uint32_t n = 0;
-    EXPECT_EQ(c2s_array_CrontabParameter(tree.p, tasks, &n), 0);
-    EXPECT_EQ(n, 0u);
+    expect_c2s_array_reads(kFive, tasks, 0, 0);
     EXPECT_EQ(tasks[0].Index, 9u);
 }
 
 TEST(RecordArrays, EmptyJsonArrayWithCapacityFourGivesCountZero) {
-    Tree tree(cJSON_Parse("[]"));
     CrontabParameter tasks[4] = {};
-    uint32_t n = 4;
-    EXPECT_EQ(c2s_array_CrontabParameter(tree.p, tasks, &n), 0);
-    EXPECT_EQ(n, 0u);
+    expect_c2s_array_reads("[]", tasks, 4, 0);
 }
 
 TEST(RecordArrays, ElementsThatAreNumbersAreReadAsEmptyObjects) {
-    Tree tree(cJSON_Parse("[1, 2, 3]"));
     CrontabParameter tasks[3] = {task(7, "a"), task(8, "b"), task(9, "c")};
-    uint32_t n = 3;
-    EXPECT_EQ(c2s_array_CrontabParameter(tree.p, tasks, &n), 0);
-    EXPECT_EQ(n, 3u);
+    expect_c2s_array_reads("[1, 2, 3]", tasks, 3, 3);
     EXPECT_EQ(tasks[0].Index, 7u);
     EXPECT_EQ(tasks[2].Index, 9u);
 }
@@ -224,24 +222,15 @@ TEST(RecordArrays, J2sArrayOfAnObjectIsRefusedByC2sArray) {
 TEST(RecordArrays, J2sArrayReadsTheWholeListAndReturnsTheCount) {
     CrontabParameter tasks[2] = {task(1, "sync"), task(2, "reboot")};
     Text text(s2j_array_CrontabParameter(tasks, 2, 1));
-    CrontabParameter back[4] = {};
-    uint32_t n = 4;
-    EXPECT_EQ(j2s_array_CrontabParameter(text.p, back, &n), 0);
-    EXPECT_EQ(n, 2u);
-    EXPECT_EQ(std::memcmp(back, tasks, sizeof tasks), 0);
+    std::vector<CrontabParameter> back = read_array_back(j2s_array_CrontabParameter, text.p, 4, 2);
+    EXPECT_EQ(std::memcmp(back.data(), tasks, sizeof tasks), 0);
     CrontabParameter empty = {};
     EXPECT_EQ(std::memcmp(&back[2], &empty, sizeof empty), 0);
 }
 
 TEST(RecordArrays, ArrayTypeWithoutUpdateRoundTrips) {
-    TimeZone zones[2] = {};
-    std::strcpy(zones[0].Name, "UTC+08:00");
-    std::strcpy(zones[0].CityList, "Beijing,Shanghai,Hong Kong,Singapore");
-    zones[0].UTCOffset = 480;
-    std::strcpy(zones[1].Name, "UTC-05:00");
-    std::strcpy(zones[1].CityList, "New York,Toronto");
-    zones[1].UTCOffset = -300;
-    zones[1].SupportDaylightSavingTime = 1;
+    TimeZone zones[2] = {{"UTC+08:00", "Beijing,Shanghai,Hong Kong,Singapore", 480, 0},
+                         {"UTC-05:00", "New York,Toronto", -300, 1}};
     Text text(s2j_array_TimeZone(zones, 2, 0));
     TimeZone back[2] = {};
     uint32_t n = 2;

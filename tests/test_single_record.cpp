@@ -173,19 +173,22 @@ TEST(SingleRecord, J2sQuotesTheRestOfTheTextFromWhereParsingStopped) {
                             "cJSON_Parse({\"ProductModel\": nope}) failed! reason: nope}\n"));
 }
 
-TEST(SingleRecord, J2sWithLenOfTruncatedTextPrintsNoNewlineBeforeTheReset) {
+// What j2s_DeviceInfo_with_len writes to the standard error stream as it
+// refuses `len` bytes of `text` (status -2).
+std::string j2s_with_len_refusal(const char *text, size_t len) {
     DeviceInfo info = {};
     StderrCapture err;
-    EXPECT_EQ(j2s_DeviceInfo_with_len("{", 1, &info), -2);
-    EXPECT_EQ(err.text(),
+    EXPECT_EQ(j2s_DeviceInfo_with_len(text, len, &info), -2) << text;
+    return err.text();
+}
+
+TEST(SingleRecord, J2sWithLenOfTruncatedTextPrintsNoNewlineBeforeTheReset) {
+    EXPECT_EQ(j2s_with_len_refusal("{", 1),
               text_diag(kJ2sLine, "j2s_DeviceInfo_with_len", "cJSON_ParseWithLength({, 1) failed! reason: {"));
 }
 
 TEST(SingleRecord, J2sWithLenPrintsTheWholeNulTerminatedTextWhateverTheLength) {
-    DeviceInfo info = {};
-    StderrCapture err;
-    EXPECT_EQ(j2s_DeviceInfo_with_len("{\"ProductModel\": \"x\"}", 3, &info), -2);
-    std::string e = err.text();
+    const std::string e = j2s_with_len_refusal("{\"ProductModel\": \"x\"}", 3);
     EXPECT_EQ(e.find(text_diag(kJ2sLine, "j2s_DeviceInfo_with_len", "").substr(0, 20)), 0u);
     EXPECT_NE(e.find("cJSON_ParseWithLength({\"ProductModel\": \"x\"}, 3) failed! reason: "), std::string::npos);
 }
@@ -198,10 +201,7 @@ TEST(SingleRecord, J2sWithLenReadsOnlyTheGivenBytes) {
 }
 
 TEST(SingleRecord, J2sWithLenOfLengthZeroIsRefusedWithoutParsing) {
-    DeviceInfo info = {};
-    StderrCapture err;
-    EXPECT_EQ(j2s_DeviceInfo_with_len("{}", 0, &info), -2);
-    EXPECT_EQ(err.text(),
+    EXPECT_EQ(j2s_with_len_refusal("{}", 0),
               text_diag(kJ2sLine, "j2s_DeviceInfo_with_len", "json_str or json_str_len or struct_ptr is empty!\n"));
 }
 

@@ -101,23 +101,6 @@ void fill_generated(const TypeInfo *t, char *rec, Rng &rng, uint32_t pick, Strin
     }
 }
 
-std::string printed(cJSON *tree, bool formatted) {
-    char *p = formatted ? cJSON_Print(tree) : cJSON_PrintUnformatted(tree);
-    std::string s = p != nullptr ? p : "<no text>";
-    std::free(p);
-    cJSON_Delete(tree);
-    return s;
-}
-
-// What cJSON prints for the emitter's tree of one record or of n records.
-std::string reference(const TypeInfo *t, const char *recs, uint32_t n, bool as_array, bool formatted) {
-    if (!as_array) return printed(t->hooks->emit(recs), formatted);
-    cJSON *list = cJSON_CreateArray();
-    for (uint32_t i = 0; i < n; ++i)
-        cJSON_AddItemToArray(list, t->hooks->emit(recs + static_cast<size_t>(i) * t->desc->size));
-    return printed(list, formatted);
-}
-
 // s2j of the first record and s2j_array of all n, in both formats, against
 // the reference; false after the first difference (reported).
 bool writers_agree(const TypeInfo *t, const std::vector<char> &recs, uint32_t n, const std::string &what) {
@@ -125,12 +108,12 @@ bool writers_agree(const TypeInfo *t, const std::vector<char> &recs, uint32_t n,
         SCOPED_TRACE(what + (formatted ? ", indented" : ", compact"));
         if (t->fam.s2j != nullptr) {
             Text got(t->fam.s2j(recs.data(), formatted));
-            EXPECT_EQ(got.str(), reference(t, recs.data(), 1, false, formatted));
+            EXPECT_EQ(got.str(), s2j::emitter_text(t, recs.data(), 1, false, formatted));
             if (::testing::Test::HasFailure()) return false;
         }
         if (t->fam.s2j_array != nullptr) {
             Text got(t->fam.s2j_array(recs.data(), n, formatted));
-            EXPECT_EQ(got.str(), reference(t, recs.data(), n, true, formatted));
+            EXPECT_EQ(got.str(), s2j::emitter_text(t, recs.data(), n, true, formatted));
             if (::testing::Test::HasFailure()) return false;
         }
     }
@@ -206,12 +189,12 @@ TEST_P(FileWriter, s2f_and_s2f_array_write_cjsons_indented_bytes_to_the_file) {
     const std::string path = temp_dir() + "/written.json";
     if (t->fam.s2f != nullptr) {
         ASSERT_EQ(t->fam.s2f(path.c_str(), recs.data()), 0);
-        EXPECT_EQ(read_file(path), reference(t, recs.data(), 1, false, true));
+        EXPECT_EQ(read_file(path), s2j::emitter_text(t, recs.data(), 1, false, true));
     }
     if (t->fam.s2f_array != nullptr) {
         for (uint32_t count : {1u, n}) {
             ASSERT_EQ(t->fam.s2f_array(path.c_str(), recs.data(), count), 0);
-            EXPECT_EQ(read_file(path), reference(t, recs.data(), count, true, true)) << count << " records";
+            EXPECT_EQ(read_file(path), s2j::emitter_text(t, recs.data(), count, true, true)) << count << " records";
         }
     }
 }
@@ -281,8 +264,8 @@ TEST(TextWriterAllocation, one_allocation_through_cjsons_allocator_per_text) {
         Text ta(a), tb(b);
         EXPECT_EQ(after_one, 1);
         EXPECT_EQ(after_many, 2);
-        EXPECT_EQ(ta.str(), reference(one, rec.data(), 1, false, formatted));
-        EXPECT_EQ(tb.str(), reference(many, recs.data(), 64, true, formatted));
+        EXPECT_EQ(ta.str(), s2j::emitter_text(one, rec.data(), 1, false, formatted));
+        EXPECT_EQ(tb.str(), s2j::emitter_text(many, recs.data(), 64, true, formatted));
     }
 }
 

@@ -10,8 +10,10 @@
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
+#include <initializer_list>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "registry.h"
@@ -61,6 +63,13 @@ Members example_record(const s2j::TypeInfo &t) {
         m.emplace_back(json_string(c->string), printed(c));
     cJSON_Delete(tree);
     return m;
+}
+
+// Every registry type with the first record of its example.
+std::vector<std::pair<const s2j::TypeInfo *, Members>> example_records() {
+    std::vector<std::pair<const s2j::TypeInfo *, Members>> v;
+    for (const s2j::TypeInfo *t : all_types()) v.emplace_back(t, example_record(*t));
+    return v;
 }
 
 bool has_array_reader(const s2j::TypeInfo &t) { return app_s2j_tool::reads_arrays(t); }
@@ -226,9 +235,8 @@ std::string document(const s2j::TypeInfo &t, const Members &m) {
 TEST(Validator, AgreesWithTheLibraryOnEveryValueOfEveryFieldOfEveryType) {
     Library lib;
     Tally tally;
-    for (const s2j::TypeInfo *type : all_types()) {
+    for (const auto &[type, base] : example_records()) {
         const s2j::TypeInfo &t = *type;
-        Members base = example_record(t);
         ASSERT_EQ(base.size(), t.desc->field_count) << t.name;
         compare(t, document(t, base), lib, &tally, "example record");
         for (uint32_t fi = 0; fi < t.desc->field_count; ++fi) {
@@ -248,9 +256,8 @@ TEST(Validator, AgreesWithTheLibraryOnEveryValueOfEveryFieldOfEveryType) {
 TEST(Validator, AgreesWithTheLibraryOnKeySpellingsRepetitionsAndUnknownKeys) {
     Library lib;
     Tally tally;
-    for (const s2j::TypeInfo *type : all_types()) {
+    for (const auto &[type, base] : example_records()) {
         const s2j::TypeInfo &t = *type;
-        Members base = example_record(t);
         for (uint32_t fi = 0; fi < t.desc->field_count; ++fi) {
             std::string key = t.desc->fields[fi].key, lower, upper;
             for (char c : key) {
@@ -286,9 +293,9 @@ TEST(Validator, AgreesWithTheLibraryOnDocumentsOfEveryShape) {
     Library lib;
     lib.against_files = true;
     Tally tally;
-    for (const s2j::TypeInfo *type : all_types()) {
+    for (const auto &[type, example] : example_records()) {
         const s2j::TypeInfo &t = *type;
-        const std::string rec = object_text(example_record(t));
+        const std::string rec = object_text(example);
         const std::string bad = "{\"" + std::string(t.desc->fields[0].key) + "\":{}}";
         for (const std::string &doc : std::vector<std::string>{
                  rec, "[" + rec + "]", "[" + rec + "," + rec + "]", "[" + rec + ",5]", "[[" + rec + "]]", "[5]",
@@ -313,6 +320,16 @@ std::string report(const char *type, const std::string &text, bool update = fals
     const s2j::TypeInfo *t = s2j::find_type(type);
     EXPECT_NE(t, nullptr) << type;
     return t == nullptr ? "" : app_s2j_tool::format_findings("f.json", validate_text(*t, text, update));
+}
+
+// Each document of a type gives its report.
+struct Reported {
+    const char *type;
+    std::string text;
+    std::string report;
+};
+void expect_reports(std::initializer_list<Reported> cases) {
+    for (const Reported &c : cases) EXPECT_EQ(report(c.type, c.text), c.report) << c.type << " " << c.text;
 }
 
 int status(const char *type, const std::string &text, bool update = false) {
@@ -340,21 +357,25 @@ TEST(ValidatorFindings, AStringTooLongForItsFieldIsCut) {
 }
 
 TEST(ValidatorFindings, AnIntegerOutsideItsFieldIsTruncated) {
-    EXPECT_EQ(report("DeviceTime", "{\"Month\":-1}"),
-              "f.json: warning: Month: -1 does not fit uint32 (0..4294967295); the library stores 4294967295\n");
-    EXPECT_EQ(report("DeviceTime", "{\"UTCTime\":2147483648}"),
-              "f.json: warning: UTCTime: 2147483648 does not fit int32 (-2147483648..2147483647); the library "
-              "stores -2147483648\n");
+    expect_reports({
+        {"DeviceTime", "{\"Month\":-1}",
+         "f.json: warning: Month: -1 does not fit uint32 (0..4294967295); the library stores 4294967295\n"},
+        {"DeviceTime", "{\"UTCTime\":2147483648}",
+         "f.json: warning: UTCTime: 2147483648 does not fit int32 (-2147483648..2147483647); the library "
+         "stores -2147483648\n"},
+    });
     EXPECT_EQ(status("DeviceTime", "{\"UTCTime\":-2147483648,\"Month\":4294967295}"), 0);
 }
 
 TEST(ValidatorFindings, NumbersThatAreNotIntegerLiteralsAreRejected) {
-    EXPECT_EQ(report("DeviceTime", "{\"Hour\":1.0}"),
-              "f.json: error: Hour: expected an integer, found the number 1, written with a fraction or an "
-              "exponent (integer fields take digits only)\n");
-    EXPECT_EQ(report("DeviceTime", "{\"Hour\":123456789012345678901234}"),
-              "f.json: error: Hour: expected an integer, found the number 1.2345678901234569e+23, beyond the "
-              "64-bit integer range\n");
+    expect_reports({
+        {"DeviceTime", "{\"Hour\":1.0}",
+         "f.json: error: Hour: expected an integer, found the number 1, written with a fraction or an "
+         "exponent (integer fields take digits only)\n"},
+        {"DeviceTime", "{\"Hour\":123456789012345678901234}",
+         "f.json: error: Hour: expected an integer, found the number 1.2345678901234569e+23, beyond the "
+         "64-bit integer range\n"},
+    });
 }
 
 TEST(ValidatorFindings, AKeyDifferingInLetterCaseIsReadUnderTheFieldsName) {
@@ -365,12 +386,14 @@ TEST(ValidatorFindings, AKeyDifferingInLetterCaseIsReadUnderTheFieldsName) {
 }
 
 TEST(ValidatorFindings, AnUnknownKeySuggestsTheLikelyField) {
-    EXPECT_EQ(report("NetworkInterface", "[{\"Name\":\"eth0\",\"Removable\":1}]"),
-              "f.json: warning: [0].Removable: unknown key, ignored by the library; did you mean \"Removeable\"?\n");
-    EXPECT_EQ(report("SerialPortInterface", "[{\"Removeable\":1}]"),
-              "f.json: warning: [0].Removeable: unknown key, ignored by the library; did you mean \"Removable\"?\n");
-    EXPECT_EQ(report("DeviceTime", "{\"Colour\":1}"),
-              "f.json: warning: Colour: unknown key, ignored by the library (DeviceTime has no such field)\n");
+    expect_reports({
+        {"NetworkInterface", "[{\"Name\":\"eth0\",\"Removable\":1}]",
+         "f.json: warning: [0].Removable: unknown key, ignored by the library; did you mean \"Removeable\"?\n"},
+        {"SerialPortInterface", "[{\"Removeable\":1}]",
+         "f.json: warning: [0].Removeable: unknown key, ignored by the library; did you mean \"Removable\"?\n"},
+        {"DeviceTime", "{\"Colour\":1}",
+         "f.json: warning: Colour: unknown key, ignored by the library (DeviceTime has no such field)\n"},
+    });
 }
 
 TEST(ValidatorFindings, ARepeatedKeyIsIgnoredAfterTheFirst) {
@@ -429,22 +452,24 @@ TEST(ValidatorFindings, ListsReportSkippedAndSurplusEntries) {
 }
 
 TEST(ValidatorFindings, TextThatIsNotJsonSaysWhereItStops) {
-    EXPECT_EQ(report("DeviceInfo", "{\"ProductModel\": \"x\",\n \"Serial"),
-              "f.json: error: the text is not JSON: a string that does not end, at line 2, column 2, near "
-              "\"\\\"Serial\"\n");
-    // A trailing comma is named at the comma, inside the object.
-    EXPECT_EQ(report("DeviceInfo", "{\"ProductModel\": \"x\",\n}"),
-              "f.json: error: the text is not JSON: a comma before '}' (JSON allows no trailing comma), at line 1, "
-              "column 21, near \",\"\n");
-    EXPECT_EQ(report("CrontabParameter", "[{\"Index\": 1},]"),
-              "f.json: error: the text is not JSON: a comma before ']' (JSON allows no trailing comma), at line 1, "
-              "column 14, near \",]\"\n");
-    EXPECT_EQ(report("DeviceInfo", ""), "f.json: error: the text is not JSON: it ends before the document does\n");
-    EXPECT_EQ(report("DeviceInfo", "{} x"),
-              "f.json: warning: text after the document, from line 1, column 4, is ignored by the library\n");
-    EXPECT_EQ(report("DeviceInfo", std::string("{}\0x", 4)),
-              "f.json: warning: a NUL byte at offset 2 (line 1, column 3) ends the text; the library reads no "
-              "further\n");
+    expect_reports({
+        {"DeviceInfo", "{\"ProductModel\": \"x\",\n \"Serial",
+         "f.json: error: the text is not JSON: a string that does not end, at line 2, column 2, near "
+         "\"\\\"Serial\"\n"},
+        // A trailing comma is named at the comma, inside the object.
+        {"DeviceInfo", "{\"ProductModel\": \"x\",\n}",
+         "f.json: error: the text is not JSON: a comma before '}' (JSON allows no trailing comma), at line 1, "
+         "column 21, near \",\"\n"},
+        {"CrontabParameter", "[{\"Index\": 1},]",
+         "f.json: error: the text is not JSON: a comma before ']' (JSON allows no trailing comma), at line 1, "
+         "column 14, near \",]\"\n"},
+        {"DeviceInfo", "", "f.json: error: the text is not JSON: it ends before the document does\n"},
+        {"DeviceInfo", "{} x",
+         "f.json: warning: text after the document, from line 1, column 4, is ignored by the library\n"},
+        {"DeviceInfo", std::string("{}\0x", 4),
+         "f.json: warning: a NUL byte at offset 2 (line 1, column 3) ends the text; the library reads no "
+         "further\n"},
+    });
 }
 
 TEST(ValidatorFindings, JsonNestedDeeperThanTheLibraryReadsIsNamedSo) {
@@ -458,25 +483,27 @@ TEST(ValidatorFindings, JsonNestedDeeperThanTheLibraryReadsIsNamedSo) {
 
 TEST(ValidatorFindings, TextOnlyTheLibrarysParserReadsIsAWarningWithItsPlace) {
     const char *tail = "; the library reads it, other JSON parsers may not\n";
-    EXPECT_EQ(report("DeviceInfo", "{\"ProductModel\": \"a\tb\"}"),
-              std::string("f.json: warning: not standard JSON: the control byte 0x09 unescaped inside a string (JSON "
-                          "wants \\u0009), at line 1, column 20") + tail);
-    EXPECT_EQ(report("DeviceInfo", "{\"ProductModel\": \"a\nb\"}"),
-              std::string("f.json: warning: not standard JSON: the control byte 0x0a unescaped inside a string (JSON "
-                          "wants \\u000a), at line 1, column 20") + tail);
-    EXPECT_EQ(report("DeviceInfo", "{\"ProductModel\": \"a\xff\xfe\"}"),
-              std::string("f.json: warning: not standard JSON: the byte 0xff, which is not UTF-8, at line 1, column "
-                          "20 (and 1 more)") + tail);
-    EXPECT_EQ(report("DeviceInfo", "\xEF\xBB\xBF{}"),
-              std::string("f.json: warning: not standard JSON: a byte order mark (JSON texts carry none), at line 1, "
-                          "column 1") + tail);
-    EXPECT_EQ(report("CrontabParameter", "[{\"Index\": 00}]"),
-              std::string("f.json: warning: not standard JSON: a number with a leading zero (JSON allows none), at "
-                          "line 1, column 12") + tail);
-    EXPECT_EQ(report("CrontabParameter", "\f[]"),
-              std::string("f.json: warning: not standard JSON: the control byte 0x0c as a blank (JSON allows space, "
-                          "tab, CR and LF), at line 1, column 1") + tail +
-                  "f.json: note: the array is empty: it holds no records\n");
+    expect_reports({
+        {"DeviceInfo", "{\"ProductModel\": \"a\tb\"}",
+         std::string("f.json: warning: not standard JSON: the control byte 0x09 unescaped inside a string (JSON "
+                     "wants \\u0009), at line 1, column 20") + tail},
+        {"DeviceInfo", "{\"ProductModel\": \"a\nb\"}",
+         std::string("f.json: warning: not standard JSON: the control byte 0x0a unescaped inside a string (JSON "
+                     "wants \\u000a), at line 1, column 20") + tail},
+        {"DeviceInfo", "{\"ProductModel\": \"a\xff\xfe\"}",
+         std::string("f.json: warning: not standard JSON: the byte 0xff, which is not UTF-8, at line 1, column "
+                     "20 (and 1 more)") + tail},
+        {"DeviceInfo", "\xEF\xBB\xBF{}",
+         std::string("f.json: warning: not standard JSON: a byte order mark (JSON texts carry none), at line 1, "
+                     "column 1") + tail},
+        {"CrontabParameter", "[{\"Index\": 00}]",
+         std::string("f.json: warning: not standard JSON: a number with a leading zero (JSON allows none), at "
+                     "line 1, column 12") + tail},
+        {"CrontabParameter", "\f[]",
+         std::string("f.json: warning: not standard JSON: the control byte 0x0c as a blank (JSON allows space, "
+                     "tab, CR and LF), at line 1, column 1") + tail +
+         "f.json: note: the array is empty: it holds no records\n"},
+    });
     EXPECT_EQ(status("DeviceInfo", "{\"ProductModel\": \"a\tb\"}"), 3);
     // Well-formed UTF-8 and every escape are standard.
     EXPECT_EQ(status("DeviceInfo", "{\"ProductModel\": \"\xc3\xa9\xe2\x82\xac\xf0\x9f\x98\x80 \\t\\u00e9\\/\"}"), 0);
@@ -491,12 +518,14 @@ TEST(ValidatorFindings, NulBytesFillingTheFileAfterTheDocumentAreANote) {
 }
 
 TEST(ValidatorFindings, AnEscapedNulEndsItsString) {
-    EXPECT_EQ(report("DeviceInfo", "{\"ProductModel\": \"a\\u0000b\"}"),
-              "f.json: warning: a string holds \\u0000 at line 1, column 20; the library keeps a string only up to "
-              "it\n");
-    EXPECT_EQ(report("DeviceInfo", "{\"ProductModel\": \"a\\u0000b\",\n\"SerialNumber\": \"\\u0000\\u0000\"}"),
-              "f.json: warning: a string holds \\u0000 at line 1, column 20 (and 2 more); the library keeps a string "
-              "only up to it\n");
+    expect_reports({
+        {"DeviceInfo", "{\"ProductModel\": \"a\\u0000b\"}",
+         "f.json: warning: a string holds \\u0000 at line 1, column 20; the library keeps a string only up to "
+         "it\n"},
+        {"DeviceInfo", "{\"ProductModel\": \"a\\u0000b\",\n\"SerialNumber\": \"\\u0000\\u0000\"}",
+         "f.json: warning: a string holds \\u0000 at line 1, column 20 (and 2 more); the library keeps a string "
+         "only up to it\n"},
+    });
     // An escaped backslash followed by the letters u0000 is no NUL.
     EXPECT_EQ(status("DeviceInfo", "{\"ProductModel\": \"a\\\\u0000b\"}"), 0);
 }
@@ -547,22 +576,24 @@ TEST(ValidatorFindings, JsonReportHoldsVerdictShapeAndEveryFinding) {
 }
 
 TEST(ValidatorFindings, ShapesTheLibraryDoesNotRead) {
-    EXPECT_EQ(report("DeviceInfo", "5"),
-              "f.json: error: expected an object (one DeviceInfo record; the library reads no arrays of them), "
-              "found the integer 5\n");
-    EXPECT_EQ(report("DeviceInfo", "[{\"ProductModel\":\"A\"}]"),
-              "f.json: error: expected an object (one DeviceInfo record; the library reads no arrays of them), "
-              "found an array\n");
-    EXPECT_EQ(report("CrontabParameter", "{\"Index\":1,\"Enable\":1}"),
-              "f.json: error: expected an array of CrontabParameter records (the library reads CrontabParameter as "
-              "a record array only), found an object\n");
-    EXPECT_EQ(report("UserList", "[5]"),
-              "f.json: error: [0]: expected an object, found the integer 5; UserList has no array reader, so its "
-              "reader reads each element as one record\n");
-    EXPECT_EQ(report("CrontabParameter", "[5]"),
-              "f.json: warning: [0]: expected an object, found the integer 5; the library reads it as a record with "
-              "no members\n");
-    EXPECT_EQ(report("CrontabParameter", "[]"), "f.json: note: the array is empty: it holds no records\n");
+    expect_reports({
+        {"DeviceInfo", "5",
+         "f.json: error: expected an object (one DeviceInfo record; the library reads no arrays of them), "
+         "found the integer 5\n"},
+        {"DeviceInfo", "[{\"ProductModel\":\"A\"}]",
+         "f.json: error: expected an object (one DeviceInfo record; the library reads no arrays of them), "
+         "found an array\n"},
+        {"CrontabParameter", "{\"Index\":1,\"Enable\":1}",
+         "f.json: error: expected an array of CrontabParameter records (the library reads CrontabParameter as "
+         "a record array only), found an object\n"},
+        {"UserList", "[5]",
+         "f.json: error: [0]: expected an object, found the integer 5; UserList has no array reader, so its "
+         "reader reads each element as one record\n"},
+        {"CrontabParameter", "[5]",
+         "f.json: warning: [0]: expected an object, found the integer 5; the library reads it as a record with "
+         "no members\n"},
+        {"CrontabParameter", "[]", "f.json: note: the array is empty: it holds no records\n"},
+    });
     EXPECT_EQ(status("CrontabParameter", "[]"), 0);
     // A type of both shapes takes either.
     EXPECT_EQ(status("CreateUserParameter", "{}"), 0);

@@ -23,11 +23,9 @@ want_listing='Index=3:
 # --dry-run names the record by its key and each field OLD -> NEW, and
 # writes nothing.
 before=$(inode "$tmp/u/tasks.json")
-out=$("$tool" update CrontabParameter "$tmp/u/tasks.json" "$tmp/req.json" --dry-run 2>&1); rc=$?
-expect_eq "$rc" "0" "update --dry-run"
-expect_eq "$out" "$want_listing
+expect_output "update --dry-run" 0 "$want_listing
 $tmp/u/tasks.json: 1 update applied, 1 of 3 records would change; nothing written (--dry-run)" \
-  "update --dry-run: the listing"
+  "$tool" update CrontabParameter "$tmp/u/tasks.json" "$tmp/req.json" --dry-run
 cmp -s "$tmp/u/tasks.json" "$cron" && ok || fail "update --dry-run changed the file"
 expect_eq "$(inode "$tmp/u/tasks.json")" "$before" "update --dry-run keeps the file"
 expect_eq "$(others "$tmp/u" tasks.json)" "" "update --dry-run leaves no other file"
@@ -35,10 +33,9 @@ expect_eq "$(others "$tmp/u" tasks.json)" "" "update --dry-run leaves no other f
 # The update: the same listing, the file replaced by a new one (a new
 # inode), no file left beside it, and the text the library writes.
 chmod 640 "$tmp/u/tasks.json"
-out=$("$tool" update CrontabParameter "$tmp/u/tasks.json" "$tmp/req.json" 2>&1); rc=$?
-expect_eq "$rc" "0" "update"
-expect_eq "$out" "$want_listing
-$tmp/u/tasks.json: 1 update applied, 1 of 3 records changed; written" "update: the listing"
+expect_output "update" 0 "$want_listing
+$tmp/u/tasks.json: 1 update applied, 1 of 3 records changed; written" \
+  "$tool" update CrontabParameter "$tmp/u/tasks.json" "$tmp/req.json"
 [ "$(inode "$tmp/u/tasks.json")" != "$before" ] && ok || fail "update did not replace the file by a new one"
 expect_eq "$(others "$tmp/u" tasks.json)" "" "update leaves no temporary file"
 expect_eq "$(stat -c %a "$tmp/u/tasks.json")" "640" "update keeps the file's permission bits"
@@ -52,10 +49,9 @@ expect_eq "$(grep -c '"Index"' "$tmp/u/tasks.json")" "3" "the updated file keeps
 # A request that changes nothing leaves the file as it was.
 before=$(inode "$tmp/u/tasks.json")
 cp "$tmp/u/tasks.json" "$tmp/saved.json"
-out=$("$tool" update CrontabParameter "$tmp/u/tasks.json" "$tmp/req.json" 2>&1); rc=$?
-expect_eq "$rc" "0" "an update that changes nothing"
-expect_eq "$out" "$tmp/u/tasks.json: 1 update applied, no record changed; the file is left as it was" \
-  "an update that changes nothing: the message"
+expect_output "an update that changes nothing" 0 \
+  "$tmp/u/tasks.json: 1 update applied, no record changed; the file is left as it was" \
+  "$tool" update CrontabParameter "$tmp/u/tasks.json" "$tmp/req.json"
 expect_eq "$(inode "$tmp/u/tasks.json")" "$before" "an update that changes nothing keeps the file"
 
 # The count is the library's: two elements of one key count twice; the
@@ -115,41 +111,33 @@ expect_eq "$rc" "2" "a type without the update"
 want="app_s2j: DeviceInfo has no keyed update (j2s_array_update_DeviceInfo);"
 want+=" app_s2j types lists the types that have j2s_array_update"
 expect_eq "$out" "$want" "a type without the update: the message"
-out=$("$tool" update CrontabParameter - "$tmp/req.json" 2>&1 < "$cron"); rc=$?
-expect_eq "$rc" "2" "FILE - is wrong usage"
-expect_contains "$out" "FILE is written back, so it must name a file, not -" "FILE -: the message"
+expect_run "FILE - is wrong usage" 2 "FILE is written back, so it must name a file, not -" \
+  "$tool" update CrontabParameter - "$tmp/req.json" < "$cron"
 expect_run "update without REQUEST" 2 "'update' takes TYPE, FILE and REQUEST" \
   "$tool" update CrontabParameter "$tmp/u/tasks.json"
-out=$("$tool" update CrontabParameter "$tmp/u/missing.json" "$tmp/req.json" 2>&1); rc=$?
-expect_eq "$rc" "1" "update of a missing file"
-expect_eq "$out" "app_s2j: cannot read '$tmp/u/missing.json': No such file or directory" "a missing file: the message"
-out=$("$tool" update CrontabParameter "$tmp/u/tasks.json" "$tmp/missing.json" 2>&1); rc=$?
-expect_eq "$rc" "1" "update with a missing request"
-expect_eq "$out" "app_s2j: cannot read '$tmp/missing.json': No such file or directory" "a missing request: the message"
+expect_output "update of a missing file" 1 "app_s2j: cannot read '$tmp/u/missing.json': No such file or directory" \
+  "$tool" update CrontabParameter "$tmp/u/missing.json" "$tmp/req.json"
+expect_output "update with a missing request" 1 "app_s2j: cannot read '$tmp/missing.json': No such file or directory" \
+  "$tool" update CrontabParameter "$tmp/u/tasks.json" "$tmp/missing.json"
 mkfifo "$tmp/fifo"
-out=$(timeout 20 "$tool" update CrontabParameter "$tmp/fifo" "$tmp/req.json" 2>&1); rc=$?
-expect_eq "$rc" "1" "update of a FIFO"
-expect_eq "$out" "app_s2j: '$tmp/fifo' is not a regular file; update writes its file back" "a FIFO: the message"
+expect_output "update of a FIFO" 1 "app_s2j: '$tmp/fifo' is not a regular file; update writes its file back" \
+  timeout 20 "$tool" update CrontabParameter "$tmp/fifo" "$tmp/req.json"
 printf '{"Index":1}' > "$tmp/object.json"
-out=$("$tool" update CrontabParameter "$tmp/object.json" "$tmp/req.json" 2>&1); rc=$?
-expect_eq "$rc" "1" "update of a file that does not load"
-expect_contains "$out" "app_s2j: $tmp/object.json: not a valid CrontabParameter array: status -2" \
-  "a file that does not load: the message"
+expect_run "update of a file that does not load" 1 \
+  "app_s2j: $tmp/object.json: not a valid CrontabParameter array: status -2" \
+  "$tool" update CrontabParameter "$tmp/object.json" "$tmp/req.json"
 printf '[]' > "$tmp/empty.json"
-out=$("$tool" update CrontabParameter "$tmp/empty.json" "$tmp/req.json" 2>&1); rc=$?
-expect_eq "$rc" "1" "update of an empty array"
-expect_eq "$out" "app_s2j: $tmp/empty.json: the array is empty; there is no record to update" \
-  "an empty array: the message"
+expect_output "update of an empty array" 1 \
+  "app_s2j: $tmp/empty.json: the array is empty; there is no record to update" \
+  "$tool" update CrontabParameter "$tmp/empty.json" "$tmp/req.json"
 expect_eq "$(cat "$tmp/empty.json")" "[]" "an empty array is left as it was"
 
 # diff: nothing for a file and itself, or the same records written otherwise.
-out=$("$tool" diff CrontabParameter "$cron" "$cron" 2>&1); rc=$?
-expect_eq "$rc" "0" "diff of a file with itself"
-expect_eq "$out" "" "diff of a file with itself prints nothing"
+expect_output "diff of a file with itself" 0 "" \
+  "$tool" diff CrontabParameter "$cron" "$cron"
 "$tool" print CrontabParameter "$cron" --compact > "$tmp/compact.json"
-out=$("$tool" diff CrontabParameter "$cron" - < "$tmp/compact.json" 2>&1); rc=$?
-expect_eq "$rc" "0" "diff of the same records written otherwise"
-expect_eq "$out" "" "diff of the same records written otherwise prints nothing"
+expect_output "diff of the same records written otherwise" 0 "" \
+  "$tool" diff CrontabParameter "$cron" - < "$tmp/compact.json"
 
 # A changed field, a removed and an added record, matched by key whatever
 # their order.
@@ -159,12 +147,11 @@ cat > "$tmp/b.json" <<'JSON'
  {"Index":1,"Enable":0,"Minute":"0","Hour":"3","Day":"*","Month":"*","Weekday":"*",
   "Command":"/usr/sbin/logrotate /etc/logrotate.conf"}]
 JSON
-out=$("$tool" diff CrontabParameter "$cron" "$tmp/b.json" 2>&1); rc=$?
-expect_eq "$rc" "1" "diff of files that differ"
-expect_eq "$out" "Index=1:
+expect_output "diff of files that differ" 1 "Index=1:
   Enable: 1 -> 0
 only in $cron: Index=2
-only in $tmp/b.json: Index=4" "diff: a changed field, a removed and an added record"
+only in $tmp/b.json: Index=4" \
+  "$tool" diff CrontabParameter "$cron" "$tmp/b.json"
 
 # Two keys name a record by both.
 cat > "$tmp/osd-a.json" <<'JSON'
@@ -173,12 +160,11 @@ JSON
 cat > "$tmp/osd-b.json" <<'JSON'
 [{"Channel":1,"Index":2,"Visible":0},{"Channel":2,"Index":1,"Visible":1}]
 JSON
-out=$("$tool" diff VideoOutputOSDParameter "$tmp/osd-a.json" "$tmp/osd-b.json" 2>&1); rc=$?
-expect_eq "$rc" "1" "diff of a type with two keys"
-expect_eq "$out" "only in $tmp/osd-a.json: Channel=1 Index=1
+expect_output "diff of a type with two keys" 1 "only in $tmp/osd-a.json: Channel=1 Index=1
 Channel=1 Index=2:
   Visible: 1 -> 0
-only in $tmp/osd-b.json: Channel=2 Index=1" "diff: records named by two keys"
+only in $tmp/osd-b.json: Channel=2 Index=1" \
+  "$tool" diff VideoOutputOSDParameter "$tmp/osd-a.json" "$tmp/osd-b.json"
 
 # Records of equal keys are matched in turn.
 printf '[{"Index":5,"Hour":"1"},{"Index":5,"Hour":"2"}]' > "$tmp/twins-a.json"
@@ -191,10 +177,9 @@ only in '"$tmp/twins-b.json"': Index=5' "diff: records of equal keys in turn"
 # Single records, and arrays of a type without keys, by position.
 printf '{"ProductModel":"A","SerialNumber":"1"}' > "$tmp/dev-a.json"
 printf '{"ProductModel":"B","SerialNumber":"1"}' > "$tmp/dev-b.json"
-out=$("$tool" diff DeviceInfo "$tmp/dev-a.json" "$tmp/dev-b.json" 2>&1); rc=$?
-expect_eq "$rc" "1" "diff of single records"
-expect_eq "$out" 'the record:
-  ProductModel: "A" -> "B"' "diff of single records: the listing"
+expect_output "diff of single records" 1 'the record:
+  ProductModel: "A" -> "B"' \
+  "$tool" diff DeviceInfo "$tmp/dev-a.json" "$tmp/dev-b.json"
 printf '[{"UserName":"a"},{"UserName":"b"}]' > "$tmp/users-a.json"
 printf '[{"UserName":"a"},{"UserName":"c"},{"UserName":"d"}]' > "$tmp/users-b.json"
 out=$("$tool" diff CreateUserParameter "$tmp/users-a.json" "$tmp/users-b.json" 2>&1); rc=$?
@@ -203,21 +188,17 @@ expect_eq "$out" 'record 2:
   UserName: "b" -> "c"
 only in '"$tmp/users-b.json"': record 3' "diff of arrays by position: the listing"
 printf '{"UserName":"a"}' > "$tmp/user.json"
-out=$("$tool" diff CreateUserParameter "$tmp/users-a.json" "$tmp/user.json" 2>&1); rc=$?
-expect_eq "$rc" "1" "diff of an array and a record"
-expect_eq "$out" "$tmp/users-a.json holds a record array, $tmp/user.json one record" "diff of shapes: the listing"
+expect_output "diff of an array and a record" 1 "$tmp/users-a.json holds a record array, $tmp/user.json one record" \
+  "$tool" diff CreateUserParameter "$tmp/users-a.json" "$tmp/user.json"
 
 # Files that cannot be read or do not load; wrong usage.
-out=$("$tool" diff CrontabParameter "$cron" "$tmp/missing.json" 2>&1); rc=$?
-expect_eq "$rc" "1" "diff with a missing file"
-expect_eq "$out" "app_s2j: cannot read '$tmp/missing.json': No such file or directory" "diff: a missing file"
-out=$("$tool" diff CrontabParameter "$tmp/object.json" "$cron" 2>&1); rc=$?
-expect_eq "$rc" "1" "diff with a file that does not load"
-expect_contains "$out" "app_s2j: $tmp/object.json: not a valid CrontabParameter array: status -2" \
-  "diff: a file that does not load"
-out=$("$tool" diff CrontabParameter - - 2>&1 < "$cron"); rc=$?
-expect_eq "$rc" "2" "diff of standard input with itself"
-expect_contains "$out" "only one of A and B can be -" "diff - -: the message"
+expect_output "diff with a missing file" 1 "app_s2j: cannot read '$tmp/missing.json': No such file or directory" \
+  "$tool" diff CrontabParameter "$cron" "$tmp/missing.json"
+expect_run "diff with a file that does not load" 1 \
+  "app_s2j: $tmp/object.json: not a valid CrontabParameter array: status -2" \
+  "$tool" diff CrontabParameter "$tmp/object.json" "$cron"
+expect_run "diff of standard input with itself" 2 "only one of A and B can be -" \
+  "$tool" diff CrontabParameter - - < "$cron"
 expect_run "diff with one file" 2 "'diff' takes TYPE, A and B" "$tool" diff CrontabParameter "$cron"
 out=$("$tool" diff NoSuchType "$cron" "$cron" 2>&1); rc=$?
 expect_eq "$rc" "2" "diff of an unknown type"

@@ -45,16 +45,9 @@ int load_or_report(const s2j::TypeInfo &t, const std::string &path, const std::s
 // TYPE and FILE, with the flags the command allows (each sets *flag).
 bool type_and_file(const Command &cmd, const std::vector<std::string> &args, const char *flag_name, bool *flag,
                    std::vector<std::string> *rest, int *status) {
-    for (const std::string &a : args) {
-        if (flag_name != nullptr && a == flag_name) {
-            *flag = true;
-        } else if (a.size() > 1 && a[0] == '-') {
-            *status = usage_error(cmd, "unknown option '" + a + "'");
-            return false;
-        } else {
-            rest->push_back(a);
-        }
-    }
+    *status = flag_name != nullptr ? split_options(cmd, args, {{flag_name, nullptr, flag}}, rest)
+                                   : split_options(cmd, args, {}, rest);
+    if (*status != kExitOk) return false;
     if (rest->size() != 2) {
         *status = usage_error(cmd, std::string("'") + cmd.name + "' takes TYPE and FILE");
         return false;

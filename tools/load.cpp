@@ -63,6 +63,23 @@ int usage_error(const Command &cmd, const std::string &why) {
     return kExitUsage;
 }
 
+int split_options(const Command &cmd, const std::vector<std::string> &args, std::initializer_list<Flag> flags,
+                  std::vector<std::string> *rest) {
+    for (const std::string &a : args) {
+        const Flag *named = nullptr;
+        for (const Flag &f : flags)
+            if (a == f.name || (f.alias != nullptr && a == f.alias)) named = &f;
+        if (named != nullptr) {
+            *named->set = true;
+        } else if (a.size() > 1 && a[0] == '-') {
+            return usage_error(cmd, "unknown option '" + a + "'");
+        } else {
+            rest->push_back(a);
+        }
+    }
+    return kExitOk;
+}
+
 const s2j::TypeInfo *find_type_or_report(const std::string &name) {
     const s2j::TypeInfo *t = s2j::find_type(name.c_str());
     if (t != nullptr) return t;

@@ -177,16 +177,8 @@ int print_document(cJSON *doc) {
 int run_schema(const std::vector<std::string> &args) {
     bool all = false, update = false;
     std::vector<std::string> names;
-    for (const std::string &a : args) {
-        if (a == "--all")
-            all = true;
-        else if (a == "--update")
-            update = true;
-        else if (a.size() > 1 && a[0] == '-')
-            return usage_error(kSchemaCommand, "unknown option '" + a + "'");
-        else
-            names.push_back(a);
-    }
+    const std::initializer_list<Flag> flags = {{"--all", nullptr, &all}, {"--update", nullptr, &update}};
+    if (int usage = split_options(kSchemaCommand, args, flags, &names)) return usage;
     if (all) {
         if (!names.empty()) return usage_error(kSchemaCommand, "--all takes no TYPE");
         if (update) return usage_error(kSchemaCommand, "--all already holds every update schema; drop --update");

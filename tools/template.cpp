@@ -49,17 +49,8 @@ namespace {
 int run_template(const std::vector<std::string> &args) {
     bool record = false, array = false;
     std::vector<std::string> rest;
-    for (const std::string &a : args) {
-        if (a == "--record") {
-            record = true;
-        } else if (a == "--array") {
-            array = true;
-        } else if (a.size() > 1 && a[0] == '-') {
-            return usage_error(kTemplateCommand, "unknown option '" + a + "'");
-        } else {
-            rest.push_back(a);
-        }
-    }
+    const std::initializer_list<Flag> flags = {{"--record", nullptr, &record}, {"--array", nullptr, &array}};
+    if (int usage = split_options(kTemplateCommand, args, flags, &rest)) return usage;
     if (record && array) return usage_error(kTemplateCommand, "--record and --array exclude each other");
     if (rest.size() != 1) return usage_error(kTemplateCommand, "'template' takes one TYPE");
     const s2j::TypeInfo *t = find_type_or_report(rest[0]);

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <functional>
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -61,6 +62,17 @@ const char *status_text(int rc);
 
 // Prints "app_s2j: WHY" and the command's synopsis to stderr; returns 2.
 int usage_error(const Command &cmd, const std::string &why);
+// An option of a command: the spellings that set it (alias may be null).
+struct Flag {
+    const char *name;
+    const char *alias;
+    bool *set;
+};
+// Sets the flags that args name and puts every other argument in *rest, in
+// order; kExitOk.  At the first argument A longer than "-" that starts with
+// '-' and is no flag: the usage error "unknown option 'A'" and its status.
+int split_options(const Command &cmd, const std::vector<std::string> &args, std::initializer_list<Flag> flags,
+                  std::vector<std::string> *rest);
 // The type of that name, or null after printing the unknown-type message.
 const s2j::TypeInfo *find_type_or_report(const std::string &name);
 // The whole file into *text; false after printing why it cannot be read

@@ -19,14 +19,7 @@ const char *plural(uint32_t n) { return n == 1 ? "" : "s"; }
 int run_update(const std::vector<std::string> &args) {
     bool dry_run = false;
     std::vector<std::string> rest;
-    for (const std::string &a : args) {
-        if (a == "--dry-run")
-            dry_run = true;
-        else if (a.size() > 1 && a[0] == '-')
-            return usage_error(kUpdateCommand, "unknown option '" + a + "'");
-        else
-            rest.push_back(a);
-    }
+    if (int usage = split_options(kUpdateCommand, args, {{"--dry-run", nullptr, &dry_run}}, &rest)) return usage;
     if (rest.size() != 3) return usage_error(kUpdateCommand, "'update' takes TYPE, FILE and REQUEST");
     const std::string &path = rest[1], &request_path = rest[2];
     if (path == "-") return usage_error(kUpdateCommand, "FILE is written back, so it must name a file, not -");

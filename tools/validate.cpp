@@ -837,18 +837,9 @@ int validate_file(const s2j::TypeInfo &t, const std::string &path, bool update, 
 int run_validate(const std::vector<std::string> &args) {
     bool update = false, quiet = false, json = false;
     std::vector<std::string> rest;
-    for (const std::string &a : args) {
-        if (a == "--update")
-            update = true;
-        else if (a == "--quiet" || a == "-q")
-            quiet = true;
-        else if (a == "--json")
-            json = true;
-        else if (a.size() > 1 && a[0] == '-')
-            return usage_error(kValidateCommand, "unknown option '" + a + "'");
-        else
-            rest.push_back(a);
-    }
+    const std::initializer_list<Flag> flags = {
+        {"--update", nullptr, &update}, {"--quiet", "-q", &quiet}, {"--json", nullptr, &json}};
+    if (int usage = split_options(kValidateCommand, args, flags, &rest)) return usage;
     if (rest.size() < 2) return usage_error(kValidateCommand, "'validate' takes TYPE and FILE");
     const s2j::TypeInfo *t = find_type_or_report(rest[0]);
     if (t == nullptr) return kExitUsage;

@@ -12,6 +12,8 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
+#include <string>
 
 #include "app_s2j.h"
 #include "s2j_codec.h"
@@ -78,6 +80,20 @@ const TypeInfo *find_type(const char *name);
 const TypeInfo *tree_registry(size_t *count);
 const TypeInfo *find_tree_type(const char *name);
 
+// What cJSON prints, compact or indented, for the tree of the type's emitter:
+// of the record at `recs`, or with `as_array` of an array of the n records
+// there ("<no text>" where cJSON prints nothing).  The text writers must give
+// exactly these bytes.
+inline std::string emitter_text(const TypeInfo *t, const char *recs, uint32_t n, bool as_array, bool formatted) {
+    cJSON *tree = as_array ? cJSON_CreateArray() : t->hooks->emit(recs);
+    for (uint32_t i = 0; as_array && i < n; ++i)
+        cJSON_AddItemToArray(tree, t->hooks->emit(recs + static_cast<size_t>(i) * t->desc->size));
+    char *p = formatted ? cJSON_Print(tree) : cJSON_PrintUnformatted(tree);
+    std::string s = p != nullptr ? p : "<no text>";
+    std::free(p);
+    cJSON_Delete(tree);
+    return s;
+}
 
 }  // namespace s2j
 

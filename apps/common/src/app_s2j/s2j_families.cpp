@@ -277,13 +277,18 @@ int answer(Site tree, const TypeDesc *d, Direct outcome) {
 }
 #endif
 
-// One body for every text member: json_str (NUL-terminated, or len bytes
-// with_len) read into a record, an array or an update of an array.  The
-// direct reader reads it when it can; otherwise the text is parsed into a
-// tree and read by the tree member, which is the reference for every input.
-// msg is the parse diagnostic of a NUL-terminated text.
-int read_text(Site s, Site tree, Shape shape, const TypeDesc *d, const char *json_str, size_t len, bool with_len,
-              const char *msg, void *dst, uint32_t *count) {
+// One body for every text member: its arguments refused with the member's
+// own diagnostic (args_msg) unless args_ok, then json_str (NUL-terminated,
+// or len bytes with_len) read into a record, an array or an update of an
+// array.  The direct reader reads it when it can; otherwise the text is
+// parsed into a tree and read by the tree member, which is the reference for
+// every input.  msg is the parse diagnostic of a NUL-terminated text.
+int read_text(Site s, Site tree, Shape shape, const TypeDesc *d, bool args_ok, const char *args_msg,
+              const char *json_str, size_t len, bool with_len, const char *msg, void *dst, uint32_t *count) {
+    if (!args_ok) {
+        diag(s, d->name, args_msg);
+        return -2;
+    }
 #ifndef S2J_TREE_ONLY
     const size_t bytes = with_len ? len : std::strlen(json_str) + 1;  // cJSON_Parse counts the NUL
     Direct outcome = shape == Shape::Record  ? direct_record(d, json_str, bytes, dst)
@@ -305,60 +310,41 @@ Site tree_site(Site s, uint32_t line, Family fam) { return Site{s.file, line, fa
 }  // namespace
 
 int fam_j2s(Site s, uint32_t tree_line, const TypeDesc *d, const char *json_str, void *rec) {
-    if (json_str == nullptr || rec == nullptr) {
-        diag(s, d->name, S2J_MSG_J2S_ARGS);
-        return -2;
-    }
-    return read_text(s, tree_site(s, tree_line, Family::C2S), Shape::Record, d, json_str, 0, false,
-                     S2J_MSG_PARSE_FAILED, rec, nullptr);
+    return read_text(s, tree_site(s, tree_line, Family::C2S), Shape::Record, d, json_str != nullptr && rec != nullptr,
+                     S2J_MSG_J2S_ARGS, json_str, 0, false, S2J_MSG_PARSE_FAILED, rec, nullptr);
 }
 
 int fam_j2s_with_len(Site s, uint32_t tree_line, const TypeDesc *d, const char *json_str, size_t len, void *rec) {
-    if (json_str == nullptr || len == 0 || rec == nullptr) {
-        diag(s, d->name, S2J_MSG_J2S_LEN_ARGS);
-        return -2;
-    }
-    return read_text(s, tree_site(s, tree_line, Family::C2S), Shape::Record, d, json_str, len, true, nullptr, rec,
-                     nullptr);
+    return read_text(s, tree_site(s, tree_line, Family::C2S), Shape::Record, d,
+                     json_str != nullptr && len != 0 && rec != nullptr, S2J_MSG_J2S_LEN_ARGS, json_str, len, true,
+                     nullptr, rec, nullptr);
 }
 
 int fam_j2s_array(Site s, uint32_t tree_line, const TypeDesc *d, const char *json_str, void *arr, uint32_t *count) {
-    if (json_str == nullptr || count == nullptr) {
-        diag(s, d->name, S2J_MSG_J2S_ARRAY_ARGS);
-        return -2;
-    }
-    return read_text(s, tree_site(s, tree_line, Family::C2S_ARRAY), Shape::Array, d, json_str, 0, false,
+    return read_text(s, tree_site(s, tree_line, Family::C2S_ARRAY), Shape::Array, d,
+                     json_str != nullptr && count != nullptr, S2J_MSG_J2S_ARRAY_ARGS, json_str, 0, false,
                      S2J_MSG_PARSE_FAILED_NO_NL, arr, count);
 }
 
 int fam_j2s_array_with_len(Site s, uint32_t tree_line, const TypeDesc *d, const char *json_str, size_t len,
                            void *arr, uint32_t *count) {
-    if (json_str == nullptr || len == 0 || count == nullptr) {
-        diag(s, d->name, S2J_MSG_J2S_ARRAY_LEN_ARGS);
-        return -2;
-    }
-    return read_text(s, tree_site(s, tree_line, Family::C2S_ARRAY), Shape::Array, d, json_str, len, true, nullptr,
-                     arr, count);
+    return read_text(s, tree_site(s, tree_line, Family::C2S_ARRAY), Shape::Array, d,
+                     json_str != nullptr && len != 0 && count != nullptr, S2J_MSG_J2S_ARRAY_LEN_ARGS, json_str, len,
+                     true, nullptr, arr, count);
 }
 
 int fam_j2s_array_update(Site s, uint32_t tree_line, const TypeDesc *d, const char *json_str, void *arr,
                          uint32_t *count) {
-    if (json_str == nullptr || arr == nullptr || count == nullptr) {
-        diag(s, d->name, S2J_MSG_UPDATE_ARGS);
-        return -2;
-    }
-    return read_text(s, tree_site(s, tree_line, Family::C2S_ARRAY_UPDATE), Shape::Update, d, json_str, 0, false,
-                     S2J_MSG_PARSE_FAILED_NO_NL, arr, count);
+    return read_text(s, tree_site(s, tree_line, Family::C2S_ARRAY_UPDATE), Shape::Update, d,
+                     json_str != nullptr && arr != nullptr && count != nullptr, S2J_MSG_UPDATE_ARGS, json_str, 0,
+                     false, S2J_MSG_PARSE_FAILED_NO_NL, arr, count);
 }
 
 int fam_j2s_array_update_with_len(Site s, uint32_t tree_line, const TypeDesc *d, const char *json_str, size_t len,
                                   void *arr, uint32_t *count) {
-    if (json_str == nullptr || len == 0 || arr == nullptr || count == nullptr) {
-        diag(s, d->name, S2J_MSG_UPDATE_LEN_ARGS);
-        return -2;
-    }
-    return read_text(s, tree_site(s, tree_line, Family::C2S_ARRAY_UPDATE), Shape::Update, d, json_str, len, true,
-                     nullptr, arr, count);
+    return read_text(s, tree_site(s, tree_line, Family::C2S_ARRAY_UPDATE), Shape::Update, d,
+                     json_str != nullptr && len != 0 && arr != nullptr && count != nullptr, S2J_MSG_UPDATE_LEN_ARGS,
+                     json_str, len, true, nullptr, arr, count);
 }
 
 }  // namespace s2j
