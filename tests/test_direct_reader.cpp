@@ -6,6 +6,7 @@
 
 #include <cstring>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "reader_diff.h"
@@ -284,6 +285,17 @@ protected:
         std::string d = reader_diff::compare(GetParam(), ref_, c);
         if (!d.empty() && failures_++ < 10) ADD_FAILURE() << d << "\ntext: " << c.text.substr(0, 400);
     }
+    // Each document through a member and its _with_len form; caps(i) gives
+    // the capacities of the i-th document's two calls.
+    template <class Caps>
+    void check_both_forms(Member plain, Member with_len, const std::vector<std::string> &docs, Caps caps,
+                          const std::vector<char> &before) {
+        for (size_t i = 0; i < docs.size(); ++i) {
+            const std::pair<uint32_t, uint32_t> cap = caps(i);
+            check(Call{plain, docs[i], 0, false, cap.first, before});
+            check(Call{with_len, docs[i], docs[i].size(), false, cap.second, before});
+        }
+    }
     void SetUp() override { ref_ = reader_diff::reference_of(GetParam()); }
     const TypeInfo *ref_ = nullptr;
     int failures_ = 0;
@@ -295,10 +307,8 @@ TEST_P(DirectReader, reads_every_generated_text_as_the_tree_path_does) {
     ASSERT_NE(ref_, nullptr);
     if (reader_diff::has(t, Member::J2s)) {
         const std::vector<char> one = before(t, 1, false);
-        for (const std::string &doc : record_texts(t, 0)) {
-            check(Call{Member::J2s, doc, 0, false, 0, one});
-            check(Call{Member::J2sLen, doc, doc.size(), false, 0, one});
-        }
+        check_both_forms(Member::J2s, Member::J2sLen, record_texts(t, 0), [](size_t) { return std::make_pair(0u, 0u); },
+                         one);
         // Every prefix, NUL-terminated and by length; a NUL within the length.
         const std::string doc = render(record(t, 0));
         for (size_t k = 0; k <= doc.size(); ++k) {
@@ -318,11 +328,8 @@ TEST_P(DirectReader, reads_every_generated_text_as_the_tree_path_does) {
     if (reader_diff::has(t, Member::J2sArray)) {
         const std::vector<char> five = before(t, 5, false);
         const std::vector<std::string> docs = array_texts(t);
-        for (size_t i = 0; i < docs.size(); ++i) {
-            const std::string &doc = docs[i];
-            check(Call{Member::J2sArray, doc, 0, false, static_cast<uint32_t>(i % 2 ? 3 : 5), five});
-            check(Call{Member::J2sArrayLen, doc, doc.size(), false, static_cast<uint32_t>(i % 2 ? 2 : 3), five});
-        }
+        check_both_forms(Member::J2sArray, Member::J2sArrayLen, docs,
+                         [](size_t i) { return i % 2 ? std::make_pair(3u, 2u) : std::make_pair(5u, 3u); }, five);
         for (uint32_t cap : {0u, 1u, 2u, 3u, 5u}) {
             check(Call{Member::J2sArray, docs[0], 0, false, cap, five});
             check(Call{Member::J2sArrayLen, docs[0], docs[0].size(), true, cap, five});
@@ -338,12 +345,8 @@ TEST_P(DirectReader, reads_every_generated_text_as_the_tree_path_does) {
     }
     if (reader_diff::has(t, Member::J2sArrayUpdate)) {
         const std::vector<char> keyed = before(t, 5, true);
-        const std::vector<std::string> docs = array_texts(t);
-        for (size_t i = 0; i < docs.size(); ++i) {
-            const std::string &doc = docs[i];
-            check(Call{Member::J2sArrayUpdate, doc, 0, false, static_cast<uint32_t>(i % 2 ? 3 : 5), keyed});
-            check(Call{Member::J2sArrayUpdateLen, doc, doc.size(), false, static_cast<uint32_t>(i % 3), keyed});
-        }
+        check_both_forms(Member::J2sArrayUpdate, Member::J2sArrayUpdateLen, array_texts(t),
+                         [](size_t i) { return std::make_pair(i % 2 ? 3u : 5u, static_cast<uint32_t>(i % 3)); }, keyed);
         // Elements without their keys, with keys of the wrong type, with keys
         // that match nothing, and one element naming the same record twice.
         const Object r1 = record(t, 1);
