@@ -367,8 +367,7 @@ inline bool same_bytes(const u8 *a, const char *b, size_t n) {
         return x == y;
     }
     if (n >= 4) return same_ends<uint32_t>(a, b, n);
-    if (n >= 2) return same_ends<uint16_t>(a, b, n);
-    return n == 0 || *a == static_cast<u8>(*b);
+    return n >= 2 ? same_ends<uint16_t>(a, b, n) : n == 0 || *a == static_cast<u8>(*b);  // no table has a 1-byte key
 }
 
 // Whether the field's key, its quotes and a ':' fit between p and end with a
