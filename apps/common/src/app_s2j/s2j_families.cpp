@@ -286,7 +286,7 @@ int answer(Site tree, const TypeDesc *d, Direct outcome) {
 int read_text(Site s, Site tree, Shape shape, const TypeDesc *d, bool args_ok, const char *args_msg,
               const char *json_str, size_t len, bool with_len, const char *msg, void *dst, uint32_t *count) {
     if (!args_ok) {
-        diag(s, d->name, args_msg);
+        diag(s, d->name, "%s", args_msg);
         return -2;
     }
 #ifndef S2J_TREE_ONLY
