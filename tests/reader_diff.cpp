@@ -1,5 +1,6 @@
 #include "reader_diff.h"
 
+#include <sys/mman.h>
 #include <unistd.h>
 
 #include <cstdio>
@@ -83,6 +84,39 @@ std::string &last_file_name() {
 
 bool reads_a_file(Member m) { return m == Member::F2s || m == Member::F2sArray; }
 
+// Where a call's text is placed: its bytes and a NUL end at the last byte
+// before a page that cannot be read, so that a reader that reads one byte
+// past them stops the process, with or without a sanitizer.  A text longer
+// than the region is passed where it is.
+class GuardedText {
+public:
+    GuardedText() : page_(static_cast<size_t>(sysconf(_SC_PAGESIZE))), size_(kPages * page_) {
+        void *m = mmap(nullptr, size_ + page_, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+        if (m == MAP_FAILED) std::abort();
+        base_ = static_cast<char *>(m);
+        if (mprotect(base_ + size_, page_, PROT_NONE) != 0) std::abort();
+    }
+    // The n bytes at text and a NUL before the guard page, or null when
+    // they do not fit.
+    const char *place(const char *text, size_t n) {
+        if (n >= size_) return nullptr;
+        char *at = base_ + size_ - (n + 1);
+        std::memcpy(at, text, n);
+        at[n] = '\0';
+        return at;
+    }
+
+private:
+    static constexpr size_t kPages = 256;
+    size_t page_, size_;
+    char *base_ = nullptr;
+};
+
+GuardedText &guarded() {
+    static GuardedText g;
+    return g;
+}
+
 struct Outcome {
     int rc = 0;
     std::vector<char> records;
@@ -98,7 +132,10 @@ Outcome run(const s2j::TypeInfo *t, const Call &c, const char *file) {
     o.records = c.records;
     o.count = c.capacity;
     void *arr = c.query ? nullptr : o.records.data();
-    const char *s = c.text.c_str();
+    const bool with_len = c.member == Member::J2sLen || c.member == Member::J2sArrayLen ||
+                          c.member == Member::J2sArrayUpdateLen;
+    const char *s = guarded().place(c.text.data(), with_len ? c.len : std::strlen(c.text.c_str()));
+    if (s == nullptr) s = c.text.c_str();
     const s2j::Families &f = t->fam;
     cJSON_Delete(cJSON_Parse("!"));  // an error position left over from an earlier parse
     errors().begin();

@@ -4,6 +4,7 @@
 // status, every byte of the records, the count and the standard error stream.
 #include <gtest/gtest.h>
 
+#include <cctype>
 #include <cstring>
 #include <string>
 #include <utility>
@@ -309,12 +310,18 @@ TEST_P(DirectReader, reads_every_generated_text_as_the_tree_path_does) {
         const std::vector<char> one = before(t, 1, false);
         check_both_forms(Member::J2s, Member::J2sLen, record_texts(t, 0), [](size_t) { return std::make_pair(0u, 0u); },
                          one);
-        // Every prefix, NUL-terminated and by length; a NUL within the length.
+        // Every prefix, NUL-terminated and by length (the text ends where its
+        // length does: see reader_diff's guard page), of the record and of
+        // the record with its integers negative; a NUL within the length.
         const std::string doc = render(record(t, 0));
-        for (size_t k = 0; k <= doc.size(); ++k) {
-            check(Call{Member::J2s, doc.substr(0, k), 0, false, 0, one});
-            if (k > 0) check(Call{Member::J2sLen, doc, k, false, 0, one});
-        }
+        Object negative = record(t, 0);
+        for (Pair &p : negative)
+            if (std::isdigit(static_cast<unsigned char>(p.value[0]))) p.value = "-" + p.value;
+        for (const std::string &text : {doc, render(negative)})
+            for (size_t k = 0; k <= text.size(); ++k) {
+                check(Call{Member::J2s, text.substr(0, k), 0, false, 0, one});
+                if (k > 0) check(Call{Member::J2sLen, text, k, false, 0, one});
+            }
         const std::string nul = doc + std::string(1, '\0') + " \x01" + std::string(1, '\0');
         check(Call{Member::J2sLen, nul, nul.size(), false, 0, one});
         const std::string inner =

@@ -842,7 +842,7 @@ const u8 *take_record(Checker &c, const Text &t, const u8 *const open, const uns
         if (*p <= 32 && (p = blanks_in_object(p, end)) == nullptr) return nullptr;
         if (f->kind <= Kind::U16) {
             // Digits that start before c.bounded end before it, so p stays before the end.
-            if (p >= c.bounded) break;
+            if (p + (*p == '-') >= c.bounded) break;
             if (*p != '-') {
                 p = plain_digits(p, value);
                 if (p == nullptr) break;
