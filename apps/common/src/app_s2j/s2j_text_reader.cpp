@@ -526,7 +526,10 @@ struct Document {
 // What the check of one text knows and finds.
 struct Checker {
     const u8 *end;      // just past the text
-    const u8 *bounded;  // every run of digits that starts before it ends before it
+    // Every run of digits, and every '-' with the digits after it, that
+    // starts before it ends before it: the text's trailing digits and the
+    // sign before them lie at or after it.
+    const u8 *bounded;
     const Field *fields;
     uint32_t field_count;
     bool fraction;      // whether a number literal holds a '.'
@@ -841,8 +844,8 @@ const u8 *take_record(Checker &c, const Text &t, const u8 *const open, const uns
         p += f->key_len + 3;
         if (*p <= 32 && (p = blanks_in_object(p, end)) == nullptr) return nullptr;
         if (f->kind <= Kind::U16) {
-            // Digits that start before c.bounded end before it, so p stays before the end.
-            if (p + (*p == '-') >= c.bounded) break;
+            // A literal that starts before c.bounded ends before it, so p stays before the end.
+            if (p >= c.bounded) break;
             if (*p != '-') {
                 p = plain_digits(p, value);
                 if (p == nullptr) break;
@@ -957,6 +960,7 @@ bool check_document(const TypeDesc *d, unsigned record_depth, const Text &t, Doc
     Checker c{end, end, d->fields, d->field_count, false, false, false, 0, values,
               values == nullptr ? nullptr : values + kMaxFields};
     while (c.bounded > p && static_cast<unsigned>(c.bounded[-1] - '0') <= 9) --c.bounded;
+    if (c.bounded > p && c.bounded[-1] == '-') --c.bounded;
     if (p >= end) return false;
     if (*p == '{' && record_depth == 1) {
         p = values != nullptr ? take_record(c, t, p, 0) : check_record(c, t, p, 0);
