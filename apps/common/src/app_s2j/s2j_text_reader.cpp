@@ -325,6 +325,14 @@ inline void copy_bytes(char *to, const u8 *from, size_t n) {
     }
 }
 
+// Stores the n bytes at from in a char[size] field, cut to size - 1 bytes
+// and ended with a NUL.
+inline void put_text(char *field, size_t size, const u8 *from, size_t n) {
+    if (n > size - 1) n = size - 1;
+    copy_bytes(field, from, n);
+    field[n] = '\0';
+}
+
 // Copies the string opening at t.s[i] into a field as copy_string() does,
 // and returns the offset of its closing quote.  A string without escapes is
 // copied in one piece up to its end or its first NUL.
@@ -334,9 +342,7 @@ inline size_t read_string(const Text &t, size_t i, char *field, size_t size) {
         copy_string(t, i, field, size);
         return string_end(t, i);
     }
-    const size_t n = stop - from < size - 1 ? stop - from : size - 1;
-    copy_bytes(field, t.s + from, n);
-    field[n] = '\0';
+    put_text(field, size, t.s + from, stop - from);
     return t.s[stop] == '"' ? stop : string_end(t, i);
 }
 
@@ -880,10 +886,7 @@ const u8 *take_record(Checker &c, const Text &t, const u8 *const open, const uns
 
 // Stores a string take_record() noted into the string field f at `at`.
 inline void put_string(const Field &f, const Text &t, uint64_t value, char *at) {
-    const uint64_t length = value >> 32;
-    const size_t n = length < f.size - 1 ? length : f.size - 1;
-    copy_bytes(at, t.s + static_cast<uint32_t>(value), n);
-    at[n] = '\0';
+    put_text(at, f.size, t.s + static_cast<uint32_t>(value), static_cast<size_t>(value >> 32));
 }
 
 // Stores a value take_record() noted into the field f at `at`, as
@@ -1214,9 +1217,7 @@ inline const u8 *read_member_value(const Text &t, const Field &f, const u8 *p, c
     if (f.kind == Kind::Str) {
         const size_t from = static_cast<size_t>(p - t.s) + 1, stop = next_quote_backslash_or_nul(t.s, from, t.len);
         if (t.s[stop] == '"') {
-            const size_t n = stop - from < f.size - 1 ? stop - from : f.size - 1;
-            copy_bytes(at, t.s + from, n);
-            at[n] = '\0';
+            put_text(at, f.size, t.s + from, stop - from);
             return t.s + stop + 1;
         }
     }
