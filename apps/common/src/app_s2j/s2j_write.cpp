@@ -76,60 +76,95 @@ inline uint32_t first_marked(uint64_t mask) {
     return static_cast<uint32_t>(__builtin_clzll(mask)) / 8;
 #endif
 }
-inline uint64_t load8(const unsigned char *p) {
+
+// A block of W bytes of a string, loaded at once: special() marks the bytes
+// that end the string or need an escape (0 when there is none), first() is
+// the index of the first byte a non-zero mask marks, store() writes the
+// whole block.
+template <uint32_t W>
+struct Block;
+
+template <>
+struct Block<8> {
     uint64_t x;
-    std::memcpy(&x, p, 8);
-    return x;
-}
+    explicit Block(const unsigned char *p) { std::memcpy(&x, p, 8); }
+    void store(char *o) const { std::memcpy(o, &x, 8); }
+    uint64_t special() const { return special_bytes(x); }
+    static uint32_t first(uint64_t mask) { return first_marked(mask); }
+};
 
 #if defined(__SSE2__)
-// Sixteen bytes at once where the machine has SSE2: bit i of the result is
-// set when byte i ends the string or needs an escape.
-constexpr uint32_t kWide = 16;
-inline uint32_t special_wide(__m128i x) {
-    const __m128i below_space = _mm_cmpeq_epi8(_mm_min_epu8(x, _mm_set1_epi8(0x1F)), x);
-    const __m128i quote = _mm_cmpeq_epi8(x, _mm_set1_epi8('"'));
-    const __m128i backslash = _mm_cmpeq_epi8(x, _mm_set1_epi8('\\'));
-    return static_cast<uint32_t>(_mm_movemask_epi8(_mm_or_si128(below_space, _mm_or_si128(quote, backslash))));
-}
-inline __m128i load_wide(const unsigned char *p) { return _mm_loadu_si128(reinterpret_cast<const __m128i *>(p)); }
+// Sixteen bytes at once where the machine has SSE2: bit i of the mask is set
+// when byte i ends the string or needs an escape.
+template <>
+struct Block<16> {
+    __m128i x;
+    explicit Block(const unsigned char *p) : x(_mm_loadu_si128(reinterpret_cast<const __m128i *>(p))) {}
+    void store(char *o) const { _mm_storeu_si128(reinterpret_cast<__m128i *>(o), x); }
+    uint32_t special() const {
+        const __m128i below_space = _mm_cmpeq_epi8(_mm_min_epu8(x, _mm_set1_epi8(0x1F)), x);
+        const __m128i quote = _mm_cmpeq_epi8(x, _mm_set1_epi8('"'));
+        const __m128i backslash = _mm_cmpeq_epi8(x, _mm_set1_epi8('\\'));
+        return static_cast<uint32_t>(_mm_movemask_epi8(_mm_or_si128(below_space, _mm_or_si128(quote, backslash))));
+    }
+    static uint32_t first(uint32_t mask) { return static_cast<uint32_t>(__builtin_ctz(mask)); }
+};
 #endif
+
+// The walk of a char[N] field's text, shared by its measure and its writing.
+// The text is read in blocks of W bytes while a whole block lies inside the
+// field: each block goes to out.block() (the writer copies it whole and
+// resumes at its first special byte: the buffer has kSlack bytes beyond the
+// text for it), its plain bytes to out.plain(), a byte that needs an escape
+// to out.escape().  True when the text ended at its NUL.
+template <uint32_t W, class Out>
+__attribute__((always_inline)) inline bool walk_blocks(const unsigned char *p, uint32_t size, uint32_t &i, Out &out) {
+    while (i + W <= size) {
+        const Block<W> b(p + i);
+        out.block(b);
+        const auto m = b.special();
+        if (m == 0) {
+            i += W;
+            out.plain(W);
+            continue;
+        }
+        const uint32_t k = Block<W>::first(m);
+        i += k;
+        out.plain(k);
+        if (p[i] == '\0') return true;
+        out.escape(p[i++]);
+    }
+    return false;
+}
+
+// The whole text: sixteen bytes at a time where the machine has SSE2, then
+// eight, then the bytes of a rest shorter than eight one by one (out.byte()).
+template <class Out>
+__attribute__((always_inline)) inline void walk_string(const char *s, uint32_t size, Out &out) {
+    const unsigned char *p = reinterpret_cast<const unsigned char *>(s);
+    uint32_t i = 0;
+#if defined(__SSE2__)
+    if (walk_blocks<16>(p, size, i, out)) return;
+#endif
+    if (walk_blocks<8>(p, size, i, out)) return;
+    for (; i < size && p[i] != '\0'; ++i) out.byte(p[i]);
+}
+
+// Counts the bytes of a text inside its quotes.
+struct Measure {
+    size_t bytes = 0;
+    template <class B>
+    void block(const B &) {}
+    void plain(uint32_t k) { bytes += k; }
+    void escape(unsigned char c) { bytes += kEscape.bytes[c]; }
+    void byte(unsigned char c) { bytes += kEscape.bytes[c]; }
+};
 
 // Bytes of a char[N] field's text inside its quotes.
 __attribute__((always_inline)) inline size_t string_bytes(const char *s, uint32_t size) {
-    const unsigned char *p = reinterpret_cast<const unsigned char *>(s);
-    size_t bytes = 0;
-    uint32_t i = 0;
-#if defined(__SSE2__)
-    while (i + kWide <= size) {
-        const uint32_t m = special_wide(load_wide(p + i));
-        if (m == 0) {
-            i += kWide;
-            bytes += kWide;
-            continue;
-        }
-        const uint32_t k = static_cast<uint32_t>(__builtin_ctz(m));
-        i += k;
-        bytes += k;
-        if (p[i] == '\0') return bytes;
-        bytes += kEscape.bytes[p[i++]];
-    }
-#endif
-    while (i + 8 <= size) {
-        const uint64_t m = special_bytes(load8(p + i));
-        if (m == 0) {
-            i += 8;
-            bytes += 8;
-            continue;
-        }
-        const uint32_t k = first_marked(m);
-        i += k;
-        bytes += k;
-        if (p[i] == '\0') return bytes;
-        bytes += kEscape.bytes[p[i++]];
-    }
-    for (; i < size && p[i] != '\0'; ++i) bytes += kEscape.bytes[p[i]];
-    return bytes;
+    Measure m;
+    walk_string(s, size, m);
+    return m.bytes;
 }
 
 // Bytes of the strings of one record beyond their quotes.
@@ -155,58 +190,26 @@ inline char *put_escape(char *o, unsigned char c) {
     return o;
 }
 
-// A string in quotes.  Words without special bytes are copied whole; a word
-// with one is copied whole too and the text resumes at that byte (the buffer
-// has kSlack bytes beyond the text for it).
-__attribute__((always_inline)) inline char *put_string(char *o, const char *s, uint32_t size) {
-    const unsigned char *p = reinterpret_cast<const unsigned char *>(s);
-    *o++ = '"';
-    uint32_t i = 0;
-#if defined(__SSE2__)
-    while (i + kWide <= size) {
-        const __m128i x = load_wide(p + i);
-        _mm_storeu_si128(reinterpret_cast<__m128i *>(o), x);
-        const uint32_t m = special_wide(x);
-        if (m == 0) {
-            i += kWide;
-            o += kWide;
-            continue;
-        }
-        const uint32_t k = static_cast<uint32_t>(__builtin_ctz(m));
-        i += k;
-        o += k;
-        if (p[i] == '\0') {
-            *o++ = '"';
-            return o;
-        }
-        o = put_escape(o, p[i++]);
-    }
-#endif
-    while (i + 8 <= size) {
-        const uint64_t x = load8(p + i);
-        std::memcpy(o, &x, 8);
-        const uint64_t m = special_bytes(x);
-        if (m == 0) {
-            i += 8;
-            o += 8;
-            continue;
-        }
-        const uint32_t k = first_marked(m);
-        i += k;
-        o += k;
-        if (p[i] == '\0') {
-            *o++ = '"';
-            return o;
-        }
-        o = put_escape(o, p[i++]);  // a marked byte other than the NUL needs an escape
-    }
-    for (; i < size && p[i] != '\0'; ++i) {
-        const unsigned char c = p[i];
+// Writes a text inside its quotes.
+struct Copy {
+    char *o;
+    template <class B>
+    void block(const B &b) { b.store(o); }
+    void plain(uint32_t k) { o += k; }
+    void escape(unsigned char c) { o = put_escape(o, c); }
+    void byte(unsigned char c) {
         if (kEscape.bytes[c] == 1) *o++ = static_cast<char>(c);
         else o = put_escape(o, c);
     }
+};
+
+// A char[N] field's text in quotes.
+__attribute__((always_inline)) inline char *put_string(char *o, const char *s, uint32_t size) {
     *o++ = '"';
-    return o;
+    Copy c{o};
+    walk_string(s, size, c);
+    *c.o++ = '"';
+    return c.o;
 }
 
 // Room left beyond the text for the whole-word copies of put_string.
