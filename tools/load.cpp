@@ -320,9 +320,17 @@ char *emit_text(const s2j::TypeInfo &t, const char *recs, uint32_t count, bool a
     if (!array && f.s2j) return f.s2j(recs, formatted);
     if (array && f.s2j_array) return f.s2j_array(recs, count, formatted);
     // No text family: the emitter's tree, printed as the families print.
+    // A record that cannot be emitted (no memory) fails the whole text
+    // rather than leave the record out of it.
     cJSON *tree = array ? cJSON_CreateArray() : t.hooks->emit(recs);
-    for (uint32_t i = 0; array && tree != nullptr && i < count; ++i)
-        cJSON_AddItemToArray(tree, t.hooks->emit(recs + static_cast<size_t>(i) * t.desc->size));
+    for (uint32_t i = 0; array && tree != nullptr && i < count; ++i) {
+        cJSON *record = t.hooks->emit(recs + static_cast<size_t>(i) * t.desc->size);
+        if (!cJSON_AddItemToArray(tree, record)) {
+            cJSON_Delete(record);
+            cJSON_Delete(tree);
+            tree = nullptr;
+        }
+    }
     char *text = tree == nullptr ? nullptr : formatted ? cJSON_Print(tree) : cJSON_PrintUnformatted(tree);
     cJSON_Delete(tree);
     return text;

@@ -15,29 +15,8 @@
 namespace app_s2j_tool {
 
 bool template_json(const s2j::TypeInfo &t, bool as_array, std::string *text) {
-    const s2j::Families &f = t.fam;
     std::vector<char> zero(t.desc->size, 0);
-    char *out = nullptr;
-    if (as_array && f.s2j_array) {
-        out = f.s2j_array(zero.data(), 1, 1);
-    } else if (!as_array && f.s2j) {
-        out = f.s2j(zero.data(), 1);
-    } else {
-        // No text family of this shape: the emitter's object, printed as the
-        // text families print (cJSON_Print, indented).
-        cJSON *record = t.hooks->emit(zero.data());
-        cJSON *tree = record;
-        if (as_array && record != nullptr) {
-            tree = cJSON_CreateArray();
-            if (tree == nullptr || !cJSON_AddItemToArray(tree, record)) {
-                cJSON_Delete(record);
-                cJSON_Delete(tree);
-                tree = nullptr;
-            }
-        }
-        out = tree == nullptr ? nullptr : cJSON_Print(tree);
-        cJSON_Delete(tree);
-    }
+    char *out = emit_text(t, zero.data(), 1, as_array, 1);
     if (out == nullptr) return false;
     *text = out;
     std::free(out);
