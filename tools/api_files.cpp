@@ -108,6 +108,12 @@ const char *c_type(s2j::Kind k) {
     }
 }
 
+// A family's return type as a prototype starts with it: "int ", "char *".
+std::string return_part(const FamilyInfo &f) {
+    const std::string r = f.c_return;
+    return r.back() == '*' ? r : r + " ";
+}
+
 // Every exported function of t, in the header's order, as (name, prototype).
 std::vector<std::pair<std::string, std::string>> functions(const TypeInfo &t) {
     const std::string n = t.name;
@@ -138,7 +144,7 @@ std::vector<std::pair<std::string, std::string>> functions(const TypeInfo &t) {
         const s2j::List list = pass == 0 ? s2j::List::kTextList : s2j::List::kFileList;
         for (const FamilyInfo &f : s2j::kFamilies)
             if (f.list == list && s2j::has_family(t.fam, f.id))
-                add(f.c_return, f.prefix + n + f.suffix, replace_t(f.c_params, n));
+                add(return_part(f), f.prefix + n + f.suffix, replace_t(f.c_params, n));
     }
     return out;
 }
@@ -160,7 +166,7 @@ int header(const char *template_path) {
     }
     // The template documents every family once, as the member of T.
     for (const FamilyInfo &f : s2j::kFamilies) {
-        const std::string doc = std::string(f.c_return) + f.prefix + "T" + f.suffix + "(";
+        const std::string doc = return_part(f) + f.prefix + "T" + f.suffix + "(";
         if (text.find(doc) == std::string::npos) {
             std::fprintf(stderr, "app_s2j_api_files: %s does not document %sT%s\n", template_path, f.prefix, f.suffix);
             return 1;

@@ -35,12 +35,12 @@ struct Fam {
 // The registry's signature of family F's members.
 template <Family F>
 struct ShapeOf;
-#define S2J_SHAPE_OF(Id, member, prefix, suffix, Shape, ...) \
-    template <>                                               \
-    struct ShapeOf<Family::Id> {                              \
-        using type = shape::Shape;                            \
+#define S2J_SHAPE_OF(Id, member, ...)          \
+    template <>                                \
+    struct ShapeOf<Family::Id> {               \
+        using type = decltype(Families::member); \
     };
-S2J_FAMILIES(S2J_SHAPE_OF)
+S2J_FAMILIES(S2J_SHAPE_OF, T)
 #undef S2J_SHAPE_OF
 }  // namespace S2J_REG_NS
 }  // namespace s2j
@@ -111,7 +111,7 @@ template <class T>
 constexpr Families families() {
 #define S2J_FAMILY_FN(Id, ...) Fam<T, Family::Id>::fn,
 #define S2J_FAMILY_LINE(Id, ...) Fam<T, Family::Id>::line,
-    return Families{S2J_FAMILIES(S2J_FAMILY_FN){S2J_FAMILIES(S2J_FAMILY_LINE)}};
+    return Families{S2J_FAMILIES(S2J_FAMILY_FN, T){S2J_FAMILIES(S2J_FAMILY_LINE, T)}};
 #undef S2J_FAMILY_FN
 #undef S2J_FAMILY_LINE
 }

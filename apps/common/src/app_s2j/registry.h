@@ -26,14 +26,15 @@
 namespace s2j {
 
 // The family members a type has (null where it has none), one per row of
-// S2J_FAMILIES, and the line of each member's instantiation (0 where it has
+// S2J_FAMILIES with the record type erased (const void *, void *), and the
+// line of each member's instantiation (0 where it has
 // none; a _with_len member is on the line of the member it comes with).
-#define S2J_FAMILY_POINTER(Id, member, prefix, suffix, Shape, ...) shape::Shape member;
+#define S2J_FAMILY_POINTER(Id, member, prefix, suffix, Maker, list, ret, params, T) ret(*member) params;
 #define S2J_FAMILY_LINE(Id, member, ...) int member;
 struct Families {
-    S2J_FAMILIES(S2J_FAMILY_POINTER)
+    S2J_FAMILIES(S2J_FAMILY_POINTER, void)
     struct Lines {
-        S2J_FAMILIES(S2J_FAMILY_LINE)
+        S2J_FAMILIES(S2J_FAMILY_LINE, T)
     } line;
 };
 #undef S2J_FAMILY_POINTER
@@ -44,7 +45,7 @@ inline bool has_family(const Families &fam, Family f) {
     switch (f) {
 #define S2J_FAMILY_CASE(Id, member, ...) \
     case Family::Id: return fam.member != nullptr;
-        S2J_FAMILIES(S2J_FAMILY_CASE)
+        S2J_FAMILIES(S2J_FAMILY_CASE, T)
 #undef S2J_FAMILY_CASE
     }
     return false;
@@ -55,7 +56,7 @@ inline int family_line(const Families &fam, Family f) {
     switch (f) {
 #define S2J_FAMILY_CASE(Id, member, ...) \
     case Family::Id: return fam.line.member;
-        S2J_FAMILIES(S2J_FAMILY_CASE)
+        S2J_FAMILIES(S2J_FAMILY_CASE, T)
 #undef S2J_FAMILY_CASE
     }
     return 0;

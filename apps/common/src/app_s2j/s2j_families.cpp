@@ -17,8 +17,8 @@ namespace {
 struct Affixes {
     const char *prefix, *suffix;
 };
-#define S2J_AFFIXES(Id, member, prefix, suffix, ...) {prefix, suffix},
-constexpr Affixes kAffixes[] = {S2J_FAMILIES(S2J_AFFIXES)};
+#define S2J_AFFIXES(Id, member, prefix, suffix, ...) {#prefix, #suffix},
+constexpr Affixes kAffixes[] = {S2J_FAMILIES(S2J_AFFIXES, T)};
 #undef S2J_AFFIXES
 static_assert(sizeof kAffixes / sizeof kAffixes[0] == kFamilyCount,
               "one prefix and suffix per family");

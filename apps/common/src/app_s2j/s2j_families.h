@@ -51,57 +51,18 @@ int fam_j2s_array_update_with_len(Site s, uint32_t tree_line, const TypeDesc *d,
 
 }  // namespace s2j
 
-// The exported members' signatures: the definitions below are made with
-// them, and so are the declarations that follow, which let the file members
-// and the registry name a member of any type whether or not the public
-// header declares it yet (it is written from the registry).  A definition
-// or a header prototype that differs from them conflicts with them and
-// fails the build.  A declaration that no line defines is never referred to.
-#define S2J_SIG_S2J(T) S2J_API char *s2j_##T(const T *struct_ptr, int formatted)
-#define S2J_SIG_C2S(T) S2J_API int c2s_##T(const cJSON *json, T *struct_ptr)
-#define S2J_SIG_J2S(T) S2J_API int j2s_##T(const char *json_str, T *struct_ptr)
-#define S2J_SIG_J2S_LEN(T) S2J_API int j2s_##T##_with_len(const char *json_str, size_t json_str_len, T *struct_ptr)
-#define S2J_SIG_S2J_ARRAY(T) \
-    S2J_API char *s2j_array_##T(const T *struct_array, uint32_t struct_array_size, int formatted)
-#define S2J_SIG_C2S_ARRAY(T) \
-    S2J_API int c2s_array_##T(const cJSON *json, T *struct_array, uint32_t *struct_array_size)
-#define S2J_SIG_J2S_ARRAY(T) \
-    S2J_API int j2s_array_##T(const char *json_str, T *struct_array, uint32_t *struct_array_size)
-#define S2J_SIG_J2S_ARRAY_LEN(T)                                                                       \
-    S2J_API int j2s_array_##T##_with_len(const char *json_str, size_t json_str_len, T *struct_array, \
-                                         uint32_t *struct_array_size)
-#define S2J_SIG_C2S_ARRAY_UPDATE(T) \
-    S2J_API int c2s_array_update_##T(const cJSON *json, T *struct_array, uint32_t *struct_array_size)
-#define S2J_SIG_J2S_ARRAY_UPDATE(T) \
-    S2J_API int j2s_array_update_##T(const char *json_str, T *struct_array, uint32_t *struct_array_size)
-#define S2J_SIG_J2S_ARRAY_UPDATE_LEN(T)                                                           \
-    S2J_API int j2s_array_update_##T##_with_len(const char *json_str, size_t json_str_len,     \
-                                                T *struct_array, uint32_t *struct_array_size)
-#define S2J_SIG_F2S(T) S2J_API int f2s_##T(const char *fine_name, T *struct_ptr)
-#define S2J_SIG_S2F(T) S2J_API int s2f_##T(const char *fine_name, const T *struct_ptr)
-#define S2J_SIG_F2S_ARRAY(T) \
-    S2J_API int f2s_array_##T(const char *fine_name, T *struct_array, uint32_t *struct_array_size)
-#define S2J_SIG_S2F_ARRAY(T) \
-    S2J_API int s2f_array_##T(const char *fine_name, const T *struct_array, uint32_t struct_array_size)
-
-// Every family's member of T, declared.
-#define S2J_DECLARE_MEMBERS(T)                                                                 \
-    S2J_SIG_S2J(T);                                                                            \
-    S2J_SIG_C2S(T);                                                                            \
-    S2J_SIG_J2S(T);                                                                            \
-    S2J_SIG_J2S_LEN(T);                                                                        \
-    S2J_SIG_S2J_ARRAY(T);                                                                      \
-    S2J_SIG_C2S_ARRAY(T);                                                                      \
-    S2J_SIG_J2S_ARRAY(T);                                                                      \
-    S2J_SIG_J2S_ARRAY_LEN(T);                                                                  \
-    S2J_SIG_C2S_ARRAY_UPDATE(T);                                                               \
-    S2J_SIG_J2S_ARRAY_UPDATE(T);                                                               \
-    S2J_SIG_J2S_ARRAY_UPDATE_LEN(T);                                                           \
-    S2J_SIG_F2S(T);                                                                            \
-    S2J_SIG_S2F(T);                                                                            \
-    S2J_SIG_F2S_ARRAY(T);                                                                      \
-    S2J_SIG_S2F_ARRAY(T);
-static_assert(::s2j::kFamilyCount == 15, "S2J_DECLARE_MEMBERS declares a member of every family");
+// The exported members: a member of family Id for the type T is defined with
+// the prototype of its family's row (S2J_PROTOTYPE), and every member of
+// every type is declared with it first.  The declarations let the file
+// members and the registry name a member of any type whether or not the
+// public header declares it yet (it is written from the registry); a
+// definition or a header prototype that differs from them conflicts with
+// them and fails the build.  A declaration that no line defines is never
+// referred to.
+#define S2J_SIG(Id, T) S2J_API S2J_PROTOTYPE(Id, T)
+#define S2J_DECLARE_MEMBER(Id, member, prefix, suffix, Maker, list, ret, params, T) \
+    S2J_API ret prefix##T##suffix params;
+#define S2J_DECLARE_MEMBERS(T) S2J_FAMILIES(S2J_DECLARE_MEMBER, T)
 S2J_TYPES(S2J_DECLARE_MEMBERS)
 
 #define S2J_SITE(fam) const ::s2j::Site site{__FILE__, __LINE__, ::s2j::Family::fam}
@@ -116,68 +77,68 @@ S2J_TYPES(S2J_DECLARE_MEMBERS)
 #ifndef S2J_REGISTRY_PASS
 
 #define S2J_DEF_S2J(T)                                                                             \
-    S2J_SIG_S2J(T) {                                                                               \
+    S2J_SIG(S2J, T) {                                                                               \
         S2J_SITE(S2J);                                                                             \
         return ::s2j::fam_s2j(site, &::s2j::desc_##T, struct_ptr, formatted);                      \
     }
 
 #define S2J_DEF_C2S(T)                                                                             \
     S2J_MARK_LINE(C2S, T)                                                                          \
-    S2J_SIG_C2S(T) {                                                                               \
+    S2J_SIG(C2S, T) {                                                                               \
         S2J_SITE(C2S);                                                                             \
         return ::s2j::fam_c2s(site, &::s2j::desc_##T, json, struct_ptr);                           \
     }
 
 #define S2J_DEF_J2S(T)                                                                             \
-    S2J_SIG_J2S(T) {                                                                               \
+    S2J_SIG(J2S, T) {                                                                               \
         S2J_SITE(J2S);                                                                             \
         return ::s2j::fam_j2s(site, S2J_LINE_OF(C2S, T), &::s2j::desc_##T, json_str, struct_ptr);  \
     }                                                                                              \
-    S2J_SIG_J2S_LEN(T) {                                                                           \
+    S2J_SIG(J2S_LEN, T) {                                                                           \
         S2J_SITE(J2S_LEN);                                                                         \
         return ::s2j::fam_j2s_with_len(site, S2J_LINE_OF(C2S, T), &::s2j::desc_##T, json_str,      \
                                        json_str_len, struct_ptr);                                  \
     }
 
 #define S2J_DEF_S2J_ARRAY(T)                                                                       \
-    S2J_SIG_S2J_ARRAY(T) {                                                                         \
+    S2J_SIG(S2J_ARRAY, T) {                                                                         \
         S2J_SITE(S2J_ARRAY);                                                                       \
         return ::s2j::fam_s2j_array(site, &::s2j::desc_##T, struct_array, struct_array_size, formatted); \
     }
 
 #define S2J_DEF_C2S_ARRAY(T)                                                                       \
     S2J_MARK_LINE(C2S_ARRAY, T)                                                                    \
-    S2J_SIG_C2S_ARRAY(T) {                                                                         \
+    S2J_SIG(C2S_ARRAY, T) {                                                                         \
         S2J_SITE(C2S_ARRAY);                                                                       \
         return ::s2j::fam_c2s_array(site, &::s2j::desc_##T, json, struct_array, struct_array_size); \
     }
 
 #define S2J_DEF_C2S_ARRAY_UPDATE(T)                                                                \
     S2J_MARK_LINE(C2S_ARRAY_UPDATE, T)                                                             \
-    S2J_SIG_C2S_ARRAY_UPDATE(T) {                                                                  \
+    S2J_SIG(C2S_ARRAY_UPDATE, T) {                                                                  \
         S2J_SITE(C2S_ARRAY_UPDATE);                                                                \
         return ::s2j::fam_c2s_array_update(site, &::s2j::desc_##T, json, struct_array, struct_array_size); \
     }
 
 #define S2J_DEF_J2S_ARRAY(T)                                                                       \
-    S2J_SIG_J2S_ARRAY(T) {                                                                         \
+    S2J_SIG(J2S_ARRAY, T) {                                                                         \
         S2J_SITE(J2S_ARRAY);                                                                       \
         return ::s2j::fam_j2s_array(site, S2J_LINE_OF(C2S_ARRAY, T), &::s2j::desc_##T, json_str, struct_array, \
                                     struct_array_size);                                            \
     }                                                                                              \
-    S2J_SIG_J2S_ARRAY_LEN(T) {                                                                     \
+    S2J_SIG(J2S_ARRAY_LEN, T) {                                                                     \
         S2J_SITE(J2S_ARRAY_LEN);                                                                   \
         return ::s2j::fam_j2s_array_with_len(site, S2J_LINE_OF(C2S_ARRAY, T), &::s2j::desc_##T, json_str, \
                                              json_str_len, struct_array, struct_array_size);       \
     }
 
 #define S2J_DEF_J2S_ARRAY_UPDATE(T)                                                                \
-    S2J_SIG_J2S_ARRAY_UPDATE(T) {                                                                  \
+    S2J_SIG(J2S_ARRAY_UPDATE, T) {                                                                  \
         S2J_SITE(J2S_ARRAY_UPDATE);                                                                \
         return ::s2j::fam_j2s_array_update(site, S2J_LINE_OF(C2S_ARRAY_UPDATE, T), &::s2j::desc_##T, json_str, \
                                            struct_array, struct_array_size);                       \
     }                                                                                              \
-    S2J_SIG_J2S_ARRAY_UPDATE_LEN(T) {                                                              \
+    S2J_SIG(J2S_ARRAY_UPDATE_LEN, T) {                                                              \
         S2J_SITE(J2S_ARRAY_UPDATE_LEN);                                                            \
         return ::s2j::fam_j2s_array_update_with_len(site, S2J_LINE_OF(C2S_ARRAY_UPDATE, T), &::s2j::desc_##T, \
                                                     json_str, json_str_len, struct_array, struct_array_size); \

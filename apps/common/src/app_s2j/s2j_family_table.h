@@ -12,76 +12,89 @@
 #include <cstddef>
 #include <cstdint>
 
-// One row per exported function of a family, in the order the registry, the
-// tool and the public header list them:
-//   X(Id, member, prefix, suffix, Shape, Maker, list, c_return, c_params)
+// One row per exported function of a family, each its own macro so that a
+// member's prototype can be taken by the family's name (S2J_PROTOTYPE):
+//   X(Id, member, prefix, suffix, Maker, list, ret, params, T)
 //   Id        the Family enumerator
 //   member    the registry's name of it (Families::member, Families::Lines::member)
 //   prefix, suffix  around the type's name: the exported function's name
-//   Shape     the type-erased signature the registry holds (s2j::shape::Shape)
 //   Maker     the Family whose instantiation macro S2J_DEF_<Maker> defines it:
 //             a _with_len variant comes with its family's member, on its line
 //   list      which instantiation list states it: kTextList (app_s2j.cpp) or
 //             kFileList (file2struct_def.cpp)
-//   c_return, c_params  its C prototype, T standing for the record type
-#define S2J_FAMILIES(X)                                                                                  \
-    X(S2J, s2j, "s2j_", "", EmitText, S2J, kTextList, "char *", "const T *struct_ptr, int formatted")    \
-    X(C2S, c2s, "c2s_", "", ReadTree, C2S, kTextList, "int ", "const cJSON *json, T *struct_ptr")         \
-    X(J2S, j2s, "j2s_", "", ReadText, J2S, kTextList, "int ", "const char *json_str, T *struct_ptr")      \
-    X(J2S_LEN, j2s_with_len, "j2s_", "_with_len", ReadTextLen, J2S, kTextList, "int ",                   \
-      "const char *json_str, size_t json_str_len, T *struct_ptr")                                         \
-    X(S2J_ARRAY, s2j_array, "s2j_array_", "", EmitTextArray, S2J_ARRAY, kTextList, "char *",             \
-      "const T *struct_array, uint32_t struct_array_size, int formatted")                                 \
-    X(C2S_ARRAY, c2s_array, "c2s_array_", "", ReadTreeArray, C2S_ARRAY, kTextList, "int ",               \
-      "const cJSON *json, T *struct_array, uint32_t *struct_array_size")                                  \
-    X(J2S_ARRAY, j2s_array, "j2s_array_", "", ReadTextArray, J2S_ARRAY, kTextList, "int ",               \
-      "const char *json_str, T *struct_array, uint32_t *struct_array_size")                               \
-    X(J2S_ARRAY_LEN, j2s_array_with_len, "j2s_array_", "_with_len", ReadTextArrayLen, J2S_ARRAY,         \
-      kTextList, "int ", "const char *json_str, size_t json_str_len, T *struct_array, uint32_t *struct_array_size") \
-    X(C2S_ARRAY_UPDATE, c2s_array_update, "c2s_array_update_", "", ReadTreeArray, C2S_ARRAY_UPDATE,     \
-      kTextList, "int ", "const cJSON *json, T *struct_array, uint32_t *struct_array_size")               \
-    X(J2S_ARRAY_UPDATE, j2s_array_update, "j2s_array_update_", "", ReadTextArray, J2S_ARRAY_UPDATE,     \
-      kTextList, "int ", "const char *json_str, T *struct_array, uint32_t *struct_array_size")            \
-    X(J2S_ARRAY_UPDATE_LEN, j2s_array_update_with_len, "j2s_array_update_", "_with_len", ReadTextArrayLen, \
-      J2S_ARRAY_UPDATE, kTextList, "int ",                                                                \
-      "const char *json_str, size_t json_str_len, T *struct_array, uint32_t *struct_array_size")          \
-    X(F2S, f2s, "f2s_", "", ReadFile, F2S, kFileList, "int ", "const char *fine_name, T *struct_ptr")     \
-    X(S2F, s2f, "s2f_", "", WriteFile, S2F, kFileList, "int ", "const char *fine_name, const T *struct_ptr") \
-    X(F2S_ARRAY, f2s_array, "f2s_array_", "", ReadFileArray, F2S_ARRAY, kFileList, "int ",               \
-      "const char *fine_name, T *struct_array, uint32_t *struct_array_size")                              \
-    X(S2F_ARRAY, s2f_array, "s2f_array_", "", WriteFileArray, S2F_ARRAY, kFileList, "int ",              \
-      "const char *fine_name, const T *struct_array, uint32_t struct_array_size")
+//   ret, params  its C prototype for the record type T: the definitions and
+//             declarations of the members are made of them (T the type), the
+//             registry's type-erased pointers too (T void), and the public
+//             header's text (T itself, stringified).
+#define S2J_FAMILY_S2J(X, T) X(S2J, s2j, s2j_, , S2J, kTextList, char *, (const T *struct_ptr, int formatted), T)
+#define S2J_FAMILY_C2S(X, T) X(C2S, c2s, c2s_, , C2S, kTextList, int, (const cJSON *json, T *struct_ptr), T)
+#define S2J_FAMILY_J2S(X, T) X(J2S, j2s, j2s_, , J2S, kTextList, int, (const char *json_str, T *struct_ptr), T)
+#define S2J_FAMILY_J2S_LEN(X, T)                                        \
+    X(J2S_LEN, j2s_with_len, j2s_, _with_len, J2S, kTextList, int,      \
+      (const char *json_str, size_t json_str_len, T *struct_ptr), T)
+#define S2J_FAMILY_S2J_ARRAY(X, T)                                      \
+    X(S2J_ARRAY, s2j_array, s2j_array_, , S2J_ARRAY, kTextList, char *, \
+      (const T *struct_array, uint32_t struct_array_size, int formatted), T)
+#define S2J_FAMILY_C2S_ARRAY(X, T)                                      \
+    X(C2S_ARRAY, c2s_array, c2s_array_, , C2S_ARRAY, kTextList, int,    \
+      (const cJSON *json, T *struct_array, uint32_t *struct_array_size), T)
+#define S2J_FAMILY_J2S_ARRAY(X, T)                                      \
+    X(J2S_ARRAY, j2s_array, j2s_array_, , J2S_ARRAY, kTextList, int,    \
+      (const char *json_str, T *struct_array, uint32_t *struct_array_size), T)
+#define S2J_FAMILY_J2S_ARRAY_LEN(X, T)                                                      \
+    X(J2S_ARRAY_LEN, j2s_array_with_len, j2s_array_, _with_len, J2S_ARRAY, kTextList, int,  \
+      (const char *json_str, size_t json_str_len, T *struct_array, uint32_t *struct_array_size), T)
+#define S2J_FAMILY_C2S_ARRAY_UPDATE(X, T)                                                     \
+    X(C2S_ARRAY_UPDATE, c2s_array_update, c2s_array_update_, , C2S_ARRAY_UPDATE, kTextList, int, \
+      (const cJSON *json, T *struct_array, uint32_t *struct_array_size), T)
+#define S2J_FAMILY_J2S_ARRAY_UPDATE(X, T)                                                     \
+    X(J2S_ARRAY_UPDATE, j2s_array_update, j2s_array_update_, , J2S_ARRAY_UPDATE, kTextList, int, \
+      (const char *json_str, T *struct_array, uint32_t *struct_array_size), T)
+#define S2J_FAMILY_J2S_ARRAY_UPDATE_LEN(X, T)                                                           \
+    X(J2S_ARRAY_UPDATE_LEN, j2s_array_update_with_len, j2s_array_update_, _with_len, J2S_ARRAY_UPDATE,  \
+      kTextList, int, (const char *json_str, size_t json_str_len, T *struct_array, uint32_t *struct_array_size), T)
+#define S2J_FAMILY_F2S(X, T) X(F2S, f2s, f2s_, , F2S, kFileList, int, (const char *fine_name, T *struct_ptr), T)
+#define S2J_FAMILY_S2F(X, T) \
+    X(S2F, s2f, s2f_, , S2F, kFileList, int, (const char *fine_name, const T *struct_ptr), T)
+#define S2J_FAMILY_F2S_ARRAY(X, T)                                    \
+    X(F2S_ARRAY, f2s_array, f2s_array_, , F2S_ARRAY, kFileList, int,  \
+      (const char *fine_name, T *struct_array, uint32_t *struct_array_size), T)
+#define S2J_FAMILY_S2F_ARRAY(X, T)                                    \
+    X(S2F_ARRAY, s2f_array, s2f_array_, , S2F_ARRAY, kFileList, int,  \
+      (const char *fine_name, const T *struct_array, uint32_t struct_array_size), T)
+
+// Every row, in the order the registry, the tool and the public header list
+// them; T is the record type the prototypes are made for (T itself where
+// they are not used).
+#define S2J_FAMILIES(X, T)                                                                        \
+    S2J_FAMILY_S2J(X, T) S2J_FAMILY_C2S(X, T) S2J_FAMILY_J2S(X, T) S2J_FAMILY_J2S_LEN(X, T)      \
+    S2J_FAMILY_S2J_ARRAY(X, T) S2J_FAMILY_C2S_ARRAY(X, T) S2J_FAMILY_J2S_ARRAY(X, T)             \
+    S2J_FAMILY_J2S_ARRAY_LEN(X, T) S2J_FAMILY_C2S_ARRAY_UPDATE(X, T)                              \
+    S2J_FAMILY_J2S_ARRAY_UPDATE(X, T) S2J_FAMILY_J2S_ARRAY_UPDATE_LEN(X, T)                       \
+    S2J_FAMILY_F2S(X, T) S2J_FAMILY_S2F(X, T) S2J_FAMILY_F2S_ARRAY(X, T) S2J_FAMILY_S2F_ARRAY(X, T)
+
+// The prototype of T's member of family Id (without its linkage), and the
+// parts of it that the rows give.
+#define S2J_PROTOTYPE_OF(Id, member, prefix, suffix, Maker, list, ret, params, T) ret prefix##T##suffix params
+#define S2J_PROTOTYPE(Id, T) S2J_FAMILY_##Id(S2J_PROTOTYPE_OF, T)
+#define S2J_TEXT_OF(...) #__VA_ARGS__
+#define S2J_TEXT(...) S2J_TEXT_OF(__VA_ARGS__)
+#define S2J_NO_PARENS(...) __VA_ARGS__
 
 namespace s2j {
 
 // The family a member belongs to; with the type's name it makes the
 // member's exported name.
 #define S2J_FAMILY_ENUMERATOR(Id, ...) Id,
-enum class Family : uint8_t { S2J_FAMILIES(S2J_FAMILY_ENUMERATOR) };
+enum class Family : uint8_t { S2J_FAMILIES(S2J_FAMILY_ENUMERATOR, T) };
 #undef S2J_FAMILY_ENUMERATOR
 
 #define S2J_FAMILY_COUNT(...) +1
-inline constexpr size_t kFamilyCount = 0 S2J_FAMILIES(S2J_FAMILY_COUNT);
+inline constexpr size_t kFamilyCount = 0 S2J_FAMILIES(S2J_FAMILY_COUNT, T);
 #undef S2J_FAMILY_COUNT
 
 // The instantiation list that states a family's members.
 enum class List : uint8_t { kTextList, kFileList };
-
-// The signatures of the family members, with the record type erased.
-namespace shape {
-using EmitText = char *(*)(const void *rec, int formatted);
-using ReadTree = int (*)(const cJSON *json, void *rec);
-using ReadText = int (*)(const char *json_str, void *rec);
-using ReadTextLen = int (*)(const char *json_str, size_t len, void *rec);
-using EmitTextArray = char *(*)(const void *arr, uint32_t count, int formatted);
-using ReadTreeArray = int (*)(const cJSON *json, void *arr, uint32_t *count);
-using ReadTextArray = int (*)(const char *json_str, void *arr, uint32_t *count);
-using ReadTextArrayLen = int (*)(const char *json_str, size_t len, void *arr, uint32_t *count);
-using ReadFile = int (*)(const char *fine_name, void *rec);
-using WriteFile = int (*)(const char *fine_name, const void *rec);
-using ReadFileArray = int (*)(const char *fine_name, void *arr, uint32_t *count);
-using WriteFileArray = int (*)(const char *fine_name, const void *arr, uint32_t count);
-}  // namespace shape
 
 // A family as the registry, the tool and the generators read it.  The shared
 // library keeps only the affixes (s2j_families.cpp), so that it carries none
@@ -92,13 +105,13 @@ struct FamilyInfo {
     const char *prefix, *suffix;
     Family maker;  // the family whose instantiation line defines this member
     List list;
-    const char *c_return;  // "int " or "char *": the prototype's start
+    const char *c_return;  // "int" or "char *": the prototype's start
     const char *c_params;  // the prototype's parameters, T for the record type
 };
 
-#define S2J_FAMILY_INFO(Id, member, prefix, suffix, Shape, Maker, list, c_return, c_params) \
-    {Family::Id, #member, prefix, suffix, Family::Maker, List::list, c_return, c_params},
-inline constexpr FamilyInfo kFamilies[] = {S2J_FAMILIES(S2J_FAMILY_INFO)};
+#define S2J_FAMILY_INFO(Id, member, prefix, suffix, Maker, list, ret, params, T)                              \
+    {Family::Id, #member, #prefix, #suffix, Family::Maker, List::list, #ret, S2J_TEXT(S2J_NO_PARENS params)},
+inline constexpr FamilyInfo kFamilies[] = {S2J_FAMILIES(S2J_FAMILY_INFO, T)};
 #undef S2J_FAMILY_INFO
 
 constexpr bool families_in_enum_order() {
