@@ -44,15 +44,16 @@
 #define S2J_FAMILY_J2S_ARRAY_LEN(X, T)                                                      \
     X(J2S_ARRAY_LEN, j2s_array_with_len, j2s_array_, _with_len, J2S_ARRAY, kTextList, int,  \
       (const char *json_str, size_t json_str_len, T *struct_array, uint32_t *struct_array_size), T)
-#define S2J_FAMILY_C2S_ARRAY_UPDATE(X, T)                                                     \
+// An update member takes what the member of its array family takes.
+#define S2J_FAMILY_C2S_ARRAY_UPDATE(X, T)                                                         \
     X(C2S_ARRAY_UPDATE, c2s_array_update, c2s_array_update_, , C2S_ARRAY_UPDATE, kTextList, int, \
-      (const cJSON *json, T *struct_array, uint32_t *struct_array_size), T)
-#define S2J_FAMILY_J2S_ARRAY_UPDATE(X, T)                                                     \
+      S2J_PARAMS(C2S_ARRAY, T), T)
+#define S2J_FAMILY_J2S_ARRAY_UPDATE(X, T)                                                         \
     X(J2S_ARRAY_UPDATE, j2s_array_update, j2s_array_update_, , J2S_ARRAY_UPDATE, kTextList, int, \
-      (const char *json_str, T *struct_array, uint32_t *struct_array_size), T)
-#define S2J_FAMILY_J2S_ARRAY_UPDATE_LEN(X, T)                                                           \
-    X(J2S_ARRAY_UPDATE_LEN, j2s_array_update_with_len, j2s_array_update_, _with_len, J2S_ARRAY_UPDATE,  \
-      kTextList, int, (const char *json_str, size_t json_str_len, T *struct_array, uint32_t *struct_array_size), T)
+      S2J_PARAMS(J2S_ARRAY, T), T)
+#define S2J_FAMILY_J2S_ARRAY_UPDATE_LEN(X, T)                                                          \
+    X(J2S_ARRAY_UPDATE_LEN, j2s_array_update_with_len, j2s_array_update_, _with_len, J2S_ARRAY_UPDATE, \
+      kTextList, int, S2J_PARAMS(J2S_ARRAY_LEN, T), T)
 #define S2J_FAMILY_F2S(X, T) X(F2S, f2s, f2s_, , F2S, kFileList, int, (const char *fine_name, T *struct_ptr), T)
 #define S2J_FAMILY_S2F(X, T) \
     X(S2F, s2f, s2f_, , S2F, kFileList, int, (const char *fine_name, const T *struct_ptr), T)
@@ -73,10 +74,12 @@
     S2J_FAMILY_J2S_ARRAY_UPDATE(X, T) S2J_FAMILY_J2S_ARRAY_UPDATE_LEN(X, T)                       \
     S2J_FAMILY_F2S(X, T) S2J_FAMILY_S2F(X, T) S2J_FAMILY_F2S_ARRAY(X, T) S2J_FAMILY_S2F_ARRAY(X, T)
 
-// The prototype of T's member of family Id (without its linkage), and the
-// parts of it that the rows give.
+// The prototype of T's member of family Id (without its linkage), its
+// parameters, and the text of either.
 #define S2J_PROTOTYPE_OF(Id, member, prefix, suffix, Maker, list, ret, params, T) ret prefix##T##suffix params
 #define S2J_PROTOTYPE(Id, T) S2J_FAMILY_##Id(S2J_PROTOTYPE_OF, T)
+#define S2J_PARAMS_OF(Id, member, prefix, suffix, Maker, list, ret, params, T) params
+#define S2J_PARAMS(Id, T) S2J_FAMILY_##Id(S2J_PARAMS_OF, T)
 #define S2J_TEXT_OF(...) #__VA_ARGS__
 #define S2J_TEXT(...) S2J_TEXT_OF(__VA_ARGS__)
 #define S2J_NO_PARENS(...) __VA_ARGS__
