@@ -111,7 +111,10 @@ void store_u32(char *at, int64_t value) {
 // snprintf(at, size, "%s", text) without the formatting machinery.
 void store_string(char *at, uint32_t size, const cJSON *m) {
     const char *s = m->valuestring != nullptr ? m->valuestring : "";
-    size_t n = strnlen(s, size - 1);
+    // The whole length, then cut: the text is cJSON's own, NUL-terminated,
+    // and already read once by its parser.
+    size_t n = std::strlen(s);
+    if (n > size - 1) n = size - 1;
     std::memcpy(at, s, n);
     at[n] = '\0';
 }
