@@ -7,16 +7,13 @@
 
 #include <cstring>
 #include <initializer_list>
+#include <map>
 #include <string>
 #include <type_traits>
 #include <vector>
 
 #include "app_s2j.h"
 #include "registry.h"
-
-// Capacity of a member, and whether a member has a given C type.
-#define CAPACITY(T, m) sizeof(((T *)0)->m)
-#define MEMBER_IS(T, m, C) std::is_same<decltype(T::m), C>::value
 
 namespace testing_support {
 
@@ -41,6 +38,16 @@ std::string file_list_file();
 
 // Every registry type, in registry order.
 std::vector<const s2j::TypeInfo *> all_types();
+
+// A member of a struct as the public types header declares it: its C type
+// ("uint32_t", "char[64]", "uint32_t[256]") and its name.
+struct DeclaredMember {
+    std::string type;
+    std::string name;
+};
+// Every struct of the public types header (app_s2j_types.h) by name, its
+// members in order.
+const std::map<std::string, std::vector<DeclaredMember>> &declared_structs();
 
 // Whether the library exports a function of that name.
 bool exported(const std::string &name);

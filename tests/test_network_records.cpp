@@ -1,6 +1,6 @@
-// Network interfaces and LAN, wireless, serial ports: the layout of every
-// record, the functions each type has (and those it has not), and the rules
-// that are particular to these records: the 16-bit MTUSize of the LAN record
+// Network interfaces and LAN, wireless, serial ports: the functions each
+// type has (and those it has not), and the rules that are particular to these
+// records: the 16-bit MTUSize of the LAN record
 // beside the 32-bit one of the wireless record, the key spellings
 // "Removeable", "MacAddress" and "MACAddress", string keys (one of them not
 // the record's first field) and the single-key reader of the interface
@@ -17,81 +17,6 @@
 using namespace testing_support;
 
 namespace {
-
-// ---- Layout ---------------------------------------------------------------
-
-static_assert(sizeof(NetworkCapabilitySet) == 32, "eight int32 flags");
-static_assert(offsetof(NetworkCapabilitySet, SupportIoTCloud) == 28, "");
-static_assert(MEMBER_IS(NetworkCapabilitySet, SupportIPv6, int32_t), "");
-
-static_assert(sizeof(NetworkInterface) == 536, "");
-static_assert(CAPACITY(NetworkInterface, Name) == 64 && CAPACITY(NetworkInterface, SupportStandardList) == 256, "");
-static_assert(offsetof(NetworkInterface, SupportStandardList) == 256, "");
-static_assert(offsetof(NetworkInterface, Removeable) == 516, "");
-static_assert(offsetof(NetworkInterface, MaxTransmissionRate) == 532, "");
-static_assert(MEMBER_IS(NetworkInterface, Removeable, int32_t) &&
-                  MEMBER_IS(NetworkInterface, MaxReceptionRate, uint32_t),
-              "");
-
-static_assert(sizeof(NetworkInterfaceStatus) == 84, "");
-static_assert(offsetof(NetworkInterfaceStatus, IsPlugged) == 64, "");
-static_assert(offsetof(NetworkInterfaceStatus, InternetIsConnected) == 80, "");
-static_assert(MEMBER_IS(NetworkInterfaceStatus, ReceptionRate, uint32_t), "");
-
-static_assert(sizeof(NetworkLANParameter) == 372, "MTUSize fills the last two bytes without padding");
-static_assert(offsetof(NetworkLANParameter, IPv4Address) == 68, "");
-static_assert(offsetof(NetworkLANParameter, IPv6Enable) == 148, "");
-static_assert(offsetof(NetworkLANParameter, IPv6SubnetPrefixLength) == 252, "");
-static_assert(offsetof(NetworkLANParameter, MACAddress) == 352, "");
-static_assert(offsetof(NetworkLANParameter, MTUSize) == 370, "MTUSize directly after MACAddress");
-static_assert(CAPACITY(NetworkLANParameter, IPv4Address) == 16 && CAPACITY(NetworkLANParameter, IPv6Address) == 48, "");
-static_assert(CAPACITY(NetworkLANParameter, MACAddress) == 18, "");
-static_assert(MEMBER_IS(NetworkLANParameter, MTUSize, uint16_t), "the LAN MTU is 16 bits wide");
-static_assert(sizeof(NetworkLANParameterKeyword) == 64 && CAPACITY(NetworkLANParameterKeyword, InterfaceName) == 64,
-              "");
-
-static_assert(sizeof(NetworkRouteParameter) == 64, "");
-static_assert(CAPACITY(NetworkRouteParameter, PrimaryNetworkInterface) == 64, "");
-
-static_assert(sizeof(NetworkWIFIParameter) == 652, "");
-static_assert(offsetof(NetworkWIFIParameter, SSID) == 68, "");
-static_assert(offsetof(NetworkWIFIParameter, SecurityKey) == 140, "");
-static_assert(offsetof(NetworkWIFIParameter, IPv4DHCPEnable) == 204, "");
-static_assert(offsetof(NetworkWIFIParameter, MACAddress) == 492, "");
-static_assert(offsetof(NetworkWIFIParameter, MTUSize) == 512, "a 32-bit MTUSize is aligned after MACAddress");
-static_assert(offsetof(NetworkWIFIParameter, AccessPointSSID) == 516, "");
-static_assert(offsetof(NetworkWIFIParameter, AccessPointSecurityKey) == 588, "");
-static_assert(MEMBER_IS(NetworkWIFIParameter, MTUSize, uint32_t), "the wireless MTU is 32 bits wide");
-static_assert(MEMBER_IS(NetworkWIFIParameter, WorkMode, uint32_t), "");
-static_assert(sizeof(NetworkWIFIParameterKeyword) == 64, "");
-
-static_assert(sizeof(ScanWIFIHotspotParameter) == 68, "");
-static_assert(offsetof(ScanWIFIHotspotParameter, Rescan) == 64, "");
-
-static_assert(sizeof(WIFIHotspot) == 664, "");
-static_assert(offsetof(WIFIHotspot, MacAddress) == 128 && CAPACITY(WIFIHotspot, MacAddress) == 18, "");
-static_assert(offsetof(WIFIHotspot, SupportSecurityTypeList) == 402, "");
-static_assert(offsetof(WIFIHotspot, SignalStrength) == 660, "");
-static_assert(MEMBER_IS(WIFIHotspot, SignalStrength, int32_t), "signal levels are signed");
-
-static_assert(sizeof(SerialPortInterface) == 1604, "");
-static_assert(offsetof(SerialPortInterface, Removable) == 320, "");
-static_assert(offsetof(SerialPortInterface, SupportedFlowControlList) == 1348, "");
-static_assert(CAPACITY(SerialPortInterface, Level) == 64 && CAPACITY(SerialPortInterface, SupportedBaudrateList) == 256,
-              "");
-
-static_assert(sizeof(SerialPortParameter) == 208, "");
-static_assert(offsetof(SerialPortParameter, Baudrate) == 68, "");
-static_assert(offsetof(SerialPortParameter, FlowControl) == 144, "");
-static_assert(sizeof(SerialPortParameterKeyword) == 64, "");
-
-static_assert(sizeof(SerialPortNetworkTransferParameter) == 348, "");
-static_assert(offsetof(SerialPortNetworkTransferParameter, Enable) == 0, "");
-static_assert(offsetof(SerialPortNetworkTransferParameter, InterfaceName) == 4, "the key is the second field");
-static_assert(offsetof(SerialPortNetworkTransferParameter, PeerAddress) == 80, "");
-static_assert(CAPACITY(SerialPortNetworkTransferParameter, PeerAddress) == 256, "");
-static_assert(offsetof(SerialPortNetworkTransferParameter, TCPServerSupportMultiAccess) == 344, "");
-static_assert(sizeof(SerialPortNetworkTransferParameterKeyword) == 64, "the keyword record is the name alone");
 
 // A LAN record with every field set.
 NetworkLANParameter lan(const char *name, uint16_t mtu) {

@@ -1,5 +1,5 @@
-// Storage devices and disk groups, recording, snapshots: the layout of every
-// record, the functions each type has (and those it has not: a record with
+// Storage devices and disk groups, recording, snapshots: the functions each
+// type has (and those it has not: a record with
 // an emitter and a reader only, requests read only, an answer written only,
 // capability sets loaded but never saved, states without files), and the
 // rules particular to these records: the signed and unsigned fields, the
@@ -18,90 +18,6 @@
 using namespace testing_support;
 
 namespace {
-
-// ---- Layout ---------------------------------------------------------------
-
-static_assert(sizeof(StorageInterface) == 340, "");
-static_assert(offsetof(StorageInterface, Removable) == 192 && offsetof(StorageInterface, Expansible) == 196, "");
-static_assert(offsetof(StorageInterface, ProtocolType) == 264, "");
-static_assert(offsetof(StorageInterface, BusID) == 336, "");
-static_assert(MEMBER_IS(StorageInterface, BusBandwidth, uint32_t) && MEMBER_IS(StorageInterface, Removable, int32_t),
-              "");
-
-static_assert(sizeof(StorageDevice) == 456, "");
-static_assert(offsetof(StorageDevice, SupportedFileSystemTypeList) == 196, "");
-static_assert(CAPACITY(StorageDevice, SupportedFileSystemTypeList) == 256, "");
-static_assert(offsetof(StorageDevice, SupportQuickFormat) == 452, "");
-
-static_assert(sizeof(StorageDeviceStatus) == 600, "");
-static_assert(offsetof(StorageDeviceStatus, FileSystemType) == 72, "");
-static_assert(offsetof(StorageDeviceStatus, MountPoint) == 140 && CAPACITY(StorageDeviceStatus, MountPoint) == 256, "");
-static_assert(offsetof(StorageDeviceStatus, TotalCapacity) == 396, "");
-static_assert(offsetof(StorageDeviceStatus, UUID) == 536 && CAPACITY(StorageDeviceStatus, UUID) == 64, "");
-static_assert(MEMBER_IS(StorageDeviceStatus, TotalCapacity, uint32_t) &&
-                  MEMBER_IS(StorageDeviceStatus, FreeCapacity, uint32_t),
-              "");
-
-static_assert(sizeof(DiskGroupCapabilitySet) == 4, "");
-static_assert(MEMBER_IS(DiskGroupCapabilitySet, MaxDiskGroupNumber, uint32_t), "");
-
-static_assert(sizeof(DiskGroupParameter) == 68, "");
-static_assert(offsetof(DiskGroupParameter, GroupID) == 64, "");
-static_assert(MEMBER_IS(DiskGroupParameter, GroupID, int32_t), "GroupID is signed");
-static_assert(sizeof(DiskGroupParameterKeyword) == 64 && CAPACITY(DiskGroupParameterKeyword, StorageDeviceName) == 64,
-              "");
-
-static_assert(sizeof(FormatDiskParameter) == 200, "");
-static_assert(offsetof(FormatDiskParameter, PartitionName) == 128, "");
-static_assert(offsetof(FormatDiskParameter, AllocationUnitSize) == 196, "");
-
-static_assert(sizeof(FormatDiskProgress) == 132, "");
-static_assert(offsetof(FormatDiskProgress, FormatDiskProgressPercent) == 64, "");
-static_assert(offsetof(FormatDiskProgress, PartitionName) == 68, "");
-static_assert(MEMBER_IS(FormatDiskProgress, FormatDiskProgressPercent, int32_t), "the percentage is signed");
-
-static_assert(sizeof(RemoveStorageDeviceParameter) == 64, "");
-
-static_assert(sizeof(RecordCapabilitySet) == 524, "");
-static_assert(offsetof(RecordCapabilitySet, MaxFileDuration) == 256, "");
-static_assert(offsetof(RecordCapabilitySet, SupportedRecordTypeList) == 264, "");
-static_assert(offsetof(RecordCapabilitySet, SupportRecord) == 520, "");
-
-static_assert(sizeof(RecordParameter) == 2396, "");
-static_assert(offsetof(RecordParameter, FileFormat) == 16, "");
-static_assert(offsetof(RecordParameter, FilePath) == 84, "");
-static_assert(offsetof(RecordParameter, ScheduleTable) == 340 && CAPACITY(RecordParameter, ScheduleTable) == 2048, "");
-static_assert(offsetof(RecordParameter, DiskGroupID) == 2388, "");
-static_assert(MEMBER_IS(RecordParameter, Channel, uint32_t) && MEMBER_IS(RecordParameter, DiskGroupID, int32_t), "");
-static_assert(sizeof(RecordParameterKeyword) == 4 && MEMBER_IS(RecordParameterKeyword, Channel, uint32_t), "");
-
-static_assert(sizeof(RecordStatus) == 12, "three uint32 words");
-static_assert(offsetof(RecordStatus, State) == 4 && offsetof(RecordStatus, FreeCapacity) == 8, "");
-static_assert(MEMBER_IS(RecordStatus, Channel, uint32_t) && MEMBER_IS(RecordStatus, FreeCapacity, uint32_t), "");
-
-static_assert(sizeof(SnapshotCapabilitySet) == 284, "");
-static_assert(offsetof(SnapshotCapabilitySet, MaxWidth) == 256, "");
-static_assert(offsetof(SnapshotCapabilitySet, MaxFramerate) == 272, "");
-static_assert(MEMBER_IS(SnapshotCapabilitySet, MinFramerate, int32_t), "");
-
-static_assert(sizeof(SnapshotParameter) == 2340, "");
-static_assert(offsetof(SnapshotParameter, Framerate) == 16 && MEMBER_IS(SnapshotParameter, Framerate, int32_t), "");
-static_assert(offsetof(SnapshotParameter, FilePath) == 24, "");
-static_assert(offsetof(SnapshotParameter, ScheduleTable) == 280, "");
-static_assert(offsetof(SnapshotParameter, ImageQuality) == 2336, "");
-static_assert(sizeof(SnapshotParameterKeyword) == 4, "");
-
-static_assert(sizeof(SnapshotStatus) == sizeof(RecordStatus), "");
-static_assert(offsetof(SnapshotStatus, State) == offsetof(RecordStatus, State), "");
-static_assert(offsetof(SnapshotStatus, FreeCapacity) == offsetof(RecordStatus, FreeCapacity), "");
-
-static_assert(sizeof(SnapshotInputParameter) == 16, "");
-static_assert(offsetof(SnapshotInputParameter, PictureHeight) == 12, "");
-
-static_assert(sizeof(SnapshotResult) == 264, "");
-static_assert(offsetof(SnapshotResult, ImageURL) == 4 && CAPACITY(SnapshotResult, ImageURL) == 256, "");
-static_assert(offsetof(SnapshotResult, ImageRetentionTime) == 260, "");
-static_assert(MEMBER_IS(SnapshotResult, ImageRetentionTime, int32_t), "");
 
 // ---- Example files --------------------------------------------------------
 

@@ -1,7 +1,6 @@
-// Streaming records: what is particular to each type (layouts, capacities,
+// Streaming records: what is particular to each type (capacities,
 // signed and unsigned fields of the same key, the 16-bit RTSP server ports,
-// the two-key updates of the protocol streams) and
-// the integer lists of StreamingInputUseCount with its lenient and strict
+// the two-key updates of the protocol streams) and the integer lists of StreamingInputUseCount with its lenient and strict
 // readers.  What every type shares is covered by test_every_type.
 #include <dlfcn.h>
 #include <gtest/gtest.h>
@@ -17,7 +16,6 @@
 using namespace testing_support;
 
 namespace {
-
 
 template <class T>
 bool same_bytes(const T &a, const T &b) {
@@ -36,7 +34,6 @@ int line_of(const char *type, int s2j::Families::Lines::*member) {
     return t != nullptr ? t->fam.line.*member : -1;
 }
 
-
 // The member `key` of an emitted object.
 const cJSON *member(const Tree &t, const char *key) { return cJSON_GetObjectItemCaseSensitive(t.p, key); }
 int64_t int_member(const Tree &t, const char *key) {
@@ -47,149 +44,6 @@ int64_t int_member(const Tree &t, const char *key) {
 
 std::string json_string_doc(const char *key, const std::string &value) {
     return std::string("{\"") + key + "\": \"" + value + "\"}";
-}
-
-// ======================================================================
-// Layouts
-// ======================================================================
-
-TEST(StreamingLayout, OutputCapabilityAndSwitchRecordsHaveTheirNaturalLayout) {
-    static_assert(sizeof(StreamingOutputCapabilitySet) == 32, "");
-    static_assert(offsetof(StreamingOutputCapabilitySet, SupportSrtStreaming) == 16, "");
-    static_assert(offsetof(StreamingOutputCapabilitySet, MaxStreamingNumber) == 20, "");
-    static_assert(offsetof(StreamingOutputCapabilitySet, SupportStreamingProtocolNumber) == 28, "");
-    static_assert(sizeof(RtspCapabilitySet) == 268, "");
-    static_assert(offsetof(RtspCapabilitySet, StreamingNumberPerChannel) == 8, "");
-    static_assert(offsetof(RtspCapabilitySet, SupportedStreamTypeList) == 12, "");
-    static_assert(sizeof(((RtspCapabilitySet *)0)->SupportedStreamTypeList) == 256, "");
-    static_assert(sizeof(RtmpCapabilitySet) == 24, "");
-    static_assert(offsetof(RtmpCapabilitySet, SupportH265Codec) == 12, "");
-    static_assert(offsetof(RtmpCapabilitySet, StreamingNumberPerChannel) == 20, "");
-    static_assert(sizeof(UdpCapabilitySet) == 268, "");
-    static_assert(offsetof(UdpCapabilitySet, SupportedStreamTypeList) == 0, "");
-    static_assert(offsetof(UdpCapabilitySet, SupportRtpPacket) == 256, "");
-    static_assert(offsetof(UdpCapabilitySet, SupportBandwidthControl) == 264, "");
-    static_assert(sizeof(((UdpCapabilitySet *)0)->SupportedStreamTypeList) == 256, "");
-    static_assert(sizeof(HttpStreamingCapabilitySet) == 28, "");
-    static_assert(offsetof(HttpStreamingCapabilitySet, SupportTSOverHttp) == 4, "");
-    static_assert(offsetof(HttpStreamingCapabilitySet, MaxHLSTotalCacheDuration) == 24, "");
-    static_assert(sizeof(SrtStreamingCapabilitySet) == 260, "");
-    static_assert(offsetof(SrtStreamingCapabilitySet, SupportedModeList) == 4, "");
-    static_assert(sizeof(((SrtStreamingCapabilitySet *)0)->SupportedModeList) == 256, "");
-    static_assert(sizeof(StreamingOutputParameter) == 20, "");
-    static_assert(offsetof(StreamingOutputParameter, SrtStreamingEnable) == 16, "");
-    // Signedness of the C members carries the field kinds.
-    static_assert(std::is_same<decltype(StreamingOutputCapabilitySet::SupportRtspStreaming), int32_t>::value, "");
-    static_assert(std::is_same<decltype(StreamingOutputCapabilitySet::MaxStreamingBandwidth), uint32_t>::value, "");
-    static_assert(std::is_same<decltype(UdpCapabilitySet::StreamingNumberPerChannel), uint32_t>::value, "");
-    static_assert(std::is_same<decltype(UdpCapabilitySet::SupportBandwidthControl), int32_t>::value, "");
-    SUCCEED();
-}
-
-TEST(StreamingLayout, ProtocolStreamRecordsAndTheirKeywordRecordsHaveTheirNaturalLayout) {
-    static_assert(sizeof(RtspStreamingParameter) == 276, "");
-    static_assert(offsetof(RtspStreamingParameter, Index) == 4, "");
-    static_assert(offsetof(RtspStreamingParameter, StreamPath) == 20, "");
-    static_assert(sizeof(((RtspStreamingParameter *)0)->StreamPath) == 256, "");
-    static_assert(sizeof(RtmpStreamingParameter) == 276, "");
-    static_assert(offsetof(RtmpStreamingParameter, StreamType) == 16, "");
-    static_assert(offsetof(RtmpStreamingParameter, StreamPath) == 20, "");
-    static_assert(sizeof(UdpStreamingParameter) == 100, "");
-    static_assert(offsetof(UdpStreamingParameter, RtpPacket) == 20, "");
-    static_assert(offsetof(UdpStreamingParameter, DestinationIP) == 24, "");
-    static_assert(sizeof(((UdpStreamingParameter *)0)->DestinationIP) == 48, "");
-    static_assert(offsetof(UdpStreamingParameter, DestinationPort) == 72, "");
-    static_assert(offsetof(UdpStreamingParameter, BandwidthControlSmoothSize) == 96, "");
-    static_assert(sizeof(HttpStreamingParameter) == 292, "");
-    static_assert(offsetof(HttpStreamingParameter, FLVEnable) == 8, "");
-    static_assert(offsetof(HttpStreamingParameter, StreamIndex) == 20, "");
-    static_assert(offsetof(HttpStreamingParameter, SessionName) == 36, "");
-    static_assert(sizeof(((HttpStreamingParameter *)0)->SessionName) == 256, "");
-    static_assert(sizeof(SrtStreamingParameter) == 2448, "");
-    static_assert(offsetof(SrtStreamingParameter, Port) == 20, "");
-    static_assert(offsetof(SrtStreamingParameter, TargetIP) == 24, "");
-    static_assert(offsetof(SrtStreamingParameter, BandwidthOverheadPercent) == 72, "");
-    static_assert(offsetof(SrtStreamingParameter, StreamKeyName) == 76, "");
-    static_assert(offsetof(SrtStreamingParameter, Passphrase) == 332, "");
-    static_assert(offsetof(SrtStreamingParameter, AESKeySize) == 396, "");
-    static_assert(offsetof(SrtStreamingParameter, TargetURL) == 400, "");
-    static_assert(sizeof(((SrtStreamingParameter *)0)->TargetIP) == 48, "");
-    static_assert(sizeof(((SrtStreamingParameter *)0)->StreamKeyName) == 256, "");
-    static_assert(sizeof(((SrtStreamingParameter *)0)->Passphrase) == 64, "");
-    static_assert(sizeof(((SrtStreamingParameter *)0)->TargetURL) == 2048, "");
-    static_assert(sizeof(RtspStreamingParameterKeyword) == 8 && offsetof(RtspStreamingParameterKeyword, Index) == 4,
-                  "");
-    static_assert(sizeof(RtmpStreamingParameterKeyword) == 8 && offsetof(RtmpStreamingParameterKeyword, Index) == 4,
-                  "");
-    static_assert(sizeof(UdpStreamingParameterKeyword) == 8 && offsetof(UdpStreamingParameterKeyword, Index) == 4, "");
-    static_assert(sizeof(HttpStreamingParameterKeyword) == 8 && offsetof(HttpStreamingParameterKeyword, Index) == 4,
-                  "");
-    static_assert(sizeof(SrtStreamingParameterKeyword) == 8 && offsetof(SrtStreamingParameterKeyword, Index) == 4, "");
-    static_assert(std::is_same<decltype(RtspStreamingParameterKeyword::Channel), uint32_t>::value, "");
-    static_assert(std::is_same<decltype(SrtStreamingParameterKeyword::Index), uint32_t>::value, "");
-    static_assert(std::is_same<decltype(UdpStreamingParameter::RtpPacket), int32_t>::value, "");
-    static_assert(std::is_same<decltype(HttpStreamingParameter::TSEnable), int32_t>::value, "");
-    SUCCEED();
-}
-
-TEST(StreamingLayout, ServerRecordsHaveTheirNaturalLayoutWithSixteenBitPortsSideBySide) {
-    static_assert(sizeof(RtspServerParameter) == 116, "");
-    static_assert(offsetof(RtspServerParameter, Port) == 4, "");
-    static_assert(offsetof(RtspServerParameter, RtspOverHttpPort) == 6, "");
-    static_assert(offsetof(RtspServerParameter, AuthenticationEnable) == 8, "");
-    static_assert(offsetof(RtspServerParameter, AuthUsername) == 16, "");
-    static_assert(offsetof(RtspServerParameter, AuthPassword) == 32, "");
-    static_assert(offsetof(RtspServerParameter, AuthRealmName) == 48, "");
-    static_assert(offsetof(RtspServerParameter, ClientLivenessTimeout) == 112, "");
-    static_assert(sizeof(((RtspServerParameter *)0)->Port) == 2, "");
-    static_assert(sizeof(((RtspServerParameter *)0)->RtspOverHttpPort) == 2, "");
-    static_assert(sizeof(((RtspServerParameter *)0)->AuthUsername) == 16, "");
-    static_assert(sizeof(((RtspServerParameter *)0)->AuthPassword) == 16, "");
-    static_assert(sizeof(((RtspServerParameter *)0)->AuthRealmName) == 64, "");
-    static_assert(sizeof(HttpStreamingServerParameter) == 8, "");
-    static_assert(offsetof(HttpStreamingServerParameter, Port) == 4, "");
-    static_assert(sizeof(OnvifServerParameter) == 2248, "");
-    static_assert(offsetof(OnvifServerParameter, UserList) == 4, "");
-    static_assert(offsetof(OnvifServerParameter, Port) == 2052, "");
-    static_assert(offsetof(OnvifServerParameter, ScopeName) == 2056, "");
-    static_assert(offsetof(OnvifServerParameter, ScopeLocationCountry) == 2120, "");
-    static_assert(offsetof(OnvifServerParameter, ScopeLocationCity) == 2184, "");
-    static_assert(sizeof(((OnvifServerParameter *)0)->UserList) == 2048, "");
-    static_assert(sizeof(WebServerParameter) == 4, "");
-    static_assert(std::is_same<decltype(RtspServerParameter::Port), uint16_t>::value, "");
-    static_assert(std::is_same<decltype(OnvifServerParameter::Port), int32_t>::value, "");
-    static_assert(std::is_same<decltype(HttpStreamingServerParameter::Port), uint32_t>::value, "");
-    static_assert(std::is_same<decltype(WebServerParameter::Port), uint32_t>::value, "");
-    SUCCEED();
-}
-
-TEST(StreamingLayout, StreamingInputRecordsHaveTheirNaturalLayoutAndListCapacities) {
-    static_assert(sizeof(StreamingInputCapabilitySet) == 28, "");
-    static_assert(offsetof(StreamingInputCapabilitySet, MaxStreamingBandwidth) == 24, "");
-    static_assert(sizeof(StreamingInputParameter) == 356, "");
-    static_assert(offsetof(StreamingInputParameter, URL) == 4, "");
-    static_assert(offsetof(StreamingInputParameter, Alias) == 260, "");
-    static_assert(offsetof(StreamingInputParameter, AuthUsername) == 324, "");
-    static_assert(offsetof(StreamingInputParameter, AuthPassword) == 340, "");
-    static_assert(sizeof(((StreamingInputParameter *)0)->URL) == 256, "");
-    static_assert(sizeof(((StreamingInputParameter *)0)->Alias) == 64, "");
-    static_assert(sizeof(StreamingInputParameterKeyword) == 4, "");
-    static_assert(std::is_same<decltype(StreamingInputParameterKeyword::Index), uint32_t>::value, "");
-    static_assert(sizeof(StreamingInputStatus) == 276, "");
-    static_assert(offsetof(StreamingInputStatus, IsConnected) == 8, "");
-    static_assert(offsetof(StreamingInputStatus, ErrorMessage) == 20, "");
-    static_assert(sizeof(StreamingInputStatusChange) == 332, "");
-    static_assert(offsetof(StreamingInputStatusChange, Alias) == 260, "");
-    static_assert(offsetof(StreamingInputStatusChange, IsEnabled) == 324, "");
-    static_assert(offsetof(StreamingInputStatusChange, IsConnected) == 328, "");
-    static_assert(sizeof(StreamingInputUseCount) == 2056, "");
-    static_assert(offsetof(StreamingInputUseCount, StreamingNumber) == 4, "");
-    static_assert(offsetof(StreamingInputUseCount, IndexList) == 8, "");
-    static_assert(offsetof(StreamingInputUseCount, UseCountList) == 1032, "");
-    static_assert(sizeof(((StreamingInputUseCount *)0)->IndexList) == 256 * sizeof(uint32_t), "");
-    static_assert(sizeof(((StreamingInputUseCount *)0)->UseCountList) == 256 * sizeof(uint32_t), "");
-    static_assert(std::is_same<decltype(StreamingInputUseCount::IndexList), uint32_t[256]>::value, "");
-    SUCCEED();
 }
 
 // ======================================================================
