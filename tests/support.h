@@ -292,6 +292,15 @@ T record_from_tree(int (*read)(T *, const cJSON *), const std::string &doc) {
     return r;
 }
 
+// Records whose Channel is their index and whose `member` is `value`.
+template <class T, class M, size_t N>
+void channels_with(T (&arr)[N], M T::*member, M value) {
+    for (uint32_t i = 0; i < N; ++i) {
+        arr[i].Channel = i;
+        arr[i].*member = value;
+    }
+}
+
 // The keyed update `request` applied by j2s_array_update to the `room`
 // records at `arr`: status 0 and `count` updates applied.
 template <class T>

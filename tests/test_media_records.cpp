@@ -375,10 +375,7 @@ TEST(VideoInputParameter, KeywordReadersRequireChannelAsAnInteger) {
 
 TEST(VideoInputParameter, KeyedUpdateByChannelChangesOnlyThatChannel) {
     VideoInputParameter a[3] = {};
-    for (uint32_t i = 0; i < 3; ++i) {
-        a[i].Channel = i;
-        a[i].Brightness = 50;
-    }
+    channels_with(a, &VideoInputParameter::Brightness, 50u);
     expect_update_applies(j2s_array_update_VideoInputParameter,
                           "[{\"Channel\":2,\"Brightness\":70,\"ScanningFrequencyInteger\":30}]", a, 3, 1);
     EXPECT_EQ(a[0].Brightness, 50u);
@@ -711,47 +708,48 @@ TEST(AudioGain, GainOfMinus12IsEmittedAsMinus12InEveryRecordThatHasIt) {
     EXPECT_TRUE(contains(compact(struct_to_json_AudioInputStatus(&c)), "\"Gain\":-12}"));
 }
 
-TEST(AudioVolume, VolumeOfMinusOneIsStoredAsItsBitsAndEmittedAs4294967295) {
-    const char *json = "[{\"Volume\":-1,\"Gain\":-12}]";
+// One record of T read by j2s_array from a Volume of -1 and a Gain of -12
+// holds the Volume's bits, and its emitter writes them unsigned.
+template <class T>
+void expect_volume_of_minus_one_read_as_its_bits(int (*j2s_array)(const char *, T *, uint32_t *),
+                                                 cJSON *(*emit)(const T *), T *r) {
     uint32_t n = 1;
-    AudioInputInterfaceParameter a[1] = {};
-    ASSERT_EQ(j2s_array_AudioInputInterfaceParameter(json, a, &n), 0);
-    EXPECT_EQ(a[0].Volume, 0xFFFFFFFFu);
-    EXPECT_EQ(a[0].Gain, -12);
-    EXPECT_TRUE(
-        contains(compact(struct_to_json_AudioInputInterfaceParameter(&a[0])), "\"Volume\":4294967295,\"Gain\":-12"));
-    n = 1;
-    AudioInputParameter b[1] = {};
-    ASSERT_EQ(j2s_array_AudioInputParameter(json, b, &n), 0);
-    EXPECT_EQ(b[0].Volume, 0xFFFFFFFFu);
-    EXPECT_TRUE(contains(compact(struct_to_json_AudioInputParameter(&b[0])), "\"Volume\":4294967295,\"Gain\":-12"));
-    n = 1;
-    AudioInputStatus c[1] = {};
-    ASSERT_EQ(j2s_array_AudioInputStatus(json, c, &n), 0);
-    EXPECT_EQ(c[0].Volume, 0xFFFFFFFFu);
-    EXPECT_TRUE(contains(compact(struct_to_json_AudioInputStatus(&c[0])), "\"Volume\":4294967295,\"Gain\":-12"));
+    ASSERT_EQ(j2s_array("[{\"Volume\":-1,\"Gain\":-12}]", r, &n), 0);
+    EXPECT_EQ(r->Volume, 0xFFFFFFFFu);
+    EXPECT_TRUE(contains(compact(emit(r)), "\"Volume\":4294967295,\"Gain\":-12"));
+}
+
+TEST(AudioVolume, VolumeOfMinusOneIsStoredAsItsBitsAndEmittedAs4294967295) {
+    AudioInputInterfaceParameter a = {};
+    expect_volume_of_minus_one_read_as_its_bits(j2s_array_AudioInputInterfaceParameter,
+                                                struct_to_json_AudioInputInterfaceParameter, &a);
+    EXPECT_EQ(a.Gain, -12);
+    AudioInputParameter b = {};
+    expect_volume_of_minus_one_read_as_its_bits(j2s_array_AudioInputParameter, struct_to_json_AudioInputParameter, &b);
+    AudioInputStatus c = {};
+    expect_volume_of_minus_one_read_as_its_bits(j2s_array_AudioInputStatus, struct_to_json_AudioInputStatus, &c);
+}
+
+// The extremes of a capability's volumes are written unsigned, of its gains
+// signed.
+template <class T>
+void expect_gains_signed_and_volumes_unsigned(cJSON *(*emit)(const T *)) {
+    T r{};
+    r.MinVolume = 0xFFFFFFFFu;
+    r.MaxVolume = 0xFFFFFFFEu;
+    r.MinGain = -40;
+    r.MaxGain = -1;
+    const std::string text = compact(emit(&r));
+    EXPECT_TRUE(contains(text, "\"MinVolume\":4294967295,\"MaxVolume\":4294967294,"));
+    EXPECT_TRUE(contains(text, "\"MinGain\":-40,\"MaxGain\":-1}"));
 }
 
 TEST(AudioInputCapabilitySet, GainsAreSignedAndVolumesUnsigned) {
-    AudioInputCapabilitySet r{};
-    r.MinVolume = 0xFFFFFFFFu;
-    r.MaxVolume = 0xFFFFFFFEu;
-    r.MinGain = -40;
-    r.MaxGain = -1;
-    const std::string text = compact(struct_to_json_AudioInputCapabilitySet(&r));
-    EXPECT_TRUE(contains(text, "\"MinVolume\":4294967295,\"MaxVolume\":4294967294,"));
-    EXPECT_TRUE(contains(text, "\"MinGain\":-40,\"MaxGain\":-1}"));
+    expect_gains_signed_and_volumes_unsigned(struct_to_json_AudioInputCapabilitySet);
 }
 
 TEST(AudioInputInterface, GainsAreSignedAndVolumesUnsigned) {
-    AudioInputInterface r{};
-    r.MinVolume = 0xFFFFFFFFu;
-    r.MaxVolume = 0xFFFFFFFEu;
-    r.MinGain = -40;
-    r.MaxGain = -1;
-    const std::string text = compact(struct_to_json_AudioInputInterface(&r));
-    EXPECT_TRUE(contains(text, "\"MinVolume\":4294967295,\"MaxVolume\":4294967294,"));
-    EXPECT_TRUE(contains(text, "\"MinGain\":-40,\"MaxGain\":-1}"));
+    expect_gains_signed_and_volumes_unsigned(struct_to_json_AudioInputInterface);
 }
 
 TEST(AudioInputStatus, InputTimingDetailsOf2048OrMoreIsStoredAsFirst2047) {

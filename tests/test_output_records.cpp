@@ -237,36 +237,34 @@ TEST(VideoOutputSourceParameter, SourceIndexAndTypeOfMinusOneAreEmittedAsMinusOn
               "{\"Channel\":4294967295,\"SourceIndex\":-1,\"SourceType\":-1,\"CacheTime\":-1}");
 }
 
+// A video or audio source-change notice.
+template <class T>
+T source_change(uint32_t channel, const char *interface_name, int32_t source_index, int32_t source_type) {
+    T c = {};
+    c.Channel = channel;
+    set(c.InterfaceName, interface_name);
+    c.SourceIndex = source_index;
+    c.SourceType = source_type;
+    return c;
+}
+
 TEST(VideoOutSourceChange, SourceIndexAndTypeOfMinusOneAreEmittedAsMinusOne) {
-    VideoOutSourceChange c = {};
-    c.Channel = 4294967295u;
-    set(c.InterfaceName, "HDMI-OUT-0");
-    c.SourceIndex = -1;
-    c.SourceType = -1;
+    const VideoOutSourceChange c = source_change<VideoOutSourceChange>(4294967295u, "HDMI-OUT-0", -1, -1);
     Text t(s2j_VideoOutSourceChange(&c, 0));
     EXPECT_EQ(t.str(),
               "{\"Channel\":4294967295,\"InterfaceName\":\"HDMI-OUT-0\",\"SourceIndex\":-1,\"SourceType\":-1}");
 }
 
 TEST(AudioOutSourceChange, SourceIndexAndTypeOfMinusOneAreEmittedAsMinusOne) {
-    AudioOutSourceChange c = {};
-    c.Channel = 4294967295u;
-    set(c.InterfaceName, "LINE-OUT-0");
-    c.SourceIndex = -1;
-    c.SourceType = -1;
+    const AudioOutSourceChange c = source_change<AudioOutSourceChange>(4294967295u, "LINE-OUT-0", -1, -1);
     Text t(s2j_AudioOutSourceChange(&c, 0));
     EXPECT_EQ(t.str(),
               "{\"Channel\":4294967295,\"InterfaceName\":\"LINE-OUT-0\",\"SourceIndex\":-1,\"SourceType\":-1}");
 }
 
 TEST(OutSourceChange, VideoAndAudioNoticesWithEqualValuesGiveIdenticalText) {
-    VideoOutSourceChange v = {};
-    AudioOutSourceChange a = {};
-    v.Channel = a.Channel = 3;
-    set(v.InterfaceName, "HDMI-OUT-1");
-    set(a.InterfaceName, "HDMI-OUT-1");
-    v.SourceIndex = a.SourceIndex = -7;
-    v.SourceType = a.SourceType = 2;
+    const VideoOutSourceChange v = source_change<VideoOutSourceChange>(3, "HDMI-OUT-1", -7, 2);
+    const AudioOutSourceChange a = source_change<AudioOutSourceChange>(3, "HDMI-OUT-1", -7, 2);
     for (int formatted : {0, 1}) {
         Text tv(s2j_VideoOutSourceChange(&v, formatted));
         Text ta(s2j_AudioOutSourceChange(&a, formatted));

@@ -313,10 +313,7 @@ TEST(RecordParameter, KeyedUpdateWithoutChannelIsRefusedOnTheUpdateLine) {
 
 TEST(RecordParameter, KeyedUpdateChangesTheChannelNamedAndCountsIt) {
     RecordParameter arr[3] = {};
-    for (uint32_t i = 0; i < 3; ++i) {
-        arr[i].Channel = i;
-        arr[i].FileDuration = 600;
-    }
+    channels_with(arr, &RecordParameter::FileDuration, 600u);
     expect_update_applies(j2s_array_update_RecordParameter,
                           "[{\"Channel\":2,\"FileDuration\":1800,\"DiskGroupID\":-1},{\"Channel\":9,"
                           "\"FileDuration\":1}]", arr, 3, 1);
@@ -466,10 +463,7 @@ TEST(SnapshotInputParameter, C2sReportsANullRecordAfterCheckingTheTree) {
 
 TEST(SnapshotParameter, KeyedUpdateMatchesTheChannelAndArrayFilesKeepTheSettings) {
     SnapshotParameter arr[2] = {};
-    for (uint32_t i = 0; i < 2; ++i) {
-        arr[i].Channel = i;
-        arr[i].ImageQuality = 80;
-    }
+    channels_with(arr, &SnapshotParameter::ImageQuality, 80u);
     expect_update_applies(j2s_array_update_SnapshotParameter,
                           "[{\"Channel\":1,\"ImageQuality\":95,\"FilePath\":\"/mnt/disk0/snap\"}]", arr, 2, 1);
     EXPECT_EQ(arr[1].ImageQuality, 95u);

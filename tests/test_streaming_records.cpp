@@ -183,8 +183,25 @@ STREAM_TRAITS(UdpStreamingParameter)
 STREAM_TRAITS(HttpStreamingParameter)
 STREAM_TRAITS(SrtStreamingParameter)
 
+// Three streams: channel 0 index 0, channel 0 index 1, channel 1 index 0;
+// `before` keeps them as they were, `n` is the room of the array.
 template <class T>
-class ProtocolStream : public ::testing::Test {};
+class ProtocolStream : public ::testing::Test {
+protected:
+    ProtocolStream() {
+        std::memset(static_cast<void *>(a), 0, sizeof a);
+        const uint32_t keys[3][2] = {{0, 0}, {0, 1}, {1, 0}};
+        for (int i = 0; i < 3; ++i) {
+            a[i].Channel = keys[i][0];
+            a[i].Index = keys[i][1];
+            a[i].StreamIndex = 10 + i;
+        }
+        std::memcpy(static_cast<void *>(before), a, sizeof a);
+    }
+    T a[3];
+    T before[3];
+    uint32_t n = 3;
+};
 using StreamTypes = ::testing::Types<RtspStreamingParameter, RtmpStreamingParameter, UdpStreamingParameter,
                                      HttpStreamingParameter, SrtStreamingParameter>;
 class StreamNames {
@@ -194,61 +211,36 @@ public:
 };
 TYPED_TEST_SUITE(ProtocolStream, StreamTypes, StreamNames);
 
-// Three streams: channel 0 index 0, channel 0 index 1, channel 1 index 0.
-template <class T>
-void three_streams(T (&a)[3]) {
-    std::memset(static_cast<void *>(a), 0, sizeof a);
-    const uint32_t keys[3][2] = {{0, 0}, {0, 1}, {1, 0}};
-    for (int i = 0; i < 3; ++i) {
-        a[i].Channel = keys[i][0];
-        a[i].Index = keys[i][1];
-        a[i].StreamIndex = 10 + i;
-    }
-}
-
 TYPED_TEST(ProtocolStream, UpdateAppliesAnElementOnlyToTheStreamWithBothChannelAndIndex) {
     using T = TypeParam;
-    T a[3];
-    three_streams(a);
-    T want[3];
-    std::memcpy(static_cast<void *>(want), a, sizeof a);
+    T(&want)[3] = this->before;
     want[1].StreamIndex = 7;
-    uint32_t n = 3;
-    ASSERT_EQ(Stream<T>::j2s_update("[{\"Channel\": 0, \"Index\": 1, \"StreamIndex\": 7}]", a, &n), 0);
-    EXPECT_EQ(n, 1u);
-    EXPECT_EQ(std::memcmp(a, want, sizeof a), 0);
+    const char *doc = "[{\"Channel\": 0, \"Index\": 1, \"StreamIndex\": 7}]";
+    ASSERT_EQ(Stream<T>::j2s_update(doc, this->a, &this->n), 0);
+    EXPECT_EQ(this->n, 1u);
+    EXPECT_EQ(std::memcmp(this->a, want, sizeof want), 0);
 }
 
 TYPED_TEST(ProtocolStream, UpdateSkipsAnElementWhoseChannelMatchesButWhoseIndexDoesNot) {
     using T = TypeParam;
-    T a[3];
-    three_streams(a);
-    T before[3];
-    std::memcpy(static_cast<void *>(before), a, sizeof a);
-    uint32_t n = 3;
     StderrCapture err;
     const char *doc =
         "[{\"Channel\": 1, \"Index\": 1, \"StreamIndex\": 7}, {\"Channel\": 2, \"Index\": 0, \"StreamIndex\": 8}]";
-    ASSERT_EQ(Stream<T>::j2s_update_len(doc, std::strlen(doc), a, &n), 0);
+    ASSERT_EQ(Stream<T>::j2s_update_len(doc, std::strlen(doc), this->a, &this->n), 0);
     EXPECT_EQ(err.text(), "");
-    EXPECT_EQ(n, 0u);
-    EXPECT_EQ(std::memcmp(a, before, sizeof a), 0);
+    EXPECT_EQ(this->n, 0u);
+    EXPECT_EQ(std::memcmp(this->a, this->before, sizeof this->a), 0);
 }
 
 TYPED_TEST(ProtocolStream, UpdateElementWithoutIndexIsRefusedAsLackingItsKey) {
     using T = TypeParam;
-    T a[3];
-    three_streams(a);
-    T before[3];
-    std::memcpy(static_cast<void *>(before), a, sizeof a);
-    uint32_t n = 3;
     StderrCapture err;
-    EXPECT_EQ(Stream<T>::j2s_update("[{\"Channel\": 0, \"StreamIndex\": 7}]", a, &n), -2);
+    EXPECT_EQ(Stream<T>::j2s_update("[{\"Channel\": 0, \"StreamIndex\": 7}]", this->a, &this->n), -2);
     EXPECT_EQ(err.text(), diag(text_list_file(), line_of(Stream<T>::name, &s2j::Families::Lines::c2s_array_update),
                                std::string("c2s_array_update_") + Stream<T>::name,
                                "The keyword is not contained in an object of the json array!\n"));
-    EXPECT_EQ(n, 3u);
-    EXPECT_EQ(std::memcmp(a, before, sizeof a), 0);
+    EXPECT_EQ(this->n, 3u);
+    EXPECT_EQ(std::memcmp(this->a, this->before, sizeof this->a), 0);
 }
 
 TYPED_TEST(ProtocolStream, KeywordReaderNeedsBothKeysWhileGetReaderNeedsChannelOnly) {
