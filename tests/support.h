@@ -182,6 +182,13 @@ void expect_read_as_prefix(int (*j2s)(const char *, T *), char (T::*member)[N], 
     EXPECT_EQ(std::string(r.*member), std::string(N - 1, c)) << key << " " << len;
 }
 
+// The same for each of the lengths `lens`.
+template <class Reader, class T, size_t N>
+void expect_read_as_prefix(Reader read, char (T::*member)[N], const char *key, std::initializer_list<size_t> lens,
+                           char c) {
+    for (size_t len : lens) expect_read_as_prefix(read, member, key, len, c);
+}
+
 // The string member `key` filled with c, without a NUL, is emitted as all
 // N characters.
 template <class T, size_t N>
@@ -225,6 +232,22 @@ void expect_keyword_readers_refuse(int (*keyword)(K *, const cJSON *), int (*get
     uint32_t key = 77;
     EXPECT_EQ(get(&key, tree.p), 0) << doc;
     EXPECT_EQ(key, 77u) << doc;
+}
+
+// Both keyword readers of a type keyed by a string InterfaceName refuse the
+// object `refused` (status 0), and the keyword reader reads `doc` (status 1)
+// as the name `want`.
+template <class K>
+void expect_name_keyword_readers(int (*keyword)(K *, const cJSON *), int (*get)(char *, const cJSON *),
+                                 const char *refused, const char *doc, const char *want) {
+    K k = {};
+    Tree no(cJSON_Parse(refused));
+    EXPECT_EQ(keyword(&k, no.p), 0) << refused;
+    char name[64] = {};
+    EXPECT_EQ(get(name, no.p), 0) << refused;
+    Tree yes(cJSON_Parse(doc));
+    EXPECT_EQ(keyword(&k, yes.p), 1) << doc;
+    EXPECT_STREQ(k.InterfaceName, want) << doc;
 }
 
 // The single-key reader `get` of a string first key refuses each of `docs`

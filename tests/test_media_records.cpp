@@ -38,6 +38,15 @@ std::vector<std::string> keys_of(cJSON *obj) {
 
 bool contains(const std::string &hay, const std::string &needle) { return hay.find(needle) != std::string::npos; }
 
+// The one record that j2s_array reads from `doc` (status 0, count 1), and
+// its emitter's compact text.
+template <class T>
+std::pair<T, std::string> read_one_and_emit(int (*j2s_array)(const char *, T *, uint32_t *), cJSON *(*emit)(const T *),
+                                            const char *doc) {
+    const T r = read_array_back(j2s_array, doc, 1, 1)[0];
+    return {r, compact(emit(&r))};
+}
+
 // A JSON array of one object holding key: text.
 cJSON *one_string(const char *key, const std::string &text) {
     cJSON *list = cJSON_CreateArray();
@@ -570,19 +579,17 @@ TEST(VideoEncodeParameter, KeywordReaderRequiresChannelThenStreamIndexAsIntegers
 }
 
 TEST(VideoEncodeParameter, RotateOfMinus90IsStoredAsItsBitsAndEmittedUnsigned) {
-    VideoEncodeParameter r[1] = {};
-    uint32_t n = 1;
-    ASSERT_EQ(j2s_array_VideoEncodeParameter("[{\"Rotate\":-90}]", r, &n), 0);
-    EXPECT_EQ(r[0].Rotate, 4294967206u);
-    EXPECT_TRUE(contains(compact(struct_to_json_VideoEncodeParameter(&r[0])), "\"Rotate\":4294967206,"));
+    const auto [r, text] =
+        read_one_and_emit(j2s_array_VideoEncodeParameter, struct_to_json_VideoEncodeParameter, "[{\"Rotate\":-90}]");
+    EXPECT_EQ(r.Rotate, 4294967206u);
+    EXPECT_TRUE(contains(text, "\"Rotate\":4294967206,"));
 }
 
 TEST(VideoEncodeCapabilitySet, RotateOfMinus90IsEmittedSigned) {
-    VideoEncodeCapabilitySet r[1] = {};
-    uint32_t n = 1;
-    ASSERT_EQ(j2s_array_VideoEncodeCapabilitySet("[{\"Rotate\":-90}]", r, &n), 0);
-    EXPECT_EQ(r[0].Rotate, -90);
-    EXPECT_TRUE(contains(compact(struct_to_json_VideoEncodeCapabilitySet(&r[0])), "\"Rotate\":-90,"));
+    const auto [r, text] = read_one_and_emit(j2s_array_VideoEncodeCapabilitySet,
+                                             struct_to_json_VideoEncodeCapabilitySet, "[{\"Rotate\":-90}]");
+    EXPECT_EQ(r.Rotate, -90);
+    EXPECT_TRUE(contains(text, "\"Rotate\":-90,"));
 }
 
 TEST(RequestIDRParameter, TextRoundTripAndNoFileOrArrayFamily) {
@@ -657,11 +664,10 @@ TEST(VideoEncodeOSDParameter, ContentOf256OrMoreKeeps255AndColoursOf64OrMoreKeep
 }
 
 TEST(VideoEncodeOSDParameter, XCoordinateOfMinusOneIsStoredAsItsBitsAndEmittedUnsigned) {
-    VideoEncodeOSDParameter r[1] = {};
-    uint32_t n = 1;
-    ASSERT_EQ(j2s_array_VideoEncodeOSDParameter("[{\"XCoordinate\":-1}]", r, &n), 0);
-    EXPECT_EQ(r[0].XCoordinate, 0xFFFFFFFFu);
-    EXPECT_TRUE(contains(compact(struct_to_json_VideoEncodeOSDParameter(&r[0])), "\"XCoordinate\":4294967295,"));
+    const auto [r, text] = read_one_and_emit(j2s_array_VideoEncodeOSDParameter, struct_to_json_VideoEncodeOSDParameter,
+                                             "[{\"XCoordinate\":-1}]");
+    EXPECT_EQ(r.XCoordinate, 0xFFFFFFFFu);
+    EXPECT_TRUE(contains(text, "\"XCoordinate\":4294967295,"));
 }
 
 TEST(VideoEncodeOSDParameter, KeywordReaderReadsChannelThenIndexAndGetReadsChannelAlone) {
@@ -711,23 +717,21 @@ TEST(AudioGain, GainOfMinus12IsEmittedAsMinus12InEveryRecordThatHasIt) {
 // One record of T read by j2s_array from a Volume of -1 and a Gain of -12
 // holds the Volume's bits, and its emitter writes them unsigned.
 template <class T>
-void expect_volume_of_minus_one_read_as_its_bits(int (*j2s_array)(const char *, T *, uint32_t *),
-                                                 cJSON *(*emit)(const T *), T *r) {
-    uint32_t n = 1;
-    ASSERT_EQ(j2s_array("[{\"Volume\":-1,\"Gain\":-12}]", r, &n), 0);
-    EXPECT_EQ(r->Volume, 0xFFFFFFFFu);
-    EXPECT_TRUE(contains(compact(emit(r)), "\"Volume\":4294967295,\"Gain\":-12"));
+T expect_volume_of_minus_one_read_as_its_bits(int (*j2s_array)(const char *, T *, uint32_t *),
+                                              cJSON *(*emit)(const T *)) {
+    const auto [r, text] = read_one_and_emit(j2s_array, emit, "[{\"Volume\":-1,\"Gain\":-12}]");
+    EXPECT_EQ(r.Volume, 0xFFFFFFFFu);
+    EXPECT_TRUE(contains(text, "\"Volume\":4294967295,\"Gain\":-12"));
+    return r;
 }
 
 TEST(AudioVolume, VolumeOfMinusOneIsStoredAsItsBitsAndEmittedAs4294967295) {
-    AudioInputInterfaceParameter a = {};
-    expect_volume_of_minus_one_read_as_its_bits(j2s_array_AudioInputInterfaceParameter,
-                                                struct_to_json_AudioInputInterfaceParameter, &a);
-    EXPECT_EQ(a.Gain, -12);
-    AudioInputParameter b = {};
-    expect_volume_of_minus_one_read_as_its_bits(j2s_array_AudioInputParameter, struct_to_json_AudioInputParameter, &b);
-    AudioInputStatus c = {};
-    expect_volume_of_minus_one_read_as_its_bits(j2s_array_AudioInputStatus, struct_to_json_AudioInputStatus, &c);
+    EXPECT_EQ(expect_volume_of_minus_one_read_as_its_bits(j2s_array_AudioInputInterfaceParameter,
+                                                          struct_to_json_AudioInputInterfaceParameter)
+                  .Gain,
+              -12);
+    expect_volume_of_minus_one_read_as_its_bits(j2s_array_AudioInputParameter, struct_to_json_AudioInputParameter);
+    expect_volume_of_minus_one_read_as_its_bits(j2s_array_AudioInputStatus, struct_to_json_AudioInputStatus);
 }
 
 // The extremes of a capability's volumes are written unsigned, of its gains

@@ -219,14 +219,9 @@ TEST(VideoOutputInterfaceParameter, UpdateFindsTheInterfaceByName) {
 }
 
 TEST(VideoOutputInterfaceParameter, KeywordRequiresTheNameAsAString) {
-    VideoOutputInterfaceParameterKeyword k = {};
-    Tree num(cJSON_Parse("{\"InterfaceName\":3}"));
-    EXPECT_EQ(json_to_struct_VideoOutputInterfaceParameterKeyword(&k, num.p), 0);
-    char name[64] = {};
-    EXPECT_EQ(json_to_struct_GetVideoOutputInterfaceParameterKeyword(name, num.p), 0);
-    Tree ok(cJSON_Parse("{\"interfacename\":\"HDMI-OUT-0\"}"));
-    EXPECT_EQ(json_to_struct_VideoOutputInterfaceParameterKeyword(&k, ok.p), 1);
-    EXPECT_STREQ(k.InterfaceName, "HDMI-OUT-0");
+    expect_name_keyword_readers(json_to_struct_VideoOutputInterfaceParameterKeyword,
+                                json_to_struct_GetVideoOutputInterfaceParameterKeyword, "{\"InterfaceName\":3}",
+                                "{\"interfacename\":\"HDMI-OUT-0\"}", "HDMI-OUT-0");
 }
 
 // ---- Output sources and playlists ----------------------------------------
@@ -535,14 +530,10 @@ TEST(ScreenshotParameter, IndexOf4294967295IsEmittedUnsignedAndSplitIndexSigned)
 }
 
 TEST(VideoOutputScreenshotParameter, KeywordWithNumericInterfaceNameFails) {
-    Tree j(cJSON_Parse("{\"InterfaceName\":0,\"ScreenshotIndex\":1}"));
-    VideoOutputScreenshotParameterKeyword k = {};
-    EXPECT_EQ(json_to_struct_VideoOutputScreenshotParameterKeyword(&k, j.p), 0);
-    char name[64] = {};
-    EXPECT_EQ(json_to_struct_GetVideoOutputScreenshotParameterKeyword(name, j.p), 0);
-    Tree ok(cJSON_Parse("{\"InterfaceName\":\"SDI-OUT-0\"}"));
-    EXPECT_EQ(json_to_struct_VideoOutputScreenshotParameterKeyword(&k, ok.p), 1);
-    EXPECT_STREQ(k.InterfaceName, "SDI-OUT-0");
+    expect_name_keyword_readers(json_to_struct_VideoOutputScreenshotParameterKeyword,
+                                json_to_struct_GetVideoOutputScreenshotParameterKeyword,
+                                "{\"InterfaceName\":0,\"ScreenshotIndex\":1}", "{\"InterfaceName\":\"SDI-OUT-0\"}",
+                                "SDI-OUT-0");
 }
 
 TEST(VideoOutputScreenshotParameter, UpdateWithNumericInterfaceNameReportsTheKeywordMessage) {

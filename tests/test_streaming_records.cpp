@@ -1,7 +1,8 @@
-// Streaming records: what is particular to each type (capacities,
-// signed and unsigned fields of the same key, the 16-bit RTSP server ports,
-// the two-key updates of the protocol streams) and the integer lists of StreamingInputUseCount with its lenient and strict
-// readers.  What every type shares is covered by test_every_type.
+// Streaming records: what is particular to each type (capacities, signed
+// and unsigned fields of the same key, the 16-bit RTSP server ports, the
+// two-key updates of the protocol streams) and the integer lists of
+// StreamingInputUseCount with its lenient and strict readers.  What every
+// type shares is covered by test_every_type.
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
@@ -401,9 +402,8 @@ TEST(SrtStreamingParameter, StreamKeyNameOf256CharactersIsStoredAsItsFirst255And
 }
 
 TEST(SrtStreamingParameter, TargetUrlOf2048CharactersOrMoreIsStoredAsItsFirst2047) {
-    for (size_t len : {2048u, 3000u})
-        expect_read_as_prefix(json_to_struct_SrtStreamingParameter, &SrtStreamingParameter::TargetURL, "TargetURL", len,
-                              'u');
+    expect_read_as_prefix(json_to_struct_SrtStreamingParameter, &SrtStreamingParameter::TargetURL,
+                          "TargetURL", {2048u, 3000u}, 'u');
     expect_emitted_whole(struct_to_json_SrtStreamingParameter, &SrtStreamingParameter::TargetURL, "TargetURL", 'U');
 }
 
