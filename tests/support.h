@@ -305,6 +305,13 @@ T record_from_text(int (*j2s)(const char *, T *), const std::string &doc) {
     return r;
 }
 
+// The status of the tree member `c2s` on the tree parsed from `doc`, into *r.
+template <class T>
+int c2s_of_text(int (*c2s)(const cJSON *, T *), const char *doc, T *r) {
+    Tree tree(cJSON_Parse(doc));
+    return c2s(tree.p, r);
+}
+
 // The record that the reader of a tree `read` reads from the object `doc`
 // (status 1) over a zeroed record.
 template <class T>

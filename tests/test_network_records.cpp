@@ -243,15 +243,14 @@ TEST(NetworkRouteParameter, TextAndFileRoundTrip) {
 
 // ---- Wireless ----------------------------------------------------------------
 
-TEST(WIFIHotspot, DocumentWithMACAddressFillsMacAddressByCaseInsensitiveLookup) {
-    WIFIHotspot r = record_from_tree(json_to_struct_WIFIHotspot, "{\"MACAddress\":\"F4:92:BF:A1:22:10\"}");
-    EXPECT_STREQ(r.MacAddress, "F4:92:BF:A1:22:10");
-}
-
-TEST(NetworkWIFIParameter, DocumentWithMacAddressFillsMACAddressByCaseInsensitiveLookup) {
-    NetworkWIFIParameter r =
-        record_from_tree(json_to_struct_NetworkWIFIParameter, "{\"MacAddress\":\"70:B3:D5:12:34:56\"}");
-    EXPECT_STREQ(r.MACAddress, "70:B3:D5:12:34:56");
+// A hotspot's MacAddress is filled from "MACAddress", a wireless record's
+// MACAddress from "MacAddress".
+TEST(WirelessMacKey, EachSpellingFillsTheOtherSpellingsMemberByCaseInsensitiveLookup) {
+    EXPECT_STREQ(record_from_tree(json_to_struct_WIFIHotspot, "{\"MACAddress\":\"F4:92:BF:A1:22:10\"}").MacAddress,
+                 "F4:92:BF:A1:22:10");
+    EXPECT_STREQ(
+        record_from_tree(json_to_struct_NetworkWIFIParameter, "{\"MacAddress\":\"70:B3:D5:12:34:56\"}").MACAddress,
+        "70:B3:D5:12:34:56");
 }
 
 TEST(WIFIHotspot, EachEmitterWritesOnlyItsOwnSpellingOfTheMacKey) {

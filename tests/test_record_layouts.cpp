@@ -219,21 +219,29 @@ TEST(RecordLayouts, EveryNoteExplainsALineOfTheText) {
 
 TEST(RecordLayouts, DifferenceNamesTheTypeAndMemberOfEachChangedMissingOrExtraLine) {
     const std::string library = "A size 8\nA.x offset 0 size 4 int32_t\nA.y offset 4 size 4 uint32_t\n";
-    EXPECT_TRUE(layout_differences("# a comment\n\n" + library, library).empty());
-    EXPECT_EQ(layout_differences("A size 8\nA.x offset 0 size 4 int32_t\nA.y offset 4 size 4 int32_t\n", library),
-              std::vector<std::string>{"A.y offset: the file says \"A.y offset 4 size 4 int32_t\", the library "
-                                       "gives \"A.y offset 4 size 4 uint32_t\""});
-    EXPECT_EQ(layout_differences("A size 8\nA.x offset 0 size 4 int32_t\n", library),
-              std::vector<std::string>{"A.y offset: not in the file; the library gives \"A.y offset 4 size 4 "
-                                       "uint32_t\""});
-    EXPECT_EQ(layout_differences(library + "A.z offset 8 size 2 uint16_t\n", library),
-              std::vector<std::string>{"A.z offset: not in the library; the file says \"A.z offset 8 size 2 "
-                                       "uint16_t\""});
-    EXPECT_EQ(layout_differences("A size 8\nA.y offset 4 size 4 uint32_t\nA.x offset 0 size 4 int32_t\n", library),
-              std::vector<std::string>{"line 2 out of order: the file has \"A.y offset 4 size 4 uint32_t\", the "
-                                       "library \"A.x offset 0 size 4 int32_t\""});
-    EXPECT_EQ(layout_differences(library + "A size 8\n", library),
-              std::vector<std::string>{"the file has 4 lines, the library 3"});
+    const struct {
+        const char *what;
+        std::string file;
+        std::vector<std::string> differences;
+    } cases[] = {
+        {"comments and blank lines", "# a comment\n\n" + library, {}},
+        {"a changed line",
+         "A size 8\nA.x offset 0 size 4 int32_t\nA.y offset 4 size 4 int32_t\n",
+         {"A.y offset: the file says \"A.y offset 4 size 4 int32_t\", the library gives "
+          "\"A.y offset 4 size 4 uint32_t\""}},
+        {"a missing line",
+         "A size 8\nA.x offset 0 size 4 int32_t\n",
+         {"A.y offset: not in the file; the library gives \"A.y offset 4 size 4 uint32_t\""}},
+        {"an extra line",
+         library + "A.z offset 8 size 2 uint16_t\n",
+         {"A.z offset: not in the library; the file says \"A.z offset 8 size 2 uint16_t\""}},
+        {"two lines swapped",
+         "A size 8\nA.y offset 4 size 4 uint32_t\nA.x offset 0 size 4 int32_t\n",
+         {"line 2 out of order: the file has \"A.y offset 4 size 4 uint32_t\", the library "
+          "\"A.x offset 0 size 4 int32_t\""}},
+        {"a line twice", library + "A size 8\n", {"the file has 4 lines, the library 3"}},
+    };
+    for (const auto &c : cases) EXPECT_EQ(layout_differences(c.file, library), c.differences) << c.what;
 }
 
 // The C types come from the compiled tables, except for keyword records,
