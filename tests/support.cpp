@@ -84,6 +84,11 @@ std::string text_diag(int line, const std::string &func, const std::string &msg)
     return diag(text_list_file(), line, func, msg);
 }
 
+std::string keyword_diag(const char *type) {
+    return text_diag(lines_of(type).c2s_array_update, std::string("c2s_array_update_") + type,
+                     "The keyword is not contained in an object of the json array!\n");
+}
+
 std::string parse_reason(const char *text) {
     cJSON *tree = cJSON_Parse(text);
     cJSON_Delete(tree);

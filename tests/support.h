@@ -61,6 +61,10 @@ std::string diag(const std::string &file, int line, const std::string &func, con
 // The same of a diagnostic at a line of the text list.
 std::string text_diag(int line, const std::string &func, const std::string &msg);
 
+// What a keyed update of the type writes as it refuses an element without
+// its keys.
+std::string keyword_diag(const char *type);
+
 // What cJSON itself reports, after failing to parse text, as the place
 // where parsing stopped (the rest of the text from there).
 std::string parse_reason(const char *text);
@@ -139,6 +143,12 @@ public:
 private:
     CjsonFaults(const CjsonFaults &) = delete;
     CjsonFaults &operator=(const CjsonFaults &) = delete;
+};
+
+// An integer literal and the 16 bits a uint16_t field keeps of it.
+struct Low16Case {
+    const char *literal;
+    uint16_t stored;
 };
 
 // A text of n characters c.
@@ -312,6 +322,14 @@ int c2s_of_text(int (*c2s)(const cJSON *, T *), const char *doc, T *r) {
     return c2s(tree.p, r);
 }
 
+// The status of the reader of a tree `read` on the tree parsed from `doc`,
+// into *r.
+template <class T>
+int read_of_text(int (*read)(T *, const cJSON *), const char *doc, T *r) {
+    Tree tree(cJSON_Parse(doc));
+    return read(r, tree.p);
+}
+
 // The record that the reader of a tree `read` reads from the object `doc`
 // (status 1) over a zeroed record.
 template <class T>
@@ -329,6 +347,14 @@ void channels_with(T (&arr)[N], M T::*member, M value) {
         arr[i].Channel = i;
         arr[i].*member = value;
     }
+}
+
+// The value of `member` in each record of the array, in order.
+template <class T, class M, size_t N>
+std::vector<M> member_values(const T (&arr)[N], M T::*member) {
+    std::vector<M> values;
+    for (const T &r : arr) values.push_back(r.*member);
+    return values;
 }
 
 // The keyed update `request` applied by j2s_array_update to the `room`

@@ -18,11 +18,6 @@ using namespace testing_support;
 
 namespace {
 
-std::string keyword_diag(const char *type) {
-    return diag(text_list_file(), lines_of(type).c2s_array_update, std::string("c2s_array_update_") + type,
-                "The keyword is not contained in an object of the json array!\n");
-}
-
 std::string reader_diag_c2s_array(const char *type) {
     return diag(text_list_file(), lines_of(type).c2s_array, std::string("c2s_array_") + type,
                 std::string("json_to_struct_") + type + " failed!\n");
@@ -217,23 +212,19 @@ TEST(VideoInputParameter, ArrayOfTwoWrittenAndReadBackKeepsSecondElementInPlace)
 }
 
 TEST(VideoInputParameter, ScanningFrequencyIntegerOf65596IsReadBackAs60) {
-    VideoInputParameter r[1] = {};
-    uint32_t n = 1;
-    ASSERT_EQ(j2s_array_VideoInputParameter("[{\"ScanningFrequencyInteger\":65596}]", r, &n), 0);
+    const std::vector<VideoInputParameter> r =
+        read_array_back(j2s_array_VideoInputParameter, "[{\"ScanningFrequencyInteger\":65596}]", 1, 1);
     EXPECT_EQ(r[0].ScanningFrequencyInteger, 60);
     EXPECT_EQ(r[0].ScanningFrequencyDecimal, 0);
-    Text t(s2j_array_VideoInputParameter(r, 1, 0));
+    Text t(s2j_array_VideoInputParameter(r.data(), 1, 0));
     EXPECT_TRUE(contains(t.str(), "\"ScanningFrequencyInteger\":60,\"ScanningFrequencyDecimal\":0,"));
 }
 
 TEST(VideoInputParameter, ScanningFrequencyFieldsStoreTheLow16BitsWithoutFailing) {
-    VideoInputParameter r[1] = {};
-    uint32_t n = 1;
-    ASSERT_EQ(
-        j2s_array_VideoInputParameter("[{\"ScanningFrequencyInteger\":65536,\"ScanningFrequencyDecimal\":-1}]", r, &n),
-        0);
-    EXPECT_EQ(r[0].ScanningFrequencyInteger, 0);
-    EXPECT_EQ(r[0].ScanningFrequencyDecimal, 65535);
+    const char *doc = "[{\"ScanningFrequencyInteger\":65536,\"ScanningFrequencyDecimal\":-1}]";
+    const VideoInputParameter r = read_array_back(j2s_array_VideoInputParameter, doc, 1, 1)[0];
+    EXPECT_EQ(r.ScanningFrequencyInteger, 0);
+    EXPECT_EQ(r.ScanningFrequencyDecimal, 65535);
 }
 
 TEST(VideoInputParameter, ScanningFrequencyOf65535IsEmittedUnsignedBetweenHeightAndScanningMode) {
@@ -387,9 +378,7 @@ TEST(VideoInputParameter, KeyedUpdateByChannelChangesOnlyThatChannel) {
     channels_with(a, &VideoInputParameter::Brightness, 50u);
     expect_update_applies(j2s_array_update_VideoInputParameter,
                           "[{\"Channel\":2,\"Brightness\":70,\"ScanningFrequencyInteger\":30}]", a, 3, 1);
-    EXPECT_EQ(a[0].Brightness, 50u);
-    EXPECT_EQ(a[1].Brightness, 50u);
-    EXPECT_EQ(a[2].Brightness, 70u);
+    EXPECT_EQ(member_values(a, &VideoInputParameter::Brightness), (std::vector<uint32_t>{50, 50, 70}));
     EXPECT_EQ(a[2].ScanningFrequencyInteger, 30);
 }
 
@@ -417,11 +406,10 @@ TEST(VideoEncodeParameter, FrameRate25Over0IsEmittedBetweenHeightAndCodec) {
 }
 
 TEST(VideoEncodeParameter, FramerateDecimalOf65537StoresOne) {
-    VideoEncodeParameter r[1] = {};
-    uint32_t n = 1;
-    ASSERT_EQ(j2s_array_VideoEncodeParameter("[{\"FramerateDecimal\":65537}]", r, &n), 0);
-    EXPECT_EQ(r[0].FramerateDecimal, 1);
-    EXPECT_EQ(r[0].FramerateInteger, 0);
+    const VideoEncodeParameter r =
+        read_array_back(j2s_array_VideoEncodeParameter, "[{\"FramerateDecimal\":65537}]", 1, 1)[0];
+    EXPECT_EQ(r.FramerateDecimal, 1);
+    EXPECT_EQ(r.FramerateInteger, 0);
 }
 
 TEST(VideoEncodeParameter, FrameRateOf65535IsEmittedUnsigned) {

@@ -115,11 +115,10 @@ TEST(VideoOutputScreenSplitParameter, SameMinusOneTextReadsToTheSameBitsInBothRe
 
 TEST(VideoOutputScreenSplitParameter, DetailsOf2048OrMoreCharactersAreReadAsTheirFirst2047) {
     for (size_t len : {2048u, 2500u}) {
-        VideoOutputScreenSplitParameter v[1] = {};
-        uint32_t n = 1;
         std::string json = "[{\"UserDefinedScreenSplitModeDetails\":\"" + long_text('d', len) + "\"}]";
-        ASSERT_EQ(j2s_array_VideoOutputScreenSplitParameter(json.c_str(), v, &n), 0);
-        EXPECT_EQ(std::string(v[0].UserDefinedScreenSplitModeDetails), long_text('d', 2047));
+        const VideoOutputScreenSplitParameter v =
+            read_array_back(j2s_array_VideoOutputScreenSplitParameter, json.c_str(), 1, 1)[0];
+        EXPECT_EQ(std::string(v.UserDefinedScreenSplitModeDetails), long_text('d', 2047));
     }
 }
 
@@ -190,9 +189,7 @@ TEST(VideoOutputScreenSplitParameter, UpdateWithoutTheIndexKeyReportsTheKeywordM
         " {\"InterfaceName\":\"HDMI-OUT-0\",\"SplitWindowNumber\":6}]";
     StderrCapture err;
     EXPECT_EQ(j2s_array_update_VideoOutputScreenSplitParameter(json, a, &n), -2);
-    EXPECT_EQ(err.text(), diag(text_list_file(), lines_of("VideoOutputScreenSplitParameter").c2s_array_update,
-                               "c2s_array_update_VideoOutputScreenSplitParameter",
-                               "The keyword is not contained in an object of the json array!\n"));
+    EXPECT_EQ(err.text(), keyword_diag("VideoOutputScreenSplitParameter"));
     EXPECT_EQ(n, 2u);
     EXPECT_EQ(a[0].SplitWindowNumber, 5u);  // the earlier element's update remains
     EXPECT_EQ(a[1].SplitWindowNumber, 2u);
@@ -418,9 +415,7 @@ TEST(AudioOutputParameter, UpdateElementWithoutChannelFailsWithTheKeywordMessage
     StderrCapture err;
     EXPECT_EQ(j2s_array_update_AudioOutputParameter("[{\"Channel\":1,\"SourceIndex\":4},{\"SourceIndex\":5}]", a, &n),
               -2);
-    EXPECT_EQ(err.text(), diag(text_list_file(), lines_of("AudioOutputParameter").c2s_array_update,
-                               "c2s_array_update_AudioOutputParameter",
-                               "The keyword is not contained in an object of the json array!\n"));
+    EXPECT_EQ(err.text(), keyword_diag("AudioOutputParameter"));
     EXPECT_EQ(n, 2u);
     EXPECT_EQ(a[1].SourceIndex, 4);
     EXPECT_EQ(a[0].SourceIndex, 0);
@@ -543,9 +538,7 @@ TEST(VideoOutputScreenshotParameter, UpdateWithNumericInterfaceNameReportsTheKey
     std::string json = "[{\"InterfaceName\":0,\"ScreenshotIndex\":3}]";
     StderrCapture err;
     EXPECT_EQ(j2s_array_update_VideoOutputScreenshotParameter_with_len(json.c_str(), json.size(), a, &n), -2);
-    EXPECT_EQ(err.text(), diag(text_list_file(), lines_of("VideoOutputScreenshotParameter").c2s_array_update,
-                               "c2s_array_update_VideoOutputScreenshotParameter",
-                               "The keyword is not contained in an object of the json array!\n"));
+    EXPECT_EQ(err.text(), keyword_diag("VideoOutputScreenshotParameter"));
     EXPECT_EQ(a[0].ScreenshotIndex, 0);
 }
 
@@ -612,13 +605,11 @@ TEST(VideoOutputOSDParameter, PrefixAndPostfixHoldAtMost63Characters) {
 }
 
 TEST(WatermarkOSDParameter, PrefixAndPostfixContentHoldAtMost255Characters) {
-    WatermarkOSDParameter o[1] = {};
-    uint32_t n = 1;
     std::string v = long_text('q', 300);
     std::string json = "[{\"PrefixContent\":\"" + v + "\",\"PostfixContent\":\"" + long_text('r', 200) + "\"}]";
-    ASSERT_EQ(j2s_array_WatermarkOSDParameter(json.c_str(), o, &n), 0);
-    EXPECT_EQ(std::string(o[0].PrefixContent), long_text('q', 255));
-    EXPECT_EQ(std::string(o[0].PostfixContent), long_text('r', 200));
+    const WatermarkOSDParameter o = read_array_back(j2s_array_WatermarkOSDParameter, json.c_str(), 1, 1)[0];
+    EXPECT_EQ(std::string(o.PrefixContent), long_text('q', 255));
+    EXPECT_EQ(std::string(o.PostfixContent), long_text('r', 200));
 }
 
 TEST(VideoOutputOSDParameter, KeywordWithChannelButNoIndexFailsWhileGetSucceeds) {
@@ -672,9 +663,7 @@ TEST(VideoOutputOSDParameter, UpdateElementWithoutIndexReportsTheKeywordMessage)
     uint32_t n = 1;
     StderrCapture err;
     EXPECT_EQ(j2s_array_update_VideoOutputOSDParameter("[{\"Channel\":0,\"Content\":\"x\"}]", a, &n), -2);
-    EXPECT_EQ(err.text(), diag(text_list_file(), lines_of("VideoOutputOSDParameter").c2s_array_update,
-                               "c2s_array_update_VideoOutputOSDParameter",
-                               "The keyword is not contained in an object of the json array!\n"));
+    EXPECT_EQ(err.text(), keyword_diag("VideoOutputOSDParameter"));
     EXPECT_STREQ(a[0].Content, "orig");
 }
 

@@ -114,9 +114,7 @@ TEST(DiskGroupParameter, KeyedUpdateOfAnElementWithoutStorageDeviceNameIsRefused
     uint32_t n = 1;
     StderrCapture err;
     EXPECT_EQ(j2s_array_update_DiskGroupParameter("[{\"GroupID\":2}]", arr, &n), -2);
-    EXPECT_EQ(err.text(),
-              text_diag(lines_of("DiskGroupParameter").c2s_array_update, "c2s_array_update_DiskGroupParameter",
-                        "The keyword is not contained in an object of the json array!\n"));
+    EXPECT_EQ(err.text(), keyword_diag("DiskGroupParameter"));
     EXPECT_EQ(arr[0].GroupID, 0);
     EXPECT_EQ(n, 1u);
 }
@@ -305,8 +303,7 @@ TEST(RecordParameter, KeyedUpdateWithoutChannelIsRefusedOnTheUpdateLine) {
     uint32_t n = 1;
     StderrCapture err;
     EXPECT_EQ(j2s_array_update_RecordParameter("[{\"StreamIndex\":1}]", arr, &n), -2);
-    EXPECT_EQ(err.text(), text_diag(lines_of("RecordParameter").c2s_array_update, "c2s_array_update_RecordParameter",
-                            "The keyword is not contained in an object of the json array!\n"));
+    EXPECT_EQ(err.text(), keyword_diag("RecordParameter"));
     EXPECT_EQ(arr[0].StreamIndex, 0u);
 }
 
@@ -316,10 +313,8 @@ TEST(RecordParameter, KeyedUpdateChangesTheChannelNamedAndCountsIt) {
     expect_update_applies(j2s_array_update_RecordParameter,
                           "[{\"Channel\":2,\"FileDuration\":1800,\"DiskGroupID\":-1},{\"Channel\":9,"
                           "\"FileDuration\":1}]", arr, 3, 1);
-    EXPECT_EQ(arr[2].FileDuration, 1800u);
+    EXPECT_EQ(member_values(arr, &RecordParameter::FileDuration), (std::vector<uint32_t>{600, 600, 1800}));
     EXPECT_EQ(arr[2].DiskGroupID, -1);
-    EXPECT_EQ(arr[0].FileDuration, 600u);
-    EXPECT_EQ(arr[1].FileDuration, 600u);
 }
 
 TEST(RecordStatus, TextIsIdenticalToThatOfASnapshotStatusWithEqualValues) {
@@ -465,8 +460,7 @@ TEST(SnapshotParameter, KeyedUpdateMatchesTheChannelAndArrayFilesKeepTheSettings
     channels_with(arr, &SnapshotParameter::ImageQuality, 80u);
     expect_update_applies(j2s_array_update_SnapshotParameter,
                           "[{\"Channel\":1,\"ImageQuality\":95,\"FilePath\":\"/mnt/disk0/snap\"}]", arr, 2, 1);
-    EXPECT_EQ(arr[1].ImageQuality, 95u);
-    EXPECT_EQ(arr[0].ImageQuality, 80u);
+    EXPECT_EQ(member_values(arr, &SnapshotParameter::ImageQuality), (std::vector<uint32_t>{80, 95}));
     expect_array_file_round_trip(s2f_array_SnapshotParameter, f2s_array_SnapshotParameter, arr, 2);
 }
 

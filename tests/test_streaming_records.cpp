@@ -454,18 +454,15 @@ TEST(WebServerParameter, PortOf70000IsKept) {
 }
 
 TEST(RtspServerParameter, BothPortsKeepTheLow16BitsWithoutRangeCheck) {
-    struct Case {
-        const char *value;
-        uint16_t stored;
-    } cases[] = {{"554", 554}, {"65535", 65535}, {"65536", 0}, {"65537", 1}, {"-1", 65535}, {"4294967850", 554}};
-    for (const Case &c : cases) {
+    for (const Low16Case &c : {Low16Case{"554", 554}, {"65535", 65535}, {"65536", 0}, {"65537", 1}, {"-1", 65535},
+                               {"4294967850", 554}}) {
         RtspServerParameter r = pattern<RtspServerParameter>();
-        std::string doc = std::string("{\"Port\": ") + c.value + ", \"RtspOverHttpPort\": " + c.value + "}";
+        std::string doc = std::string("{\"Port\": ") + c.literal + ", \"RtspOverHttpPort\": " + c.literal + "}";
         StderrCapture err;
-        ASSERT_EQ(j2s_RtspServerParameter(doc.c_str(), &r), 0) << c.value;
+        ASSERT_EQ(j2s_RtspServerParameter(doc.c_str(), &r), 0) << c.literal;
         EXPECT_EQ(err.text(), "");
-        EXPECT_EQ(r.Port, c.stored) << c.value;
-        EXPECT_EQ(r.RtspOverHttpPort, c.stored) << c.value;
+        EXPECT_EQ(r.Port, c.stored) << c.literal;
+        EXPECT_EQ(r.RtspOverHttpPort, c.stored) << c.literal;
         EXPECT_EQ(r.Enable, static_cast<int32_t>(0xA5A5A5A5u));
         EXPECT_EQ(r.AuthenticationEnable, static_cast<int32_t>(0xA5A5A5A5u));
     }
@@ -724,6 +721,23 @@ std::string int_list(size_t n, uint32_t first) {
     return s + "]";
 }
 
+// What the reader of a tree, or the strict reader (json_to_struct_
+// StreamingInputUseCountKeyword), returns for the tree of `doc`, into *r.
+int read_use_count(StreamingInputUseCount *r, const std::string &doc) {
+    return read_of_text(json_to_struct_StreamingInputUseCount, doc.c_str(), r);
+}
+int read_use_count_strictly(StreamingInputUseCount *r, const std::string &doc) {
+    return read_of_text(json_to_struct_StreamingInputUseCountKeyword, doc.c_str(), r);
+}
+
+// The bytes of pattern<T>(): an entry or count that no reader wrote.
+constexpr uint32_t kUntouched = 0xA5A5A5A5u;
+
+// Entries {position, value} of a list.
+void expect_entries(const uint32_t (&list)[256], std::initializer_list<std::pair<int, uint32_t>> want) {
+    for (const auto &[i, value] : want) EXPECT_EQ(list[i], value) << "entry " << i;
+}
+
 TEST(StreamingInputUseCount, EmittedRecordReadsBackUnchangedWith256ItemsInEachList) {
     StreamingInputUseCount a = {};
     a.OperationType = 2;
@@ -799,22 +813,16 @@ TEST(StreamingInputUseCount, EmptyIndexListFailsAfterOperationTypeAndStreamingNu
 TEST(StreamingInputUseCount, IndexListOf300IntegersStoresTheFirst256AndSucceeds) {
     StreamingInputUseCount r = pattern<StreamingInputUseCount>();
     std::string doc = "{\"IndexList\": " + int_list(300, 1) + "}";
-    Tree t(cJSON_Parse(doc.c_str()));
-    ASSERT_EQ(json_to_struct_StreamingInputUseCount(&r, t.p), 1);
+    ASSERT_EQ(read_use_count(&r, doc), 1);
     for (uint32_t i = 0; i < 256; ++i) ASSERT_EQ(r.IndexList[i], i + 1) << i;
-    EXPECT_EQ(r.UseCountList[0], 0xA5A5A5A5u);  // the next list is untouched
-    EXPECT_EQ(r.UseCountList[255], 0xA5A5A5A5u);
+    expect_entries(r.UseCountList, {{0, kUntouched}, {255, kUntouched}});  // the next list is untouched
 }
 
 TEST(StreamingInputUseCount, NonIntegerItemIsSkippedAndItsEntryLeftAsItWas) {
     StreamingInputUseCount r = pattern<StreamingInputUseCount>();
-    Tree t(cJSON_Parse("{\"IndexList\": [1, \"x\", 3]}"));
-    ASSERT_EQ(json_to_struct_StreamingInputUseCount(&r, t.p), 1);
-    EXPECT_EQ(r.IndexList[0], 1u);
-    EXPECT_EQ(r.IndexList[1], 0xA5A5A5A5u);
-    EXPECT_EQ(r.IndexList[2], 3u);
-    EXPECT_EQ(r.IndexList[3], 0xA5A5A5A5u);  // a shorter list leaves the entries behind it
-    EXPECT_EQ(r.IndexList[255], 0xA5A5A5A5u);
+    ASSERT_EQ(read_use_count(&r, "{\"IndexList\": [1, \"x\", 3]}"), 1);
+    // A shorter list leaves the entries behind it.
+    expect_entries(r.IndexList, {{0, 1}, {1, kUntouched}, {2, 3}, {3, kUntouched}, {255, kUntouched}});
 }
 
 TEST(StreamingInputUseCount, EveryKindOfNonIntegerItemIsSkippedByPosition) {
@@ -827,11 +835,9 @@ TEST(StreamingInputUseCount, EveryKindOfNonIntegerItemIsSkippedByPosition) {
 
 TEST(StreamingInputUseCount, ListOfOnlyNonIntegersFails) {
     StreamingInputUseCount r = pattern<StreamingInputUseCount>();
-    Tree t(cJSON_Parse("{\"IndexList\": [\"a\"]}"));
-    EXPECT_EQ(json_to_struct_StreamingInputUseCount(&r, t.p), 0);
+    EXPECT_EQ(read_use_count(&r, "{\"IndexList\": [\"a\"]}"), 0);
     EXPECT_EQ(r.IndexList[0], 0xA5A5A5A5u);
-    Tree u(cJSON_Parse("{\"IndexList\": [1], \"UseCountList\": [\"a\", 2.5, false]}"));
-    EXPECT_EQ(json_to_struct_StreamingInputUseCount(&r, u.p), 0);
+    EXPECT_EQ(read_use_count(&r, "{\"IndexList\": [1], \"UseCountList\": [\"a\", 2.5, false]}"), 0);
     EXPECT_EQ(r.IndexList[0], 1u);
     EXPECT_EQ(r.UseCountList[0], 0xA5A5A5A5u);
 }
@@ -840,27 +846,21 @@ TEST(StreamingInputUseCount, NumberOrTextInPlaceOfAListFailsAsAnEmptyList) {
     for (const char *doc : {"{\"IndexList\": 5}", "{\"IndexList\": \"1,2,3\"}", "{\"IndexList\": null}",
                             "{\"IndexList\": [1], \"UseCountList\": 5}"}) {
         StreamingInputUseCount r = pattern<StreamingInputUseCount>();
-        Tree t(cJSON_Parse(doc));
-        EXPECT_EQ(json_to_struct_StreamingInputUseCount(&r, t.p), 0) << doc;
+        EXPECT_EQ(read_use_count(&r, doc), 0) << doc;
     }
 }
 
 TEST(StreamingInputUseCount, EmptyUseCountListFails) {
     StreamingInputUseCount r = pattern<StreamingInputUseCount>();
-    Tree t(cJSON_Parse("{\"IndexList\": [4], \"UseCountList\": []}"));
-    EXPECT_EQ(json_to_struct_StreamingInputUseCount(&r, t.p), 0);
+    EXPECT_EQ(read_use_count(&r, "{\"IndexList\": [4], \"UseCountList\": []}"), 0);
     EXPECT_EQ(r.IndexList[0], 4u);
 }
 
 TEST(StreamingInputUseCount, ObjectInPlaceOfAListHasItsMembersReadAsEntries) {
     StreamingInputUseCount r = pattern<StreamingInputUseCount>();
-    Tree t(cJSON_Parse("{\"IndexList\": {\"a\": 7, \"b\": \"x\", \"c\": 9}}"));
-    ASSERT_EQ(json_to_struct_StreamingInputUseCount(&r, t.p), 1);
-    EXPECT_EQ(r.IndexList[0], 7u);
-    EXPECT_EQ(r.IndexList[1], 0xA5A5A5A5u);
-    EXPECT_EQ(r.IndexList[2], 9u);
-    Tree e(cJSON_Parse("{\"IndexList\": {}}"));
-    EXPECT_EQ(json_to_struct_StreamingInputUseCount(&r, e.p), 0);
+    ASSERT_EQ(read_use_count(&r, "{\"IndexList\": {\"a\": 7, \"b\": \"x\", \"c\": 9}}"), 1);
+    expect_entries(r.IndexList, {{0, 7}, {1, kUntouched}, {2, 9}});
+    EXPECT_EQ(read_use_count(&r, "{\"IndexList\": {}}"), 0);
 }
 
 TEST(StreamingInputUseCount, EntriesKeepTheLow32BitsOfEachItem) {
@@ -868,11 +868,8 @@ TEST(StreamingInputUseCount, EntriesKeepTheLow32BitsOfEachItem) {
     ASSERT_EQ(j2s_StreamingInputUseCount(
                   "{\"IndexList\": [-1, 4294967296, 4294967295, 6000000000], \"UseCountList\": [-2]}", &r),
               0);
-    EXPECT_EQ(r.IndexList[0], 4294967295u);
-    EXPECT_EQ(r.IndexList[1], 0u);
-    EXPECT_EQ(r.IndexList[2], 4294967295u);
-    EXPECT_EQ(r.IndexList[3], 1705032704u);
-    EXPECT_EQ(r.UseCountList[0], 4294967294u);
+    expect_entries(r.IndexList, {{0, 4294967295u}, {1, 0}, {2, 4294967295u}, {3, 1705032704u}});
+    expect_entries(r.UseCountList, {{0, 4294967294u}});
 }
 
 TEST(StreamingInputUseCount, StreamingNumberDoesNotBoundTheLists) {
@@ -887,12 +884,10 @@ TEST(StreamingInputUseCount, StreamingNumberDoesNotBoundTheLists) {
 
 TEST(StreamingInputUseCount, CountOfTheWrongTypeFailsBeforeTheLists) {
     StreamingInputUseCount r = pattern<StreamingInputUseCount>();
-    Tree a(cJSON_Parse("{\"OperationType\": \"1\", \"StreamingNumber\": 2, \"IndexList\": [1]}"));
-    EXPECT_EQ(json_to_struct_StreamingInputUseCount(&r, a.p), 0);
+    EXPECT_EQ(read_use_count(&r, "{\"OperationType\": \"1\", \"StreamingNumber\": 2, \"IndexList\": [1]}"), 0);
     EXPECT_EQ(r.StreamingNumber, 0xA5A5A5A5u);
     EXPECT_EQ(r.IndexList[0], 0xA5A5A5A5u);
-    Tree b(cJSON_Parse("{\"OperationType\": 1, \"StreamingNumber\": 2.5, \"IndexList\": [1]}"));
-    EXPECT_EQ(json_to_struct_StreamingInputUseCount(&r, b.p), 0);
+    EXPECT_EQ(read_use_count(&r, "{\"OperationType\": 1, \"StreamingNumber\": 2.5, \"IndexList\": [1]}"), 0);
     EXPECT_EQ(r.OperationType, 1u);
     EXPECT_EQ(r.IndexList[0], 0xA5A5A5A5u);
 }
@@ -900,11 +895,9 @@ TEST(StreamingInputUseCount, CountOfTheWrongTypeFailsBeforeTheLists) {
 TEST(StreamingInputUseCount, AbsentKeysAreSkippedByTheReader) {
     StreamingInputUseCount r = pattern<StreamingInputUseCount>();
     const StreamingInputUseCount before = r;
-    Tree empty(cJSON_Parse("{}"));
-    EXPECT_EQ(json_to_struct_StreamingInputUseCount(&r, empty.p), 1);
+    EXPECT_EQ(read_use_count(&r, "{}"), 1);
     EXPECT_TRUE(same_bytes(r, before));
-    Tree only_use(cJSON_Parse("{\"UseCountList\": [3]}"));
-    EXPECT_EQ(json_to_struct_StreamingInputUseCount(&r, only_use.p), 1);
+    EXPECT_EQ(read_use_count(&r, "{\"UseCountList\": [3]}"), 1);
     EXPECT_EQ(r.UseCountList[0], 3u);
     EXPECT_EQ(r.IndexList[0], 0xA5A5A5A5u);
 }
@@ -937,8 +930,7 @@ TEST(StreamingInputUseCount, StrictReaderRequiresEveryKey) {
     };
     for (const Case &c : cases) {
         StreamingInputUseCount r = pattern<StreamingInputUseCount>();
-        Tree t(cJSON_Parse(c.doc.c_str()));
-        EXPECT_EQ(json_to_struct_StreamingInputUseCountKeyword(&r, t.p), 0) << c.doc;
+        EXPECT_EQ(read_use_count_strictly(&r, c.doc), 0) << c.doc;
         EXPECT_EQ(r.OperationType, c.op_written ? 1u : 0xA5A5A5A5u) << c.doc;
         EXPECT_EQ(r.StreamingNumber, c.number_written ? 2u : 0xA5A5A5A5u) << c.doc;
         EXPECT_EQ(r.IndexList[0], c.index_written ? 1u : 0xA5A5A5A5u) << c.doc;
@@ -956,22 +948,18 @@ TEST(StreamingInputUseCount, StrictReaderRefusesEmptyOrNonIntegerListsAndWrongTy
              "{\"OperationType\": \"1\", \"StreamingNumber\": 2, \"IndexList\": [1], \"UseCountList\": [2]}",
          }) {
         StreamingInputUseCount r = pattern<StreamingInputUseCount>();
-        Tree t(cJSON_Parse(doc));
-        EXPECT_EQ(json_to_struct_StreamingInputUseCountKeyword(&r, t.p), 0) << doc;
+        EXPECT_EQ(read_use_count_strictly(&r, doc), 0) << doc;
     }
 }
 
 TEST(StreamingInputUseCount, StrictReaderAcceptsAWholeRecordWithSkippedItems) {
     StreamingInputUseCount r = pattern<StreamingInputUseCount>();
-    Tree t(cJSON_Parse(
-        "{\"operationtype\": 7, \"StreamingNumber\": 2, \"IndexList\": [1, \"x\", 3], \"UseCountList\": [null, 4]}"));
-    ASSERT_EQ(json_to_struct_StreamingInputUseCountKeyword(&r, t.p), 1);
+    const char *doc =
+        "{\"operationtype\": 7, \"StreamingNumber\": 2, \"IndexList\": [1, \"x\", 3], \"UseCountList\": [null, 4]}";
+    ASSERT_EQ(read_use_count_strictly(&r, doc), 1);
     EXPECT_EQ(r.OperationType, 7u);  // keys match without regard to case
-    EXPECT_EQ(r.IndexList[0], 1u);
-    EXPECT_EQ(r.IndexList[1], 0xA5A5A5A5u);
-    EXPECT_EQ(r.IndexList[2], 3u);
-    EXPECT_EQ(r.UseCountList[0], 0xA5A5A5A5u);
-    EXPECT_EQ(r.UseCountList[1], 4u);
+    expect_entries(r.IndexList, {{0, 1}, {1, kUntouched}, {2, 3}});
+    expect_entries(r.UseCountList, {{0, kUntouched}, {1, 4}});
 }
 
 // ======================================================================
