@@ -260,6 +260,19 @@ void expect_name_keyword_readers(int (*keyword)(K *, const cJSON *), int (*get)(
     EXPECT_STREQ(k.InterfaceName, want) << doc;
 }
 
+// Both keyword readers of a type keyed by a string read the key `member`
+// out of `object` (status 1) as `want`.
+template <class K>
+void expect_name_keyword_readers_read(int (*keyword)(K *, const cJSON *), int (*get)(char *, const cJSON *),
+                                      char (K::*member)[64], const cJSON *object, const std::string &want) {
+    K kw;
+    ASSERT_EQ(keyword(&kw, object), 1);
+    EXPECT_EQ(std::string(kw.*member), want);
+    char name[64];
+    ASSERT_EQ(get(name, object), 1);
+    EXPECT_EQ(std::string(name), want);
+}
+
 // The single-key reader `get` of a string first key refuses each of `docs`
 // (status 0), leaving the key as it was.
 void expect_string_key_reader_refuses(int (*get)(char *, const cJSON *), std::initializer_list<const char *> docs);
@@ -365,6 +378,19 @@ void expect_update_applies(int (*update)(const char *, T *, uint32_t *), const c
     uint32_t n = room;
     EXPECT_EQ(update(request, arr, &n), 0) << request;
     EXPECT_EQ(n, count) << request;
+}
+
+// The keyed update `request` of the `room` records at `arr` refused (status
+// -2) with the keyword diagnostic of `type`, as for an element without its
+// keys.  Returns the count the update gives back.
+template <class T>
+uint32_t refused_update_count(int (*update)(const char *, T *, uint32_t *), const char *type, const char *request,
+                              T *arr, uint32_t room) {
+    uint32_t n = room;
+    StderrCapture err;
+    EXPECT_EQ(update(request, arr, &n), -2) << request;
+    EXPECT_EQ(err.text(), keyword_diag(type)) << request;
+    return n;
 }
 
 // A record array read by j2s_array from its text, or by f2s_array from the

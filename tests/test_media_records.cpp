@@ -211,20 +211,26 @@ TEST(VideoInputParameter, ArrayOfTwoWrittenAndReadBackKeepsSecondElementInPlace)
     EXPECT_EQ(std::memcmp(a, b.data(), sizeof a), 0);
 }
 
-TEST(VideoInputParameter, ScanningFrequencyIntegerOf65596IsReadBackAs60) {
-    const std::vector<VideoInputParameter> r =
-        read_array_back(j2s_array_VideoInputParameter, "[{\"ScanningFrequencyInteger\":65596}]", 1, 1);
-    EXPECT_EQ(r[0].ScanningFrequencyInteger, 60);
-    EXPECT_EQ(r[0].ScanningFrequencyDecimal, 0);
-    Text t(s2j_array_VideoInputParameter(r.data(), 1, 0));
-    EXPECT_TRUE(contains(t.str(), "\"ScanningFrequencyInteger\":60,\"ScanningFrequencyDecimal\":0,"));
-}
-
+// 65596 is read back as 60; both halves keep the low 16 bits and are
+// written back as such.
 TEST(VideoInputParameter, ScanningFrequencyFieldsStoreTheLow16BitsWithoutFailing) {
-    const char *doc = "[{\"ScanningFrequencyInteger\":65536,\"ScanningFrequencyDecimal\":-1}]";
-    const VideoInputParameter r = read_array_back(j2s_array_VideoInputParameter, doc, 1, 1)[0];
-    EXPECT_EQ(r.ScanningFrequencyInteger, 0);
-    EXPECT_EQ(r.ScanningFrequencyDecimal, 65535);
+    const struct {
+        const char *doc;
+        uint16_t integer, decimal;
+        const char *emitted;
+    } cases[] = {
+        {"[{\"ScanningFrequencyInteger\":65596}]", 60, 0,
+         "\"ScanningFrequencyInteger\":60,\"ScanningFrequencyDecimal\":0,"},
+        {"[{\"ScanningFrequencyInteger\":65536,\"ScanningFrequencyDecimal\":-1}]", 0, 65535,
+         "\"ScanningFrequencyInteger\":0,\"ScanningFrequencyDecimal\":65535,"},
+    };
+    for (const auto &c : cases) {
+        const std::vector<VideoInputParameter> r = read_array_back(j2s_array_VideoInputParameter, c.doc, 1, 1);
+        EXPECT_EQ(r[0].ScanningFrequencyInteger, c.integer) << c.doc;
+        EXPECT_EQ(r[0].ScanningFrequencyDecimal, c.decimal) << c.doc;
+        Text t(s2j_array_VideoInputParameter(r.data(), 1, 0));
+        EXPECT_TRUE(contains(t.str(), c.emitted)) << t.str();
+    }
 }
 
 TEST(VideoInputParameter, ScanningFrequencyOf65535IsEmittedUnsignedBetweenHeightAndScanningMode) {
@@ -297,12 +303,9 @@ TEST(VideoInputVGAParameter, KeyedUpdateElementWithoutInterfaceNameFailsWithKeyw
     std::strcpy(a[0].InterfaceName, "VGA1");
     std::strcpy(a[1].InterfaceName, "VGA2");
     a[0].CorrectedPhaseValue = 4;
-    uint32_t n = 2;
-    StderrCapture err;
-    EXPECT_EQ(j2s_array_update_VideoInputVGAParameter(
-                  "[{\"InterfaceName\":\"VGA1\",\"CorrectedPhaseValue\":9},{\"CorrectedPhaseValue\":1}]", a, &n),
-              -2);
-    EXPECT_EQ(err.text(), keyword_diag("VideoInputVGAParameter"));
+    const char *request = "[{\"InterfaceName\":\"VGA1\",\"CorrectedPhaseValue\":9},{\"CorrectedPhaseValue\":1}]";
+    const uint32_t n =
+        refused_update_count(j2s_array_update_VideoInputVGAParameter, "VideoInputVGAParameter", request, a, 2);
     EXPECT_EQ(n, 2u);
     EXPECT_EQ(a[0].CorrectedPhaseValue, 9);  // the earlier element's update stays
     EXPECT_EQ(a[1].CorrectedPhaseValue, 0);
@@ -405,13 +408,6 @@ TEST(VideoEncodeParameter, FrameRate25Over0IsEmittedBetweenHeightAndCodec) {
                          "\"Height\":1080,\"FramerateInteger\":25,\"FramerateDecimal\":0,\"Codec\":\"H.264\","));
 }
 
-TEST(VideoEncodeParameter, FramerateDecimalOf65537StoresOne) {
-    const VideoEncodeParameter r =
-        read_array_back(j2s_array_VideoEncodeParameter, "[{\"FramerateDecimal\":65537}]", 1, 1)[0];
-    EXPECT_EQ(r.FramerateDecimal, 1);
-    EXPECT_EQ(r.FramerateInteger, 0);
-}
-
 TEST(VideoEncodeParameter, FrameRateOf65535IsEmittedUnsigned) {
     VideoEncodeParameter r{};
     r.FramerateInteger = 65535;
@@ -420,19 +416,22 @@ TEST(VideoEncodeParameter, FrameRateOf65535IsEmittedUnsigned) {
     EXPECT_TRUE(contains(text, "\"FramerateInteger\":65535,\"FramerateDecimal\":65535,"));
 }
 
+// Each half keeps the low 16 bits of what it is given (FramerateDecimal
+// 65537 stores 1); the other half is not touched.
 TEST(VideoEncodeParameter, FrameRateStoresLow16BitsOf30And65536And70000AndMinusOne) {
     const struct {
-        const char *text;
-        uint16_t want;
-    } cases[] = {{"30", 30}, {"65536", 0}, {"70000", 4464}, {"-1", 65535}};
+        const char *json;
+        uint16_t integer, decimal;
+    } cases[] = {{"[{\"FramerateInteger\":30}]", 30, 7},    {"[{\"FramerateInteger\":65536}]", 0, 7},
+                 {"[{\"FramerateInteger\":70000}]", 4464, 7}, {"[{\"FramerateInteger\":-1}]", 65535, 7},
+                 {"[{\"FramerateDecimal\":65537}]", 0, 1}};
     for (const auto &c : cases) {
         VideoEncodeParameter r[1] = {};
         r[0].FramerateDecimal = 7;
         uint32_t n = 1;
-        const std::string json = std::string("[{\"FramerateInteger\":") + c.text + "}]";
-        ASSERT_EQ(j2s_array_VideoEncodeParameter(json.c_str(), r, &n), 0) << c.text;
-        EXPECT_EQ(r[0].FramerateInteger, c.want) << c.text;
-        EXPECT_EQ(r[0].FramerateDecimal, 7) << c.text;  // the neighbouring half is not touched
+        ASSERT_EQ(j2s_array_VideoEncodeParameter(c.json, r, &n), 0) << c.json;
+        EXPECT_EQ(r[0].FramerateInteger, c.integer) << c.json;
+        EXPECT_EQ(r[0].FramerateDecimal, c.decimal) << c.json;
     }
 }
 
@@ -503,10 +502,7 @@ TEST(VideoEncodeParameter, KeyedUpdateWithChannelButNoStreamIndexFailsThoughGetK
     a[1].Channel = 1;
     a[1].StreamIndex = 1;
     const char *json = "[{\"Channel\":1,\"Bitrate\":4000}]";
-    uint32_t n = 2;
-    StderrCapture err;
-    EXPECT_EQ(j2s_array_update_VideoEncodeParameter(json, a, &n), -2);
-    EXPECT_EQ(err.text(), keyword_diag("VideoEncodeParameter"));
+    const uint32_t n = refused_update_count(j2s_array_update_VideoEncodeParameter, "VideoEncodeParameter", json, a, 2);
     EXPECT_EQ(n, 2u);
     EXPECT_EQ(a[0].Bitrate, 0u);
     EXPECT_EQ(a[1].Bitrate, 0u);
@@ -618,10 +614,8 @@ TEST(VideoEncodeOSDParameter, KeyedUpdateWithChannelAndIndexUpdatesOnlyTheItemWi
 TEST(VideoEncodeOSDParameter, KeyedUpdateWithChannelAloneFailsWithKeywordMessage) {
     VideoEncodeOSDParameter a[4];
     osd_items(a);
-    uint32_t n = 4;
-    StderrCapture err;
-    EXPECT_EQ(j2s_array_update_VideoEncodeOSDParameter("[{\"Channel\":0,\"Visible\":0}]", a, &n), -2);
-    EXPECT_EQ(err.text(), keyword_diag("VideoEncodeOSDParameter"));
+    const uint32_t n = refused_update_count(j2s_array_update_VideoEncodeOSDParameter, "VideoEncodeOSDParameter",
+                                            "[{\"Channel\":0,\"Visible\":0}]", a, 4);
     EXPECT_EQ(n, 4u);
     for (uint32_t i = 0; i < 4; ++i) EXPECT_EQ(a[i].Visible, 1);
 }
@@ -774,10 +768,8 @@ TEST(AudioInputInterfaceParameter, KeyedUpdateWithNumericInterfaceNameFailsWithK
     AudioInputInterfaceParameter a[1] = {};
     std::strcpy(a[0].InterfaceName, "1");
     a[0].Volume = 50;
-    uint32_t n = 1;
-    StderrCapture err;
-    EXPECT_EQ(j2s_array_update_AudioInputInterfaceParameter("[{\"InterfaceName\":1,\"Volume\":90}]", a, &n), -2);
-    EXPECT_EQ(err.text(), keyword_diag("AudioInputInterfaceParameter"));
+    const uint32_t n = refused_update_count(j2s_array_update_AudioInputInterfaceParameter, "AudioInputInterfaceParameter",
+                                            "[{\"InterfaceName\":1,\"Volume\":90}]", a, 1);
     EXPECT_EQ(n, 1u);
     EXPECT_EQ(a[0].Volume, 50u);
 }
