@@ -528,10 +528,7 @@ TEST(VideoEncodeParameter, SameChannelWithDifferentStreamIndexAreDistinctForKeye
             &n),
         0);
     EXPECT_EQ(n, 2u);
-    EXPECT_EQ(a[0].Bitrate, 100u);
-    EXPECT_EQ(a[1].Bitrate, 512u);
-    EXPECT_EQ(a[2].Bitrate, 6000u);
-    EXPECT_EQ(a[3].Bitrate, 100u);
+    EXPECT_EQ(member_values(a, &VideoEncodeParameter::Bitrate), (std::vector<uint32_t>{100, 512, 6000, 100}));
 }
 
 TEST(VideoEncodeParameter, KeyedUpdateSkipsElementWhoseStreamIndexMatchesNoRecord) {
@@ -626,10 +623,7 @@ TEST(VideoEncodeOSDParameter, IndexZeroAndOneOfOneChannelAndSameIndexOnTwoChanne
     expect_update_applies(j2s_array_update_VideoEncodeOSDParameter,
                           "[{\"Channel\":0,\"Index\":1,\"XCoordinate\":11},{\"Channel\":1,\"Index\":1,"
                           "\"XCoordinate\":22}]", a, 4, 2);
-    EXPECT_EQ(a[0].XCoordinate, 0u);
-    EXPECT_EQ(a[1].XCoordinate, 11u);
-    EXPECT_EQ(a[2].XCoordinate, 0u);
-    EXPECT_EQ(a[3].XCoordinate, 22u);
+    EXPECT_EQ(member_values(a, &VideoEncodeOSDParameter::XCoordinate), (std::vector<uint32_t>{0, 11, 0, 22}));
 }
 
 TEST(VideoEncodeOSDParameter, ContentOf256OrMoreKeeps255AndColoursOf64OrMoreKeep63) {
@@ -768,8 +762,8 @@ TEST(AudioInputInterfaceParameter, KeyedUpdateWithNumericInterfaceNameFailsWithK
     AudioInputInterfaceParameter a[1] = {};
     std::strcpy(a[0].InterfaceName, "1");
     a[0].Volume = 50;
-    const uint32_t n = refused_update_count(j2s_array_update_AudioInputInterfaceParameter, "AudioInputInterfaceParameter",
-                                            "[{\"InterfaceName\":1,\"Volume\":90}]", a, 1);
+    const char *type = "AudioInputInterfaceParameter", *request = "[{\"InterfaceName\":1,\"Volume\":90}]";
+    const uint32_t n = refused_update_count(j2s_array_update_AudioInputInterfaceParameter, type, request, a, 1);
     EXPECT_EQ(n, 1u);
     EXPECT_EQ(a[0].Volume, 50u);
 }

@@ -123,10 +123,11 @@ TEST(VideoOutputScreenSplitParameter, DetailsOf2048OrMoreCharactersAreReadAsThei
 }
 
 TEST(VideoOutputScreenSplitParameter, KeywordWithIndexAsStringFailsEvenWithAGoodInterfaceName) {
-    Tree j(cJSON_Parse("{\"InterfaceName\":\"HDMI-OUT-0\",\"UserDefinedScreenSplitModeIndex\":\"1\"}"));
     VideoOutputScreenSplitParameterKeyword k = {};
     k.UserDefinedScreenSplitModeIndex = 77;
-    EXPECT_EQ(json_to_struct_VideoOutputScreenSplitParameterKeyword(&k, j.p), 0);
+    EXPECT_EQ(read_of_text(json_to_struct_VideoOutputScreenSplitParameterKeyword,
+                           "{\"InterfaceName\":\"HDMI-OUT-0\",\"UserDefinedScreenSplitModeIndex\":\"1\"}", &k),
+              0);
     // The name comes first and stays read; the index is left as it was.
     EXPECT_STREQ(k.InterfaceName, "HDMI-OUT-0");
     EXPECT_EQ(k.UserDefinedScreenSplitModeIndex, 77u);
@@ -622,13 +623,11 @@ TEST(VideoOutputOSDParameter, KeywordWithChannelButNoIndexFailsWhileGetSucceeds)
 }
 
 TEST(VideoOutputOSDParameter, KeywordReadsChannelBeforeIndex) {
-    Tree j(cJSON_Parse("{\"Index\":4,\"Channel\":\"2\"}"));
     VideoOutputOSDParameterKeyword k = {};
     k.Index = 55;
-    EXPECT_EQ(json_to_struct_VideoOutputOSDParameterKeyword(&k, j.p), 0);
+    EXPECT_EQ(read_of_text(json_to_struct_VideoOutputOSDParameterKeyword, "{\"Index\":4,\"Channel\":\"2\"}", &k), 0);
     EXPECT_EQ(k.Index, 55u);  // never reached
-    Tree both(cJSON_Parse("{\"Index\":4,\"Channel\":2}"));
-    EXPECT_EQ(json_to_struct_VideoOutputOSDParameterKeyword(&k, both.p), 1);
+    EXPECT_EQ(read_of_text(json_to_struct_VideoOutputOSDParameterKeyword, "{\"Index\":4,\"Channel\":2}", &k), 1);
     EXPECT_EQ(k.Channel, 2u);
     EXPECT_EQ(k.Index, 4u);
 }

@@ -63,17 +63,13 @@ TEST(RtspCapabilitySet, StreamTypeListOf256BytesWithoutNulIsEmittedAs256Characte
 }
 
 TEST(UdpCapabilitySet, StreamTypeListOf256CharactersIsStoredAsItsFirst255AndUnterminatedEmittedWhole) {
-    expect_read_as_prefix(j2s_UdpCapabilitySet, &UdpCapabilitySet::SupportedStreamTypeList, "SupportedStreamTypeList",
-                          300, 'u');
-    expect_emitted_whole(struct_to_json_UdpCapabilitySet, &UdpCapabilitySet::SupportedStreamTypeList,
-                         "SupportedStreamTypeList", 'U');
+    expect_string_bounds(j2s_UdpCapabilitySet, struct_to_json_UdpCapabilitySet,
+                         &UdpCapabilitySet::SupportedStreamTypeList, "SupportedStreamTypeList", 300, 'u', 'U');
 }
 
 TEST(SrtStreamingCapabilitySet, ModeListOf256CharactersIsStoredAsItsFirst255AndUnterminatedEmittedWhole) {
-    expect_read_as_prefix(j2s_SrtStreamingCapabilitySet, &SrtStreamingCapabilitySet::SupportedModeList,
-                          "SupportedModeList", 256, 'm');
-    expect_emitted_whole(struct_to_json_SrtStreamingCapabilitySet, &SrtStreamingCapabilitySet::SupportedModeList,
-                         "SupportedModeList", 'M');
+    expect_string_bounds(j2s_SrtStreamingCapabilitySet, struct_to_json_SrtStreamingCapabilitySet,
+                         &SrtStreamingCapabilitySet::SupportedModeList, "SupportedModeList", 256, 'm', 'M');
 }
 
 TEST(UdpCapabilitySet, NumericStreamTypeListFailsBeforeAnyFieldIsWritten) {
@@ -356,22 +352,18 @@ TEST(UdpStreamingParameter, DestinationIpOf48CharactersIsStoredAsItsFirst47) {
 }
 
 TEST(RtspStreamingParameter, StreamPathOf256CharactersIsStoredAsItsFirst255AndUnterminatedEmittedWhole) {
-    expect_read_as_prefix(json_to_struct_RtspStreamingParameter, &RtspStreamingParameter::StreamPath, "StreamPath", 256,
-                          'p');
-    expect_emitted_whole(struct_to_json_RtspStreamingParameter, &RtspStreamingParameter::StreamPath, "StreamPath", 'P');
+    expect_string_bounds(json_to_struct_RtspStreamingParameter, struct_to_json_RtspStreamingParameter,
+                         &RtspStreamingParameter::StreamPath, "StreamPath", 256, 'p', 'P');
 }
 
 TEST(RtmpStreamingParameter, StreamPathOf300CharactersIsStoredAsItsFirst255AndUnterminatedEmittedWhole) {
-    expect_read_as_prefix(json_to_struct_RtmpStreamingParameter, &RtmpStreamingParameter::StreamPath, "StreamPath", 300,
-                          'r');
-    expect_emitted_whole(struct_to_json_RtmpStreamingParameter, &RtmpStreamingParameter::StreamPath, "StreamPath", 'R');
+    expect_string_bounds(json_to_struct_RtmpStreamingParameter, struct_to_json_RtmpStreamingParameter,
+                         &RtmpStreamingParameter::StreamPath, "StreamPath", 300, 'r', 'R');
 }
 
 TEST(HttpStreamingParameter, SessionNameOf256CharactersIsStoredAsItsFirst255AndUnterminatedEmittedWhole) {
-    expect_read_as_prefix(json_to_struct_HttpStreamingParameter, &HttpStreamingParameter::SessionName, "SessionName",
-                          256, 's');
-    expect_emitted_whole(struct_to_json_HttpStreamingParameter, &HttpStreamingParameter::SessionName, "SessionName",
-                         'S');
+    expect_string_bounds(json_to_struct_HttpStreamingParameter, struct_to_json_HttpStreamingParameter,
+                         &HttpStreamingParameter::SessionName, "SessionName", 256, 's', 'S');
 }
 
 TEST(HttpStreamingParameter, HasNoEnableNorStreamTypeAndIgnoresThemOnInput) {
@@ -395,10 +387,8 @@ TEST(HttpStreamingParameter, HasNoEnableNorStreamTypeAndIgnoresThemOnInput) {
 }
 
 TEST(SrtStreamingParameter, StreamKeyNameOf256CharactersIsStoredAsItsFirst255AndUnterminatedEmittedWhole) {
-    expect_read_as_prefix(json_to_struct_SrtStreamingParameter, &SrtStreamingParameter::StreamKeyName, "StreamKeyName",
-                          256, 'k');
-    expect_emitted_whole(struct_to_json_SrtStreamingParameter, &SrtStreamingParameter::StreamKeyName, "StreamKeyName",
-                         'K');
+    expect_string_bounds(json_to_struct_SrtStreamingParameter, struct_to_json_SrtStreamingParameter,
+                         &SrtStreamingParameter::StreamKeyName, "StreamKeyName", 256, 'k', 'K');
 }
 
 TEST(SrtStreamingParameter, TargetUrlOf2048CharactersOrMoreIsStoredAsItsFirst2047) {
