@@ -856,59 +856,32 @@ TEST(AudioInputParameter, KeyedUpdateByChannelLeavesOtherChannels) {
 // Loads an array example with the type's array reader (through its file
 // reader where it has one), checks 2 to 4 elements and that the library
 // writes the same text back.
-template <class T>
-void expect_array_example(const char *type, int (*f2s_array)(const char *, T *, uint32_t *),
-                          int (*j2s_array)(const char *, T *, uint32_t *),
-                          char *(*s2j_array)(const T *, uint32_t, int)) {
-    T recs[4];
-    std::memset(recs, 0, sizeof recs);
+void expect_array_example(const char *type) {
+    const s2j::TypeInfo *t = s2j::find_type(type);
+    ASSERT_NE(t, nullptr) << type;
+    std::vector<char> recs(4 * t->desc->size, 0);
     uint32_t n = 4;
     const std::string text = example_text(type);
-    if (f2s_array)
-        ASSERT_EQ(f2s_array(example_path(type).c_str(), recs, &n), 0) << type;
+    if (t->fam.f2s_array)
+        ASSERT_EQ(t->fam.f2s_array(example_path(type).c_str(), recs.data(), &n), 0) << type;
     else
-        ASSERT_EQ(j2s_array(text.c_str(), recs, &n), 0) << type;
+        ASSERT_EQ(t->fam.j2s_array(text.c_str(), recs.data(), &n), 0) << type;
     uint32_t total = 0;
-    ASSERT_EQ(j2s_array(text.c_str(), nullptr, &total), 0) << type;
+    ASSERT_EQ(t->fam.j2s_array(text.c_str(), nullptr, &total), 0) << type;
     EXPECT_GE(total, 2u) << type;
     EXPECT_LE(total, 4u) << type;
     EXPECT_EQ(n, total) << type;
-    Text again(s2j_array(recs, n, 1));
+    Text again(t->fam.s2j_array(recs.data(), n, 1));
     EXPECT_EQ(again.str(), text) << type;
 }
 
 TEST(MediaExamples, EveryArrayExampleLoadsWithItsTypesReader) {
-    expect_array_example<VideoInputCapabilitySet>("VideoInputCapabilitySet", f2s_array_VideoInputCapabilitySet,
-                                                  j2s_array_VideoInputCapabilitySet, s2j_array_VideoInputCapabilitySet);
-    expect_array_example<VideoInputInterface>("VideoInputInterface", f2s_array_VideoInputInterface,
-                                              j2s_array_VideoInputInterface, s2j_array_VideoInputInterface);
-    expect_array_example<VideoInputParameter>("VideoInputParameter", f2s_array_VideoInputParameter,
-                                              j2s_array_VideoInputParameter, s2j_array_VideoInputParameter);
-    expect_array_example<VideoInputStatus>("VideoInputStatus", nullptr, j2s_array_VideoInputStatus,
-                                           s2j_array_VideoInputStatus);
-    expect_array_example<VideoInputVGAParameter>("VideoInputVGAParameter", nullptr, j2s_array_VideoInputVGAParameter,
-                                                 s2j_array_VideoInputVGAParameter);
-    expect_array_example<VideoEncodeCapabilitySet>("VideoEncodeCapabilitySet", f2s_array_VideoEncodeCapabilitySet,
-                                                   j2s_array_VideoEncodeCapabilitySet,
-                                                   s2j_array_VideoEncodeCapabilitySet);
-    expect_array_example<VideoEncodeParameter>("VideoEncodeParameter", f2s_array_VideoEncodeParameter,
-                                               j2s_array_VideoEncodeParameter, s2j_array_VideoEncodeParameter);
-    expect_array_example<VideoEncodeOSDParameter>("VideoEncodeOSDParameter", f2s_array_VideoEncodeOSDParameter,
-                                                  j2s_array_VideoEncodeOSDParameter, s2j_array_VideoEncodeOSDParameter);
-    expect_array_example<AudioInputCapabilitySet>("AudioInputCapabilitySet", f2s_array_AudioInputCapabilitySet,
-                                                  j2s_array_AudioInputCapabilitySet, s2j_array_AudioInputCapabilitySet);
-    expect_array_example<AudioInputInterface>("AudioInputInterface", f2s_array_AudioInputInterface,
-                                              j2s_array_AudioInputInterface, s2j_array_AudioInputInterface);
-    expect_array_example<AudioInputInterfaceParameter>("AudioInputInterfaceParameter",
-                                                       f2s_array_AudioInputInterfaceParameter,
-                                                       j2s_array_AudioInputInterfaceParameter,
-                                                       s2j_array_AudioInputInterfaceParameter);
-    expect_array_example<AudioInputParameter>("AudioInputParameter", f2s_array_AudioInputParameter,
-                                              j2s_array_AudioInputParameter, s2j_array_AudioInputParameter);
-    expect_array_example<AudioInputStatus>("AudioInputStatus", nullptr, j2s_array_AudioInputStatus,
-                                           s2j_array_AudioInputStatus);
-    expect_array_example<AudioEncodeParameter>("AudioEncodeParameter", f2s_array_AudioEncodeParameter,
-                                               j2s_array_AudioEncodeParameter, s2j_array_AudioEncodeParameter);
+    for (const char *type :
+         {"VideoInputCapabilitySet", "VideoInputInterface", "VideoInputParameter", "VideoInputStatus",
+          "VideoInputVGAParameter", "VideoEncodeCapabilitySet", "VideoEncodeParameter", "VideoEncodeOSDParameter",
+          "AudioInputCapabilitySet", "AudioInputInterface", "AudioInputInterfaceParameter", "AudioInputParameter",
+          "AudioInputStatus", "AudioEncodeParameter"})
+        expect_array_example(type);
 }
 
 TEST(MediaExamples, EverySingleRecordExampleLoadsWithItsTypesReader) {

@@ -230,7 +230,8 @@ TEST(VideoOutputSourceParameter, SourceIndexAndTypeOfMinusOneAreEmittedAsMinusOn
               "{\"Channel\":4294967295,\"SourceIndex\":-1,\"SourceType\":-1,\"CacheTime\":-1}");
 }
 
-// A video or audio source-change notice.
+// A video or audio source-change notice, or an audio output's source: a
+// channel, an interface, a source index and type.
 template <class T>
 T source_change(uint32_t channel, const char *interface_name, int32_t source_index, int32_t source_type) {
     T c = {};
@@ -338,11 +339,7 @@ TEST(VideoOutputSourceParameter, UpdateFindsTheChannelAndKeywordNeedsAnInteger) 
 // ---- Audio output and decoding -------------------------------------------
 
 TEST(AudioOutputParameter, SourceIndexAndTypeOfMinusOneAreEmittedAsMinusOne) {
-    AudioOutputParameter p = {};
-    p.Channel = 1;
-    set(p.InterfaceName, "LINE-OUT-0");
-    p.SourceIndex = -1;
-    p.SourceType = -1;
+    const AudioOutputParameter p = source_change<AudioOutputParameter>(1, "LINE-OUT-0", -1, -1);
     EXPECT_EQ(compact(struct_to_json_AudioOutputParameter(&p)),
               "{\"Channel\":1,\"InterfaceName\":\"LINE-OUT-0\",\"SourceIndex\":-1,\"SourceType\":-1}");
 }

@@ -62,12 +62,14 @@ TEST(RtspCapabilitySet, StreamTypeListOf256BytesWithoutNulIsEmittedAs256Characte
                          "SupportedStreamTypeList", 'H');
 }
 
-TEST(UdpCapabilitySet, StreamTypeListOf256CharactersIsStoredAsItsFirst255AndUnterminatedEmittedWhole) {
-    expect_string_bounds(j2s_UdpCapabilitySet, struct_to_json_UdpCapabilitySet,
-                         &UdpCapabilitySet::SupportedStreamTypeList, "SupportedStreamTypeList", 300, 'u', 'U');
-}
-
-TEST(SrtStreamingCapabilitySet, ModeListOf256CharactersIsStoredAsItsFirst255AndUnterminatedEmittedWhole) {
+// The UDP stream type list and the SRT mode list.
+TEST(StreamingCapabilityLists, ListOf256CharactersOrMoreIsStoredAsItsFirst255AndUnterminatedEmittedWhole) {
+    {
+        SCOPED_TRACE("UdpCapabilitySet");
+        expect_string_bounds(j2s_UdpCapabilitySet, struct_to_json_UdpCapabilitySet,
+                             &UdpCapabilitySet::SupportedStreamTypeList, "SupportedStreamTypeList", 300, 'u', 'U');
+    }
+    SCOPED_TRACE("SrtStreamingCapabilitySet");
     expect_string_bounds(j2s_SrtStreamingCapabilitySet, struct_to_json_SrtStreamingCapabilitySet,
                          &SrtStreamingCapabilitySet::SupportedModeList, "SupportedModeList", 256, 'm', 'M');
 }
@@ -351,19 +353,27 @@ TEST(UdpStreamingParameter, DestinationIpOf48CharactersIsStoredAsItsFirst47) {
                           48, '1');
 }
 
-TEST(RtspStreamingParameter, StreamPathOf256CharactersIsStoredAsItsFirst255AndUnterminatedEmittedWhole) {
-    expect_string_bounds(json_to_struct_RtspStreamingParameter, struct_to_json_RtspStreamingParameter,
-                         &RtspStreamingParameter::StreamPath, "StreamPath", 256, 'p', 'P');
-}
-
-TEST(RtmpStreamingParameter, StreamPathOf300CharactersIsStoredAsItsFirst255AndUnterminatedEmittedWhole) {
-    expect_string_bounds(json_to_struct_RtmpStreamingParameter, struct_to_json_RtmpStreamingParameter,
-                         &RtmpStreamingParameter::StreamPath, "StreamPath", 300, 'r', 'R');
-}
-
-TEST(HttpStreamingParameter, SessionNameOf256CharactersIsStoredAsItsFirst255AndUnterminatedEmittedWhole) {
-    expect_string_bounds(json_to_struct_HttpStreamingParameter, struct_to_json_HttpStreamingParameter,
-                         &HttpStreamingParameter::SessionName, "SessionName", 256, 's', 'S');
+// The stream paths of RTSP (256 characters) and RTMP (300), the HTTP
+// session name and the SRT stream key name.
+TEST(ProtocolStreamStrings, StringOf256CharactersOrMoreIsStoredAsItsFirst255AndUnterminatedEmittedWhole) {
+    {
+        SCOPED_TRACE("RtspStreamingParameter");
+        expect_string_bounds(json_to_struct_RtspStreamingParameter, struct_to_json_RtspStreamingParameter,
+                             &RtspStreamingParameter::StreamPath, "StreamPath", 256, 'p', 'P');
+    }
+    {
+        SCOPED_TRACE("RtmpStreamingParameter");
+        expect_string_bounds(json_to_struct_RtmpStreamingParameter, struct_to_json_RtmpStreamingParameter,
+                             &RtmpStreamingParameter::StreamPath, "StreamPath", 300, 'r', 'R');
+    }
+    {
+        SCOPED_TRACE("HttpStreamingParameter");
+        expect_string_bounds(json_to_struct_HttpStreamingParameter, struct_to_json_HttpStreamingParameter,
+                             &HttpStreamingParameter::SessionName, "SessionName", 256, 's', 'S');
+    }
+    SCOPED_TRACE("SrtStreamingParameter");
+    expect_string_bounds(json_to_struct_SrtStreamingParameter, struct_to_json_SrtStreamingParameter,
+                         &SrtStreamingParameter::StreamKeyName, "StreamKeyName", 256, 'k', 'K');
 }
 
 TEST(HttpStreamingParameter, HasNoEnableNorStreamTypeAndIgnoresThemOnInput) {
@@ -384,11 +394,6 @@ TEST(HttpStreamingParameter, HasNoEnableNorStreamTypeAndIgnoresThemOnInput) {
         EXPECT_STREQ(m->string, key);
         m = m->next;
     }
-}
-
-TEST(SrtStreamingParameter, StreamKeyNameOf256CharactersIsStoredAsItsFirst255AndUnterminatedEmittedWhole) {
-    expect_string_bounds(json_to_struct_SrtStreamingParameter, struct_to_json_SrtStreamingParameter,
-                         &SrtStreamingParameter::StreamKeyName, "StreamKeyName", 256, 'k', 'K');
 }
 
 TEST(SrtStreamingParameter, TargetUrlOf2048CharactersOrMoreIsStoredAsItsFirst2047) {
