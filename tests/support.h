@@ -209,16 +209,6 @@ void expect_emitted_whole(cJSON *(*emit)(const T *), char (T::*member)[N], const
     EXPECT_EQ(string_member(tree.p, key), std::string(N, c)) << key;
 }
 
-// Both bounds of the string member `key` of N bytes: a text of `len`
-// characters c is read as its first N - 1 (expect_read_as_prefix), and N
-// characters `whole` without a NUL are emitted whole (expect_emitted_whole).
-template <class Reader, class T, size_t N>
-void expect_string_bounds(Reader read, cJSON *(*emit)(const T *), char (T::*member)[N], const char *key, size_t len,
-                          char c, char whole) {
-    expect_read_as_prefix(read, member, key, len, c);
-    expect_emitted_whole(emit, member, key, whole);
-}
-
 // The single-key reader `get` of an integer first key reads `want` out of
 // the object `doc` (status 1), and refuses each of `refused` (status 0),
 // leaving the key as it was.

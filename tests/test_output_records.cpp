@@ -168,16 +168,13 @@ VideoOutputScreenSplitParameter layout(const char *iface, uint32_t index, uint32
 TEST(VideoOutputScreenSplitParameter, UpdateMatchesNameAndIndexTogether) {
     VideoOutputScreenSplitParameter a[3] = {layout("HDMI-OUT-0", 0, 1), layout("HDMI-OUT-0", 1, 2),
                                             layout("SDI-OUT-0", 0, 3)};
-    uint32_t n = 3;
     const char *json =
         "[{\"InterfaceName\":\"HDMI-OUT-0\",\"UserDefinedScreenSplitModeIndex\":1,\"SplitWindowNumber\":9},"
         " {\"InterfaceName\":\"SDI-OUT-0\",\"UserDefinedScreenSplitModeIndex\":1,\"SplitWindowNumber\":8},"
         " {\"InterfaceName\":\"HDMI-OUT-1\",\"UserDefinedScreenSplitModeIndex\":0,\"SplitWindowNumber\":7}]";
-    EXPECT_EQ(j2s_array_update_VideoOutputScreenSplitParameter(json, a, &n), 0);
-    EXPECT_EQ(n, 1u);  // only the first element found its pair
-    EXPECT_EQ(a[0].SplitWindowNumber, 1u);
-    EXPECT_EQ(a[1].SplitWindowNumber, 9u);
-    EXPECT_EQ(a[2].SplitWindowNumber, 3u);
+    // Only the first element finds its pair.
+    expect_update_applies(j2s_array_update_VideoOutputScreenSplitParameter, json, a, 3, 1);
+    EXPECT_EQ(member_values(a, &VideoOutputScreenSplitParameter::SplitWindowNumber), (std::vector<uint32_t>{1, 9, 3}));
     EXPECT_STREQ(a[1].InterfaceName, "HDMI-OUT-0");
     EXPECT_EQ(a[1].UserDefinedScreenSplitModeIndex, 1u);
 }
@@ -639,13 +636,11 @@ VideoOutputOSDParameter osd(uint32_t channel, uint32_t index) {
 
 TEST(VideoOutputOSDParameter, UpdateReplacesOnlyTheItemWithBothChannelAndIndex) {
     VideoOutputOSDParameter a[4] = {osd(0, 0), osd(0, 1), osd(1, 0), osd(1, 1)};
-    uint32_t n = 4;
     const char *json =
         "[{\"Channel\":1,\"Index\":0,\"Content\":\"Gate\",\"XCoordinate\":16},"
         " {\"Channel\":0,\"Index\":5,\"Content\":\"skipped\"},"
         " {\"Channel\":3,\"Index\":1,\"Content\":\"skipped\"}]";
-    EXPECT_EQ(j2s_array_update_VideoOutputOSDParameter(json, a, &n), 0);
-    EXPECT_EQ(n, 1u);
+    expect_update_applies(j2s_array_update_VideoOutputOSDParameter, json, a, 4, 1);
     EXPECT_STREQ(a[2].Content, "Gate");
     EXPECT_EQ(a[2].XCoordinate, 16u);
     for (int i : {0, 1, 3}) EXPECT_STREQ(a[i].Content, "orig") << i;
