@@ -343,6 +343,15 @@ int read_of_text(int (*read)(T *, const cJSON *), const char *doc, T *r) {
     return read(r, tree.p);
 }
 
+// What the text reader `j2s` writes to the standard error stream as it reads
+// `text` into *r, returning `status`.
+template <class T>
+std::string j2s_stderr(int (*j2s)(const char *, T *), const char *text, T *r, int status) {
+    StderrCapture err;
+    EXPECT_EQ(j2s(text, r), status) << text;
+    return err.text();
+}
+
 // The record that the reader of a tree `read` reads from the object `doc`
 // (status 1) over a zeroed record.
 template <class T>

@@ -277,10 +277,9 @@ TEST(OutSourceChange, NoticesHaveSeparateReaders) {
 
 TEST(VideoOutSourceChange, WrongTypeIsReportedUnderItsOwnNameAndLine) {
     VideoOutSourceChange c = {};
-    StderrCapture err;
-    EXPECT_EQ(j2s_VideoOutSourceChange("{\"Channel\":1,\"InterfaceName\":5}", &c), -1);
-    EXPECT_EQ(err.text(), diag(text_list_file(), lines_of("VideoOutSourceChange").c2s, "c2s_VideoOutSourceChange",
-                               "json_to_struct_VideoOutSourceChange failed!\n"));
+    EXPECT_EQ(j2s_stderr(j2s_VideoOutSourceChange, "{\"Channel\":1,\"InterfaceName\":5}", &c, -1),
+              diag(text_list_file(), lines_of("VideoOutSourceChange").c2s, "c2s_VideoOutSourceChange",
+                   "json_to_struct_VideoOutSourceChange failed!\n"));
     EXPECT_EQ(c.Channel, 1u);
 }
 
@@ -551,10 +550,9 @@ TEST(ScreenshotCapabilitySet, EmitterTextReadsBackThroughEveryReader) {
 
 TEST(ScreenshotCapabilitySet, NotAnObjectIsReportedByC2sUnderItsLine) {
     ScreenshotCapabilitySet c = {};
-    StderrCapture err;
-    EXPECT_EQ(j2s_ScreenshotCapabilitySet("[]", &c), -2);
-    EXPECT_EQ(err.text(), diag(text_list_file(), lines_of("ScreenshotCapabilitySet").c2s, "c2s_ScreenshotCapabilitySet",
-                               "the cJSON pointer is not an object!\n"));
+    EXPECT_EQ(j2s_stderr(j2s_ScreenshotCapabilitySet, "[]", &c, -2),
+              diag(text_list_file(), lines_of("ScreenshotCapabilitySet").c2s, "c2s_ScreenshotCapabilitySet",
+                   "the cJSON pointer is not an object!\n"));
 }
 
 // ---- Output OSD and watermarks -------------------------------------------
