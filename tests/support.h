@@ -402,6 +402,14 @@ uint32_t refused_update_count(int (*update)(const char *, T *, uint32_t *), cons
     return n;
 }
 
+// j2s_array reads the one record of `text` over *r (status 0, count 1).
+template <class T>
+void read_one_over(int (*j2s_array)(const char *, T *, uint32_t *), const char *text, T *r) {
+    uint32_t n = 1;
+    ASSERT_EQ(j2s_array(text, r, &n), 0) << text;
+    EXPECT_EQ(n, 1u) << text;
+}
+
 // A record array read by j2s_array from its text, or by f2s_array from the
 // file of that path, into room for `room` records (zeroed first): status 0
 // and `count` records.  Returns the whole room.

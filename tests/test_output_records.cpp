@@ -354,12 +354,9 @@ TEST(VideoDecodeCapabilitySet, MaxCacheTimeOfMinusOneIsStoredAsItsBitsAndEmitted
 TEST(AudioOutputCapabilitySet, InterfaceListSpeltWithTrailingListIsIgnored) {
     AudioOutputCapabilitySet c[1] = {};
     set(c[0].SupportedAudioOutputInterfaces, "LINE-OUT-0");
-    uint32_t n = 1;
-    ASSERT_EQ(
-        j2s_array_AudioOutputCapabilitySet(
-            "[{\"SupportedAudioOutputInterfacesList\":\"HDMI-OUT-0\",\"SupportedAudioInputChannelList\":\"0,1\"}]", c,
-            &n),
-        0);
+    const char *doc =
+        "[{\"SupportedAudioOutputInterfacesList\":\"HDMI-OUT-0\",\"SupportedAudioInputChannelList\":\"0,1\"}]";
+    read_one_over(j2s_array_AudioOutputCapabilitySet, doc, c);
     EXPECT_STREQ(c[0].SupportedAudioOutputInterfaces, "LINE-OUT-0");
     EXPECT_STREQ(c[0].SupportedAudioInputChannelList, "0,1");
     Text t(s2j_array_AudioOutputCapabilitySet(c, 1, 0));
@@ -480,17 +477,14 @@ TEST(ScreenshotParameter, ListsUnderAnyKeyButAttachedInputStreamingIndexsAreIgno
 TEST(ScreenshotListParameter, ListsUnderAnyKeyButScreenshotIndexsAreIgnored) {
     ScreenshotListParameter s[1] = {};
     set(s[0].ScreenshotIndexs, "0,1");
-    uint32_t n = 1;
-    ASSERT_EQ(
-        j2s_array_ScreenshotListParameter(
-            "[{\"ScreenshotIndexes\":\"3\",\"ScreenshotIndices\":\"4\",\"ScreenshotDwellTimes\":\"30,60\"}]", s, &n),
-        0);
+    read_one_over(j2s_array_ScreenshotListParameter,
+                  "[{\"ScreenshotIndexes\":\"3\",\"ScreenshotIndices\":\"4\",\"ScreenshotDwellTimes\":\"30,60\"}]", s);
     EXPECT_STREQ(s[0].ScreenshotIndexs, "0,1");
     EXPECT_STREQ(s[0].ScreenshotDwellTimes, "30,60");
     Text t(s2j_array_ScreenshotListParameter(s, 1, 0));
     EXPECT_EQ(t.str(),
               "[{\"Index\":0,\"Name\":\"\",\"ScreenshotIndexs\":\"0,1\",\"ScreenshotDwellTimes\":\"30,60\"}]");
-    ASSERT_EQ(j2s_array_ScreenshotListParameter("[{\"ScreenshotIndexs\":\"2,3\"}]", s, &n), 0);
+    read_one_over(j2s_array_ScreenshotListParameter, "[{\"ScreenshotIndexs\":\"2,3\"}]", s);
     EXPECT_STREQ(s[0].ScreenshotIndexs, "2,3");
 }
 
