@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <fstream>
+#include <regex>
 #include <sstream>
 #include <vector>
 
@@ -83,6 +84,11 @@ std::string text_diag(int line, const std::string &func, const std::string &msg)
     return diag(text_list_file(), line, func, msg);
 }
 
+std::string keyword_diag(const char *type) {
+    return text_diag(lines_of(type).c2s_array_update, std::string("c2s_array_update_") + type,
+                     "The keyword is not contained in an object of the json array!\n");
+}
+
 std::string parse_reason(const char *text) {
     cJSON *tree = cJSON_Parse(text);
     cJSON_Delete(tree);
@@ -131,6 +137,25 @@ void write_file(const std::string &path, const std::string &text) {
 bool file_exists(const std::string &path) {
     struct stat st;
     return stat(path.c_str(), &st) == 0;
+}
+
+const std::map<std::string, std::vector<DeclaredMember>> &declared_structs() {
+    static const std::map<std::string, std::vector<DeclaredMember>> structs = [] {
+        std::string text = read_file(std::string(APP_S2J_SOURCE_DIR) + "/apps/common/src/app_s2j/app_s2j_types.h");
+        text = std::regex_replace(text, std::regex(R"(/\*[^*]*\*+(?:[^/*][^*]*\*+)*/)"), " ");
+        std::map<std::string, std::vector<DeclaredMember>> found;
+        const std::regex type(R"(typedef\s+struct\s*\w*\s*\{([^}]*)\}\s*(\w+)\s*;)");
+        const std::regex member(R"((\w+)\s+(\w+)\s*(\[[^\]]*\])?\s*;)");
+        for (std::sregex_iterator t(text.begin(), text.end(), type), end; t != end; ++t) {
+            const std::string body = (*t)[1];
+            std::vector<DeclaredMember> members;
+            for (std::sregex_iterator m(body.begin(), body.end(), member); m != end; ++m)
+                members.push_back({(*m)[1].str() + (*m)[3].str(), (*m)[2]});
+            found[(*t)[2]] = members;
+        }
+        return found;
+    }();
+    return structs;
 }
 
 std::string example_path(const std::string &type) {

@@ -7,16 +7,13 @@
 
 #include <cstring>
 #include <initializer_list>
+#include <map>
 #include <string>
 #include <type_traits>
 #include <vector>
 
 #include "app_s2j.h"
 #include "registry.h"
-
-// Capacity of a member, and whether a member has a given C type.
-#define CAPACITY(T, m) sizeof(((T *)0)->m)
-#define MEMBER_IS(T, m, C) std::is_same<decltype(T::m), C>::value
 
 namespace testing_support {
 
@@ -42,6 +39,16 @@ std::string file_list_file();
 // Every registry type, in registry order.
 std::vector<const s2j::TypeInfo *> all_types();
 
+// A member of a struct as the public types header declares it: its C type
+// ("uint32_t", "char[64]", "uint32_t[256]") and its name.
+struct DeclaredMember {
+    std::string type;
+    std::string name;
+};
+// Every struct of the public types header (app_s2j_types.h) by name, its
+// members in order.
+const std::map<std::string, std::vector<DeclaredMember>> &declared_structs();
+
 // Whether the library exports a function of that name.
 bool exported(const std::string &name);
 
@@ -53,6 +60,10 @@ const s2j::Families::Lines &lines_of(const char *type);
 std::string diag(const std::string &file, int line, const std::string &func, const std::string &msg);
 // The same of a diagnostic at a line of the text list.
 std::string text_diag(int line, const std::string &func, const std::string &msg);
+
+// What a keyed update of the type writes as it refuses an element without
+// its keys.
+std::string keyword_diag(const char *type);
 
 // What cJSON itself reports, after failing to parse text, as the place
 // where parsing stopped (the rest of the text from there).
@@ -134,6 +145,12 @@ private:
     CjsonFaults &operator=(const CjsonFaults &) = delete;
 };
 
+// An integer literal and the 16 bits a uint16_t field keeps of it.
+struct Low16Case {
+    const char *literal;
+    uint16_t stored;
+};
+
 // A text of n characters c.
 inline std::string chars(size_t n, char c = 'a') { return std::string(n, c); }
 
@@ -173,6 +190,13 @@ void expect_read_as_prefix(int (*j2s)(const char *, T *), char (T::*member)[N], 
     const std::string doc = std::string("{\"") + key + "\": \"" + std::string(len, c) + "\"}";
     ASSERT_EQ(j2s(doc.c_str(), &r), 0) << key << " " << len;
     EXPECT_EQ(std::string(r.*member), std::string(N - 1, c)) << key << " " << len;
+}
+
+// The same for each of the lengths `lens`.
+template <class Reader, class T, size_t N>
+void expect_read_as_prefix(Reader read, char (T::*member)[N], const char *key, std::initializer_list<size_t> lens,
+                           char c) {
+    for (size_t len : lens) expect_read_as_prefix(read, member, key, len, c);
 }
 
 // The string member `key` filled with c, without a NUL, is emitted as all
@@ -218,6 +242,35 @@ void expect_keyword_readers_refuse(int (*keyword)(K *, const cJSON *), int (*get
     uint32_t key = 77;
     EXPECT_EQ(get(&key, tree.p), 0) << doc;
     EXPECT_EQ(key, 77u) << doc;
+}
+
+// Both keyword readers of a type keyed by a string InterfaceName refuse the
+// object `refused` (status 0), and the keyword reader reads `doc` (status 1)
+// as the name `want`.
+template <class K>
+void expect_name_keyword_readers(int (*keyword)(K *, const cJSON *), int (*get)(char *, const cJSON *),
+                                 const char *refused, const char *doc, const char *want) {
+    K k = {};
+    Tree no(cJSON_Parse(refused));
+    EXPECT_EQ(keyword(&k, no.p), 0) << refused;
+    char name[64] = {};
+    EXPECT_EQ(get(name, no.p), 0) << refused;
+    Tree yes(cJSON_Parse(doc));
+    EXPECT_EQ(keyword(&k, yes.p), 1) << doc;
+    EXPECT_STREQ(k.InterfaceName, want) << doc;
+}
+
+// Both keyword readers of a type keyed by a string read the key `member`
+// out of `object` (status 1) as `want`.
+template <class K>
+void expect_name_keyword_readers_read(int (*keyword)(K *, const cJSON *), int (*get)(char *, const cJSON *),
+                                      char (K::*member)[64], const cJSON *object, const std::string &want) {
+    K kw;
+    ASSERT_EQ(keyword(&kw, object), 1);
+    EXPECT_EQ(std::string(kw.*member), want);
+    char name[64];
+    ASSERT_EQ(get(name, object), 1);
+    EXPECT_EQ(std::string(name), want);
 }
 
 // The single-key reader `get` of a string first key refuses each of `docs`
@@ -275,6 +328,30 @@ T record_from_text(int (*j2s)(const char *, T *), const std::string &doc) {
     return r;
 }
 
+// The status of the tree member `c2s` on the tree parsed from `doc`, into *r.
+template <class T>
+int c2s_of_text(int (*c2s)(const cJSON *, T *), const char *doc, T *r) {
+    Tree tree(cJSON_Parse(doc));
+    return c2s(tree.p, r);
+}
+
+// The status of the reader of a tree `read` on the tree parsed from `doc`,
+// into *r.
+template <class T>
+int read_of_text(int (*read)(T *, const cJSON *), const char *doc, T *r) {
+    Tree tree(cJSON_Parse(doc));
+    return read(r, tree.p);
+}
+
+// What the text reader `j2s` writes to the standard error stream as it reads
+// `text` into *r, returning `status`.
+template <class T>
+std::string j2s_stderr(int (*j2s)(const char *, T *), const char *text, T *r, int status) {
+    StderrCapture err;
+    EXPECT_EQ(j2s(text, r), status) << text;
+    return err.text();
+}
+
 // The record that the reader of a tree `read` reads from the object `doc`
 // (status 1) over a zeroed record.
 template <class T>
@@ -285,6 +362,23 @@ T record_from_tree(int (*read)(T *, const cJSON *), const std::string &doc) {
     return r;
 }
 
+// Records whose Channel is their index and whose `member` is `value`.
+template <class T, class M, size_t N>
+void channels_with(T (&arr)[N], M T::*member, M value) {
+    for (uint32_t i = 0; i < N; ++i) {
+        arr[i].Channel = i;
+        arr[i].*member = value;
+    }
+}
+
+// The value of `member` in each record of the array, in order.
+template <class T, class M, size_t N>
+std::vector<M> member_values(const T (&arr)[N], M T::*member) {
+    std::vector<M> values;
+    for (const T &r : arr) values.push_back(r.*member);
+    return values;
+}
+
 // The keyed update `request` applied by j2s_array_update to the `room`
 // records at `arr`: status 0 and `count` updates applied.
 template <class T>
@@ -293,6 +387,27 @@ void expect_update_applies(int (*update)(const char *, T *, uint32_t *), const c
     uint32_t n = room;
     EXPECT_EQ(update(request, arr, &n), 0) << request;
     EXPECT_EQ(n, count) << request;
+}
+
+// The keyed update `request` of the `room` records at `arr` refused (status
+// -2) with the keyword diagnostic of `type`, as for an element without its
+// keys.  Returns the count the update gives back.
+template <class T>
+uint32_t refused_update_count(int (*update)(const char *, T *, uint32_t *), const char *type, const char *request,
+                              T *arr, uint32_t room) {
+    uint32_t n = room;
+    StderrCapture err;
+    EXPECT_EQ(update(request, arr, &n), -2) << request;
+    EXPECT_EQ(err.text(), keyword_diag(type)) << request;
+    return n;
+}
+
+// j2s_array reads the one record of `text` over *r (status 0, count 1).
+template <class T>
+void read_one_over(int (*j2s_array)(const char *, T *, uint32_t *), const char *text, T *r) {
+    uint32_t n = 1;
+    ASSERT_EQ(j2s_array(text, r, &n), 0) << text;
+    EXPECT_EQ(n, 1u) << text;
 }
 
 // A record array read by j2s_array from its text, or by f2s_array from the

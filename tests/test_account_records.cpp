@@ -1,6 +1,6 @@
-// Users and passwords: the layout of the six account records, the emitters
-// and readers that exist although no family calls them, and the behaviour of
-// the requests.
+// Users and passwords: the emitters and readers of the six account records
+// that exist although no family calls them, and the behaviour of the
+// requests.  Their layouts are in record-layouts.txt (test_record_layouts).
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
@@ -14,39 +14,17 @@
 
 using namespace testing_support;
 
-// ---- Layout ----------------------------------------------------------------
-
-static_assert(sizeof(VerifyPasswordParameter) == 132);
-static_assert(offsetof(VerifyPasswordParameter, UserName) == 0);
-static_assert(offsetof(VerifyPasswordParameter, Password) == 64);
-static_assert(offsetof(VerifyPasswordParameter, MD5Password) == 128);
-static_assert(sizeof(((VerifyPasswordParameter *)0)->UserName) == 64);
-static_assert(sizeof(((VerifyPasswordParameter *)0)->Password) == 64);
-static_assert(sizeof(((VerifyPasswordParameter *)0)->MD5Password) == 4);
-
-static_assert(sizeof(VerifyPasswordResult) == 4);
-static_assert(offsetof(VerifyPasswordResult, PassValidation) == 0);
-
-static_assert(sizeof(CreateUserParameter) == 132);
-static_assert(offsetof(CreateUserParameter, Password) == 64);
-static_assert(offsetof(CreateUserParameter, MD5Password) == 128);
-static_assert(sizeof(((CreateUserParameter *)0)->UserName) == 64);
-static_assert(sizeof(((CreateUserParameter *)0)->Password) == 64);
-
-static_assert(sizeof(DeleteUserParameter) == 64);
-static_assert(sizeof(((DeleteUserParameter *)0)->UserName) == 64);
-
-static_assert(sizeof(ModifyPasswordParameter) == 196);
-static_assert(offsetof(ModifyPasswordParameter, OldPassword) == 64);
-static_assert(offsetof(ModifyPasswordParameter, NewPassword) == 128);
-static_assert(offsetof(ModifyPasswordParameter, MD5Password) == 192);
-static_assert(sizeof(((ModifyPasswordParameter *)0)->OldPassword) == 64);
-static_assert(sizeof(((ModifyPasswordParameter *)0)->NewPassword) == 64);
-
-static_assert(sizeof(UserList) == 64);
-static_assert(sizeof(((UserList *)0)->UserName) == 64);
-
 namespace {
+
+// A password check or new user: a name, a password and the MD5 flag.
+template <class T>
+T credentials(const char *user_name, const char *password, int32_t md5_password) {
+    T r{};
+    std::strcpy(r.UserName, user_name);
+    std::strcpy(r.Password, password);
+    r.MD5Password = md5_password;
+    return r;
+}
 
 // ---- Emitters and readers, also where no family calls them -------------------
 
@@ -77,19 +55,13 @@ TEST(UserList, ReaderExistsAndReadsUserName) {
 }
 
 TEST(VerifyPasswordParameter, S2jWritesUserNamePasswordAndSignedFlagInOrder) {
-    VerifyPasswordParameter r{};
-    std::strcpy(r.UserName, "admin");
-    std::strcpy(r.Password, "secret");
-    r.MD5Password = -1;
+    const VerifyPasswordParameter r = credentials<VerifyPasswordParameter>("admin", "secret", -1);
     Text t(s2j_VerifyPasswordParameter(&r, 0));
     EXPECT_EQ(t.str(), "{\"UserName\":\"admin\",\"Password\":\"secret\",\"MD5Password\":-1}");
 }
 
 TEST(CreateUserParameter, S2jArrayWritesUserNamePasswordAndFlagInOrder) {
-    CreateUserParameter r{};
-    std::strcpy(r.UserName, "operator");
-    std::strcpy(r.Password, "pw");
-    r.MD5Password = 1;
+    const CreateUserParameter r = credentials<CreateUserParameter>("operator", "pw", 1);
     Text t(s2j_array_CreateUserParameter(&r, 1, 0));
     EXPECT_EQ(t.str(), "[{\"UserName\":\"operator\",\"Password\":\"pw\",\"MD5Password\":1}]");
 }
@@ -107,25 +79,18 @@ TEST(VerifyPasswordResult, S2jWritesPassValidationSigned) {
 // ---- Requests arrive as trees --------------------------------------------------
 
 TEST(VerifyPasswordParameter, C2sWithOnlyUserNameLeavesPasswordAndMd5PasswordAsTheyWere) {
-    VerifyPasswordParameter r{};
-    std::strcpy(r.UserName, "old");
-    std::strcpy(r.Password, "keep-me");
-    r.MD5Password = 1;
-    Tree tree(cJSON_Parse("{\"UserName\":\"admin\"}"));
-    EXPECT_EQ(c2s_VerifyPasswordParameter(tree.p, &r), 0);
+    VerifyPasswordParameter r = credentials<VerifyPasswordParameter>("old", "keep-me", 1);
+    EXPECT_EQ(c2s_of_text(c2s_VerifyPasswordParameter, "{\"UserName\":\"admin\"}", &r), 0);
     EXPECT_STREQ(r.UserName, "admin");
     EXPECT_STREQ(r.Password, "keep-me");
     EXPECT_EQ(r.MD5Password, 1);
 }
 
 TEST(CreateUserParameter, C2sWithMd5PasswordAsStringFailsWithUserNameAndPasswordWritten) {
-    CreateUserParameter r{};
-    std::strcpy(r.UserName, "before");
-    std::strcpy(r.Password, "before");
-    r.MD5Password = 7;
-    Tree tree(cJSON_Parse("{\"UserName\":\"newuser\",\"Password\":\"pw1\",\"MD5Password\":\"1\"}"));
+    CreateUserParameter r = credentials<CreateUserParameter>("before", "before", 7);
     StderrCapture err;
-    EXPECT_EQ(c2s_CreateUserParameter(tree.p, &r), -1);
+    const char *doc = "{\"UserName\":\"newuser\",\"Password\":\"pw1\",\"MD5Password\":\"1\"}";
+    EXPECT_EQ(c2s_of_text(c2s_CreateUserParameter, doc, &r), -1);
     EXPECT_EQ(err.text(), diag(text_list_file(), lines_of("CreateUserParameter").c2s, "c2s_CreateUserParameter",
                                "json_to_struct_CreateUserParameter failed!\n"));
     EXPECT_STREQ(r.UserName, "newuser");
@@ -177,8 +142,8 @@ TEST(ModifyPasswordParameter, BothPasswordsAreCarriedUnchangedAndCutTo63) {
 
 TEST(ModifyPasswordParameter, C2sReadsATreeParsedByPlainCjson) {
     ModifyPasswordParameter r{};
-    Tree tree(cJSON_Parse("{\"username\":\"viewer\",\"OldPassword\":\"a\",\"NewPassword\":\"b\",\"MD5Password\":0}"));
-    EXPECT_EQ(c2s_ModifyPasswordParameter(tree.p, &r), 0);
+    const char *doc = "{\"username\":\"viewer\",\"OldPassword\":\"a\",\"NewPassword\":\"b\",\"MD5Password\":0}";
+    EXPECT_EQ(c2s_of_text(c2s_ModifyPasswordParameter, doc, &r), 0);
     EXPECT_STREQ(r.UserName, "viewer");  // keys match without regard to case
     EXPECT_STREQ(r.OldPassword, "a");
     EXPECT_STREQ(r.NewPassword, "b");
@@ -188,9 +153,8 @@ TEST(ModifyPasswordParameter, C2sReadsATreeParsedByPlainCjson) {
 TEST(DeleteUserParameter, C2sRefusesATreeThatIsNotAnObject) {
     DeleteUserParameter r{};
     std::strcpy(r.UserName, "kept");
-    Tree tree(cJSON_Parse("[\"operator\"]"));
     StderrCapture err;
-    EXPECT_EQ(c2s_DeleteUserParameter(tree.p, &r), -2);
+    EXPECT_EQ(c2s_of_text(c2s_DeleteUserParameter, "[\"operator\"]", &r), -2);
     EXPECT_EQ(err.text(), diag(text_list_file(), lines_of("DeleteUserParameter").c2s, "c2s_DeleteUserParameter",
                                "the cJSON pointer is not an object!\n"));
     EXPECT_STREQ(r.UserName, "kept");

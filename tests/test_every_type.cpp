@@ -5,8 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
-#include <map>
-#include <regex>
 #include <string>
 #include <vector>
 
@@ -70,34 +68,15 @@ TEST_P(EveryType, FieldTableCoversTheStructInOrder) {
     EXPECT_GT(t->desc->field_count, 0u);
 }
 
-// The member names of every struct of the public types header, in order.
-const std::map<std::string, std::vector<std::string>> &declared_members() {
-    static const std::map<std::string, std::vector<std::string>> members = [] {
-        std::string text = read_file(std::string(APP_S2J_SOURCE_DIR) + "/apps/common/src/app_s2j/app_s2j_types.h");
-        text = std::regex_replace(text, std::regex(R"(/\*[^*]*\*+(?:[^/*][^*]*\*+)*/)"), " ");
-        std::map<std::string, std::vector<std::string>> found;
-        const std::regex type(R"(typedef\s+struct\s*\w*\s*\{([^}]*)\}\s*(\w+)\s*;)");
-        const std::regex member(R"(\w+\s+(\w+)\s*(?:\[[^\]]*\])?\s*;)");
-        for (std::sregex_iterator t(text.begin(), text.end(), type), end; t != end; ++t) {
-            const std::string body = (*t)[1];
-            std::vector<std::string> names;
-            for (std::sregex_iterator m(body.begin(), body.end(), member); m != end; ++m) names.push_back((*m)[1]);
-            found[(*t)[2]] = names;
-        }
-        return found;
-    }();
-    return members;
-}
-
 // Beside the compile-time checks of each table: the table's keys are the
 // struct's members by name, in order, and a mismatch names both.
 TEST_P(EveryType, FieldTableListsTheStructsMembersByNameInOrder) {
     const TypeInfo *t = GetParam();
-    auto it = declared_members().find(t->name);
-    ASSERT_NE(it, declared_members().end()) << t->name << " is not declared in app_s2j_types.h";
-    const std::vector<std::string> &names = it->second;
-    for (size_t i = 0; i < names.size() || i < t->desc->field_count; ++i) {
-        const std::string member = i < names.size() ? names[i] : "(none)";
+    auto it = declared_structs().find(t->name);
+    ASSERT_NE(it, declared_structs().end()) << t->name << " is not declared in app_s2j_types.h";
+    const std::vector<DeclaredMember> &members = it->second;
+    for (size_t i = 0; i < members.size() || i < t->desc->field_count; ++i) {
+        const std::string member = i < members.size() ? members[i].name : "(none)";
         const std::string key = i < t->desc->field_count ? t->desc->fields[i].key : "(none)";
         ASSERT_EQ(key, member) << t->name << ": row " << i + 1 << " of the field table against member "
                                << i + 1 << " of the struct";

@@ -145,11 +145,25 @@ TEST(SingleRecord, C2sReportsReaderFailureWithNewlineAndKeepsThePartialFill) {
     EXPECT_STREQ(info.ProductName, "4K Encoder");
 }
 
-TEST(SingleRecord, J2sOfEmptyArrayIsRefusedByC2sUnderItsOwnName) {
+// What j2s_DeviceInfo writes to the standard error stream as it refuses
+// `text` (status -2).
+std::string j2s_refusal(const char *text) {
     DeviceInfo info = {};
     StderrCapture err;
-    EXPECT_EQ(j2s_DeviceInfo("[]", &info), -2);
-    EXPECT_EQ(err.text(), text_diag(kC2sLine, "c2s_DeviceInfo", "the cJSON pointer is not an object!\n"));
+    EXPECT_EQ(j2s_DeviceInfo(text, &info), -2) << text;
+    return err.text();
+}
+
+// The same of j2s_DeviceInfo_with_len refusing `len` bytes of `text`.
+std::string j2s_with_len_refusal(const char *text, size_t len) {
+    DeviceInfo info = {};
+    StderrCapture err;
+    EXPECT_EQ(j2s_DeviceInfo_with_len(text, len, &info), -2) << text;
+    return err.text();
+}
+
+TEST(SingleRecord, J2sOfEmptyArrayIsRefusedByC2sUnderItsOwnName) {
+    EXPECT_EQ(j2s_refusal("[]"), text_diag(kC2sLine, "c2s_DeviceInfo", "the cJSON pointer is not an object!\n"));
 }
 
 TEST(SingleRecord, J2sOfEmptyObjectSucceedsAndLeavesRecordUntouched) {
@@ -159,27 +173,12 @@ TEST(SingleRecord, J2sOfEmptyObjectSucceedsAndLeavesRecordUntouched) {
 }
 
 TEST(SingleRecord, J2sOfTruncatedTextPrintsWholeTextAndReasonEndingInNewline) {
-    DeviceInfo info = {};
-    StderrCapture err;
-    EXPECT_EQ(j2s_DeviceInfo("{", &info), -2);
-    EXPECT_EQ(err.text(), text_diag(kJ2sLine, "j2s_DeviceInfo", "cJSON_Parse({) failed! reason: \n"));
+    EXPECT_EQ(j2s_refusal("{"), text_diag(kJ2sLine, "j2s_DeviceInfo", "cJSON_Parse({) failed! reason: \n"));
 }
 
 TEST(SingleRecord, J2sQuotesTheRestOfTheTextFromWhereParsingStopped) {
-    DeviceInfo info = {};
-    StderrCapture err;
-    EXPECT_EQ(j2s_DeviceInfo("{\"ProductModel\": nope}", &info), -2);
-    EXPECT_EQ(err.text(), text_diag(kJ2sLine, "j2s_DeviceInfo",
-                            "cJSON_Parse({\"ProductModel\": nope}) failed! reason: nope}\n"));
-}
-
-// What j2s_DeviceInfo_with_len writes to the standard error stream as it
-// refuses `len` bytes of `text` (status -2).
-std::string j2s_with_len_refusal(const char *text, size_t len) {
-    DeviceInfo info = {};
-    StderrCapture err;
-    EXPECT_EQ(j2s_DeviceInfo_with_len(text, len, &info), -2) << text;
-    return err.text();
+    EXPECT_EQ(j2s_refusal("{\"ProductModel\": nope}"),
+              text_diag(kJ2sLine, "j2s_DeviceInfo", "cJSON_Parse({\"ProductModel\": nope}) failed! reason: nope}\n"));
 }
 
 TEST(SingleRecord, J2sWithLenOfTruncatedTextPrintsNoNewlineBeforeTheReset) {

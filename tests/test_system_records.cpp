@@ -12,27 +12,6 @@ using namespace testing_support;
 
 namespace {
 
-
-TEST(SystemRecordLayout, StructsHaveTheirNaturalLayout) {
-    static_assert(sizeof(DeviceInfo) == 7 * 64);
-    static_assert(offsetof(DeviceInfo, ManufacturerName) == 6 * 64);
-    static_assert(sizeof(DeviceCapabilitySet) == 16 * 4);
-    static_assert(offsetof(DeviceCapabilitySet, TotalVideoEncodeCapability) == 15 * 4);
-    static_assert(sizeof(DeviceTime) == 32 && sizeof(DeviceTimeKeyword) == 32);
-    static_assert(sizeof(AdvancedParameter) == 8 && offsetof(AdvancedParameter, EncodeChannelBitmap0) == 4);
-    static_assert(sizeof(TimeZone) == 64 + 256 + 8 && offsetof(TimeZone, UTCOffset) == 320);
-    static_assert(sizeof(TimeZoneParameter) == 64 + 13 * 4);
-    static_assert(sizeof(NTPServer) == 64 + 256 + 2048 && CAPACITY(NTPServer, Pool) == 2048);
-    static_assert(sizeof(NTPParameter) == 4 + 256 + 12 && offsetof(NTPParameter, ServerPort) == 260);
-    static_assert(sizeof(CrontabCapabilitySet) == 4);
-    static_assert(sizeof(CrontabParameter) == 8 + 256 + 64 + 256 + 64 + 64 + 256);
-    static_assert(CAPACITY(CrontabParameter, Minute) == 256 && CAPACITY(CrontabParameter, Hour) == 64 &&
-                  CAPACITY(CrontabParameter, Day) == 256 && CAPACITY(CrontabParameter, Month) == 64 &&
-                  CAPACITY(CrontabParameter, Weekday) == 64 && CAPACITY(CrontabParameter, Command) == 256);
-    static_assert(sizeof(CrontabParameterKeyword) == 4);
-    SUCCEED();
-}
-
 TEST(DeviceTime, UtcTimeMinusOneIsEmittedSignedAndMonthWithTheSameBitsUnsigned) {
     DeviceTime t = {};
     t.UTCTime = -1;
