@@ -121,17 +121,24 @@ std::vector<std::pair<std::string, std::string>> functions(const TypeInfo &t) {
     auto add = [&out](const std::string &ret, const std::string &name, const std::string &params) {
         out.emplace_back(name, prototype(ret, name, params));
     };
-    add("cJSON *", "struct_to_json_" + n, "const " + n + " *struct_ptr");
-    add("int ", "json_to_struct_" + n, n + " *struct_ptr, const cJSON *json");
+    // A prototype of kRecordPrototypes, for this type: what stands before the
+    // name, the name, and the parameters.
+    auto add_record_function = [&add, &n](const char *text) {
+        std::string p = text;
+        const std::string placeholder = s2j::kRecordPlaceholder;
+        for (size_t at = p.find(placeholder); at != std::string::npos; at = p.find(placeholder, at + n.size()))
+            p.replace(at, placeholder.size(), n);
+        const size_t open = p.find('('), name = p.find_last_of(" *", open) + 1;
+        add(p.substr(0, name), p.substr(name, open - name), p.substr(open + 1, p.size() - open - 2));
+    };
+    const s2j::RecordPrototypes &proto = s2j::kRecordPrototypes;
+    add_record_function(proto.emitter);
+    add_record_function(proto.reader);
     // The families of the text list, the keyword readers, then the file families.
     for (int pass = 0; pass < 3; ++pass) {
         if (pass == 1) {
-            if (t.hooks->keyword != nullptr) {
-                if (t.desc->key_count > 0)
-                    add("int ", "json_to_struct_" + n + "Keyword", n + "Keyword *keyword, const cJSON *json");
-                else  // a record read whole with every field required
-                    add("int ", "json_to_struct_" + n + "Keyword", n + " *struct_ptr, const cJSON *json");
-            }
+            if (t.hooks->keyword != nullptr)  // without keys: a record read whole with every field required
+                add_record_function(t.desc->key_count > 0 ? proto.keyword_reader : proto.all_fields_reader);
             if (t.hooks->get_keyword != nullptr) {
                 const s2j::Field &key = t.desc->keys[0].field;
                 const char *type = c_type(key.kind);

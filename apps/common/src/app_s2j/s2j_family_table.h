@@ -84,7 +84,27 @@
 #define S2J_TEXT(...) S2J_TEXT_OF(__VA_ARGS__)
 #define S2J_NO_PARENS(...) __VA_ARGS__
 
+// The prototypes of the functions every type has beside its families, T the
+// record type: its emitter and reader, and the keyword reader of a keyed type
+// (into its keyword record) or of a type read whole and strictly (into the
+// record).  The shared library defines them with these heads and the
+// internal library declares them (s2j_record_defs.h); the public header's
+// text is them stringified (kRecordPrototypes).
+#define S2J_EMITTER_PROTOTYPE(T) cJSON *struct_to_json_##T(const T *struct_ptr)
+#define S2J_READER_PROTOTYPE(T) int json_to_struct_##T(T *struct_ptr, const cJSON *json)
+#define S2J_KEYWORD_READER_PROTOTYPE(T) int json_to_struct_##T##Keyword(T##Keyword *keyword, const cJSON *json)
+#define S2J_ALL_FIELDS_READER_PROTOTYPE(T) int json_to_struct_##T##Keyword(T *struct_ptr, const cJSON *json)
+
 namespace s2j {
+
+// The record type in kRecordPrototypes: each "RECORD_T" stands for its name.
+inline constexpr char kRecordPlaceholder[] = "RECORD_T";
+struct RecordPrototypes {
+    const char *emitter, *reader, *keyword_reader, *all_fields_reader;
+};
+inline constexpr RecordPrototypes kRecordPrototypes = {
+    S2J_TEXT(S2J_EMITTER_PROTOTYPE(RECORD_T)), S2J_TEXT(S2J_READER_PROTOTYPE(RECORD_T)),
+    S2J_TEXT(S2J_KEYWORD_READER_PROTOTYPE(RECORD_T)), S2J_TEXT(S2J_ALL_FIELDS_READER_PROTOTYPE(RECORD_T))};
 
 // The family a member belongs to; with the type's name it makes the
 // member's exported name.

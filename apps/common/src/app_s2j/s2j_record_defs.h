@@ -15,6 +15,7 @@
 #include "app_s2j.h"
 #include "s2j_codec.h"
 #include "s2j_export.h"
+#include "s2j_family_table.h"
 #include "s2j_keys.h"
 #include "s2j_layout.h"
 #include "s2j_model.h"
@@ -74,13 +75,13 @@
         string_fields(T##_fields, sizeof(T##_fields) / sizeof(T##_fields[0]))};                    \
     }
 
-// The signatures of a type's emitter, reader and keyword readers, written
-// once: the shared library defines them with these heads, the internal
-// library declares them with them before its hooks refer to them.
-#define S2J_SIG_EMIT(T) S2J_API cJSON *struct_to_json_##T(const T *struct_ptr)
-#define S2J_SIG_READ(T) S2J_API int json_to_struct_##T(T *struct_ptr, const cJSON *json)
-#define S2J_SIG_KEYWORD(T) S2J_API int json_to_struct_##T##Keyword(T##Keyword *keyword, const cJSON *json)
-#define S2J_SIG_KEYWORD_ALL_FIELDS(T) S2J_API int json_to_struct_##T##Keyword(T *struct_ptr, const cJSON *json)
+// The heads of a type's emitter, reader and keyword readers: the shared
+// library defines them with these, the internal library declares them with
+// them before its hooks refer to them.
+#define S2J_SIG_EMIT(T) S2J_API S2J_EMITTER_PROTOTYPE(T)
+#define S2J_SIG_READ(T) S2J_API S2J_READER_PROTOTYPE(T)
+#define S2J_SIG_KEYWORD(T) S2J_API S2J_KEYWORD_READER_PROTOTYPE(T)
+#define S2J_SIG_KEYWORD_ALL_FIELDS(T) S2J_API S2J_ALL_FIELDS_READER_PROTOTYPE(T)
 #define S2J_SIG_FIRST_KEY(T, m)                                                                    \
     S2J_API int json_to_struct_Get##T##Keyword(::s2j::GetArg<decltype(T::m)> m, const cJSON *json)
 
