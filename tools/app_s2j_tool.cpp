@@ -34,11 +34,9 @@ int run_types(const std::vector<std::string> &args) {
 int load_or_report(const s2j::TypeInfo &t, const std::string &path, const std::string &text, Loaded *out,
                    const RecordSink &sink = nullptr) {
     int rc = load(t, text, out, sink);
-    if (rc != 0) {
-        std::fprintf(stderr, "app_s2j: %s: not a valid %s%s: status %d (%s)\n", path.c_str(), t.name,
-                     out->is_array ? " array" : "", rc, status_text(rc));
-        return kExitRejected;
-    }
+    if (rc != 0)
+        return rejected("%s: not a valid %s%s: status %d (%s)", path.c_str(), t.name, out->is_array ? " array" : "", rc,
+                        status_text(rc));
     return kExitOk;
 }
 
@@ -86,15 +84,11 @@ int run_print(const std::vector<std::string> &args) {
     // rejects.
     Loaded l;
     if (int rc = load_or_report(*t, path, text, &l)) return rc;
-    if (l.is_array && l.count == 0) {
-        std::fprintf(stderr, "app_s2j: %s: the array is empty; the library writes no empty arrays\n", path.c_str());
-        return kExitRejected;
-    }
+    if (l.is_array && l.count == 0)
+        return rejected("%s: the array is empty; the library writes no empty arrays", path.c_str());
     // The second pass prints a few records at a time.
-    if (write_document(*t, text, compact, [](const std::string &part) { std::fputs(part.c_str(), stdout); }) != 0) {
-        std::fprintf(stderr, "app_s2j: %s could not be written as text\n", t->name);
-        return kExitRejected;
-    }
+    if (write_document(*t, text, compact, [](const std::string &part) { std::fputs(part.c_str(), stdout); }) != 0)
+        return rejected("%s could not be written as text", t->name);
     std::fputs("\n", stdout);
     return kExitOk;
 }

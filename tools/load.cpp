@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -61,6 +62,19 @@ int usage_error(const Command &cmd, const std::string &why) {
     std::fprintf(stderr, "app_s2j: %s\nusage: app_s2j %s\n(app_s2j %s --help tells more)\n", why.c_str(),
                  cmd.synopsis, cmd.name);
     return kExitUsage;
+}
+
+int rejected(const char *fmt, ...) {
+    va_list ap, again;
+    va_start(ap, fmt);
+    va_copy(again, ap);
+    const int n = std::vsnprintf(nullptr, 0, fmt, ap);
+    va_end(ap);
+    std::string why(n > 0 ? static_cast<size_t>(n) : 0, '\0');
+    std::vsnprintf(&why[0], why.size() + 1, fmt, again);
+    va_end(again);
+    std::fprintf(stderr, "app_s2j: %s\n", why.c_str());
+    return kExitRejected;
 }
 
 int split_options(const Command &cmd, const std::vector<std::string> &args, std::initializer_list<Flag> flags,

@@ -165,10 +165,7 @@ namespace {
 int print_document(cJSON *doc) {
     char *text = doc == nullptr ? nullptr : cJSON_Print(doc);
     cJSON_Delete(doc);
-    if (text == nullptr) {
-        std::fprintf(stderr, "app_s2j: out of memory writing the schema\n");
-        return kExitRejected;
-    }
+    if (text == nullptr) return rejected("out of memory writing the schema");
     std::printf("%s\n", text);
     std::free(text);
     return kExitOk;

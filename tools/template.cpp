@@ -41,10 +41,8 @@ int run_template(const std::vector<std::string> &args) {
         return usage_error(kTemplateCommand, std::string(t->name) +
                                                  " is read as a record array only; --record does not apply");
     std::string text;
-    if (!template_json(*t, array || (!record && reads_arrays(*t)), &text)) {
-        std::fprintf(stderr, "app_s2j: %s could not be written as text\n", t->name);
-        return kExitRejected;
-    }
+    if (!template_json(*t, array || (!record && reads_arrays(*t)), &text))
+        return rejected("%s could not be written as text", t->name);
     std::printf("%s\n", text.c_str());
     return kExitOk;
 }

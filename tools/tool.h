@@ -62,6 +62,9 @@ const char *status_text(int rc);
 
 // Prints "app_s2j: WHY" and the command's synopsis to stderr; returns 2.
 int usage_error(const Command &cmd, const std::string &why);
+// Reports on standard error why a command cannot do its work ("app_s2j: "
+// and the formatted text, on one line) and gives kExitRejected.
+int rejected(const char *fmt, ...) __attribute__((format(printf, 1, 2)));
 // An option of a command: the spellings that set it (alias may be null).
 struct Flag {
     const char *name;

@@ -34,27 +34,15 @@ int run_update(const std::vector<std::string> &args) {
     }
 
     struct stat st;
-    if (stat(path.c_str(), &st) == 0 && !S_ISREG(st.st_mode) && !S_ISDIR(st.st_mode)) {
-        std::fprintf(stderr, "app_s2j: '%s' is not a regular file; update writes its file back\n", path.c_str());
-        return kExitRejected;
-    }
+    if (stat(path.c_str(), &st) == 0 && !S_ISREG(st.st_mode) && !S_ISDIR(st.st_mode))
+        return rejected("'%s' is not a regular file; update writes its file back", path.c_str());
     std::string text;
     if (!read_whole(path, &text)) return kExitRejected;
     RecordSet before;
-    if (int rc = load_all(*t, text, &before)) {
-        std::fprintf(stderr, "app_s2j: %s: not a valid %s array: status %d (%s)\n", path.c_str(), t->name, rc,
-                     status_text(rc));
-        return kExitRejected;
-    }
-    if (!before.is_array) {
-        std::fprintf(stderr, "app_s2j: %s: not a record array; the update applies to a record array\n",
-                     path.c_str());
-        return kExitRejected;
-    }
-    if (before.count == 0) {
-        std::fprintf(stderr, "app_s2j: %s: the array is empty; there is no record to update\n", path.c_str());
-        return kExitRejected;
-    }
+    if (int rc = load_all(*t, text, &before))
+        return rejected("%s: not a valid %s array: status %d (%s)", path.c_str(), t->name, rc, status_text(rc));
+    if (!before.is_array) return rejected("%s: not a record array; the update applies to a record array", path.c_str());
+    if (before.count == 0) return rejected("%s: the array is empty; there is no record to update", path.c_str());
     std::string request;
     if (!read_input(request_path, &request)) return kExitRejected;
 
@@ -63,11 +51,9 @@ int run_update(const std::vector<std::string> &args) {
     std::vector<char> after = before.bytes;
     uint32_t updates = before.count;
     int rc = quoted_call([&] { return t->fam.j2s_array_update(request.c_str(), after.data(), &updates); });
-    if (rc != 0) {
-        std::fprintf(stderr, "app_s2j: %s: j2s_array_update_%s refuses the request: status %d; %s is left as it was\n",
-                     request_path == "-" ? "standard input" : request_path.c_str(), t->name, rc, path.c_str());
-        return kExitRejected;
-    }
+    if (rc != 0)
+        return rejected("%s: j2s_array_update_%s refuses the request: status %d; %s is left as it was",
+                        request_path == "-" ? "standard input" : request_path.c_str(), t->name, rc, path.c_str());
 
     const size_t size = t->desc->size;
     uint32_t changed = 0;
@@ -89,19 +75,12 @@ int run_update(const std::vector<std::string> &args) {
         return kExitOk;
     }
     char *out = emit_text(*t, after.data(), before.count, true, 1);
-    if (out == nullptr) {
-        std::fprintf(stderr, "app_s2j: %s could not be written as text; %s is left as it was\n", t->name,
-                     path.c_str());
-        return kExitRejected;
-    }
+    if (out == nullptr) return rejected("%s could not be written as text; %s is left as it was", t->name, path.c_str());
     std::string new_text = out;
     std::free(out);
     std::string why;
     std::fflush(stdout);
-    if (!replace_file(path, new_text, &why)) {
-        std::fprintf(stderr, "app_s2j: %s\n", why.c_str());
-        return kExitRejected;
-    }
+    if (!replace_file(path, new_text, &why)) return rejected("%s", why.c_str());
     std::printf("%s changed; written\n", summary.c_str());
     return kExitOk;
 }
