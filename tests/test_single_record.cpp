@@ -149,9 +149,7 @@ TEST(SingleRecord, C2sReportsReaderFailureWithNewlineAndKeepsThePartialFill) {
 // `text` (status -2).
 std::string j2s_refusal(const char *text) {
     DeviceInfo info = {};
-    StderrCapture err;
-    EXPECT_EQ(j2s_DeviceInfo(text, &info), -2) << text;
-    return err.text();
+    return j2s_stderr(j2s_DeviceInfo, text, &info, -2);
 }
 
 // The same of j2s_DeviceInfo_with_len refusing `len` bytes of `text`.
